@@ -1,0 +1,12 @@
+#include "platform/camera_identity.h"
+
+#include <QCameraInfo>
+
+namespace platform {
+
+QString cameraUsbIdentity(const QCameraInfo& camera)
+{
+    return camera.deviceName();
+}
+
+} // namespace platform

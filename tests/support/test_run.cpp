@@ -1,0 +1,78 @@
+#include "tests/support/test_run.h"
+
+#include "config/configuration_record.h"
+
+#include <QDir>
+
+#include <algorithm>
+
+namespace testing {
+namespace {
+
+QStringList& recordedMessages()
+{
+    static QStringList messages;
+    return messages;
+}
+
+void record(QtMsgType, const QMessageLogContext&, const QString& message)
+{
+    recordedMessages().append(message);
+}
+
+} // namespace
+
+Profile::Profile()
+{
+    qputenv("HOME", m_home.path().toUtf8());
+    for (const char* variable :
+         {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_DOCUMENTS_DIR"})
+        qunsetenv(variable);
+}
+
+void Profile::reset()
+{
+    QDir documents(config::documentsPath());
+    documents.removeRecursively();
+    documents.mkpath(QStringLiteral("."));
+}
+
+Profile& profile()
+{
+    static Profile instance;
+    return instance;
+}
+
+void prepareEnvironment()
+{
+    profile();
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("LC_ALL", "C.UTF-8");
+    qputenv("QT_LOGGING_RULES", "qt.qpa.*=false");
+}
+
+LogRecorder::LogRecorder()
+{
+    recordedMessages().clear();
+    m_previous = qInstallMessageHandler(record);
+}
+
+LogRecorder::~LogRecorder()
+{
+    qInstallMessageHandler(m_previous);
+}
+
+QStringList LogRecorder::messages() const
+{
+    return recordedMessages();
+}
+
+bool LogRecorder::contains(const QString& text) const
+{
+    const QStringList& messages = recordedMessages();
+    return std::any_of(messages.begin(), messages.end(),
+                       [&text](const QString& message) { return message.contains(text); });
+}
+
+} // namespace testing

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QApplication>
+#include <QTemporaryDir>
+#include <QtTest>
+
+/// How every test program starts: with no display and no audio device, the C locale, and a home
+/// folder of its own, so that no test meets a user's files or another test's.
+namespace testing {
+
+/// A throw-away home folder. While it lives, the documents location lies inside it.
+class Profile
+{
+public:
+    Profile();
+    /// The home folder, without a trailing slash.
+    QString home() const { return m_home.path(); }
+    /// Back to a fresh profile: documents folder there and empty.
+    void reset();
+
+private:
+    QTemporaryDir m_home;
+};
+
+/// The profile of this test program.
+Profile& profile();
+
+/// Sets what must be set before the application object exists.
+void prepareEnvironment();
+
+/// Runs all test functions of T; what main() returns.
+template<typename T>
+int run(int argc, char** argv)
+{
+    prepareEnvironment();
+    QApplication application(argc, argv);
+    profile().reset();
+    T test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+/// What was logged while the recorder lived, without quotes, oldest first. Nothing reaches the
+/// terminal meanwhile.
+class LogRecorder
+{
+public:
+    LogRecorder();
+    ~LogRecorder();
+    LogRecorder(const LogRecorder&) = delete;
+    LogRecorder& operator=(const LogRecorder&) = delete;
+    QStringList messages() const;
+    bool contains(const QString& text) const;
+
+private:
+    QtMessageHandler m_previous;
+};
+
+} // namespace testing
