@@ -2,10 +2,10 @@
 
 /// Where the imager keeps what in one of its photographs.
 ///
-/// A photograph is an ordinary bitmap that any viewer opens (240 × 320, three bytes a pixel for model
-/// index 0, two for model index 1), followed by the imager's own blocks: an 8-bit gray image, a
-/// palette, a parameter block and, in one variant, a 16-bit raw image. All offsets are bytes from the
-/// start of the file, all numbers little-endian.
+/// A photograph is an ordinary bitmap that any viewer opens (240 × 320, three bytes a pixel for
+/// model index 0, two for model index 1), followed by the imager's own blocks: an 8-bit gray image,
+/// a palette, a parameter block and, in one variant, a 16-bit raw image. All offsets are bytes from
+/// the start of the file, all numbers little-endian.
 namespace analysis::format {
 
 constexpr int columns = 240;
@@ -32,17 +32,17 @@ constexpr int rawFileBytes = 406096;
 
 /// Fields of the parameter block, relative to its base. Temperatures are signed tenths of a degree.
 namespace parameter {
-constexpr int unit = 0;            ///< u8: 0 °C, 1 °F
-constexpr int maximum = 1;         ///< i16
-constexpr int minimum = 3;         ///< i16
-constexpr int grayMaximum = 5;     ///< u8: gray value that stands for the maximum
-constexpr int grayMinimum = 6;     ///< u8
-constexpr int centre = 7;          ///< i16
-constexpr int emissivity = 9;      ///< u8, hundredths
-constexpr int machineId = 10;      ///< u32; 5 and 6 are supported
-constexpr int markerA = 14;        ///< x, y: u16 each
-constexpr int markerB = 18;        ///< x, y: u16 each
-constexpr int markerC = 22;        ///< x, y: u16 each, one-based
+constexpr int unit = 0;             ///< u8: 0 °C, 1 °F
+constexpr int maximum = 1;          ///< i16
+constexpr int minimum = 3;          ///< i16
+constexpr int grayMaximum = 5;      ///< u8: gray value that stands for the maximum
+constexpr int grayMinimum = 6;      ///< u8
+constexpr int centre = 7;           ///< i16
+constexpr int emissivity = 9;       ///< u8, hundredths
+constexpr int machineId = 10;       ///< u32; 5 and 6 are supported
+constexpr int markerA = 14;         ///< x, y: u16 each
+constexpr int markerB = 18;         ///< x, y: u16 each
+constexpr int markerC = 22;         ///< x, y: u16 each, one-based
 constexpr int firmwareVersion = 42; ///< u16, tenths; model index 1 only
 } // namespace parameter
 

@@ -11,7 +11,8 @@
 /// never truncated, so the tail of a longer, older record may follow the current one.
 ///
 /// Every function opens the file anew; nothing is cached and nothing is reported. A missing,
-/// unreadable, short or damaged file yields empty fields. GUI thread or any other, but one at a time.
+/// unreadable, short or damaged file yields empty fields. GUI thread or any other, but one at a
+/// time.
 namespace config {
 
 struct Record

@@ -2,9 +2,10 @@
 
 /// The live thermal frame: what the imager sends as one UVC frame.
 ///
-/// A YUYV 4:2:2 picture of 240 × 320 (portrait), rows of 480 bytes without padding, already rendered
-/// in false colour by the imager, followed by three little-endian unsigned 16-bit words. The frame's
-/// own size and pixel format, as the multimedia backend reports them, are not consulted.
+/// A YUYV 4:2:2 picture of 240 × 320 (portrait), rows of 480 bytes without padding, already
+/// rendered in false colour by the imager, followed by three little-endian unsigned 16-bit words.
+/// The frame's own size and pixel format, as the multimedia backend reports them, are not
+/// consulted.
 namespace live {
 
 constexpr int frameColumns = 240;

@@ -6,9 +6,9 @@
 /// The measurement tools a user places on a photograph.
 ///
 /// All coordinates are image coordinates of the thermal frame: x 0 … 239 across, y 0 … 319 down,
-/// never label pixels. −1 means "made, but not placed yet"; such records are painted and measured by
-/// nobody. 240 and 320 can occur (see the conversions of the label), so whoever reads a temperature
-/// at a tool's position guards the read.
+/// never label pixels. −1 means "made, but not placed yet"; such records are painted and measured
+/// by nobody. 240 and 320 can occur (see the conversions of the label), so whoever reads a
+/// temperature at a tool's position guards the read.
 namespace overlay {
 
 constexpr int imageColumns = 240;

@@ -1,5 +1,4 @@
 #include "platform/camera_identity.h"
-
 #include "platform/device_tree_linux.h"
 
 #include <QCameraInfo>
@@ -13,7 +12,8 @@ namespace {
 QString attribute(const QString& folder, const QString& name)
 {
     QFile file(folder + QLatin1Char('/') + name);
-    return file.open(QIODevice::ReadOnly) ? QString::fromLatin1(file.read(256)).trimmed() : QString();
+    return file.open(QIODevice::ReadOnly) ? QString::fromLatin1(file.read(256)).trimmed()
+                                          : QString();
 }
 
 } // namespace
@@ -36,7 +36,7 @@ QString usbIdentityOfVideoDevice(const QString& fileName, const QString& sysVide
 
 QString cameraUsbIdentity(const QCameraInfo& camera)
 {
-    const QString name = camera.deviceName();
+    QString name = camera.deviceName();
     if (!name.startsWith(QLatin1String("/dev/")))
         return name;
     // A name under /dev may be a link ("/dev/v4l/by-id/..."); the device tree knows its target.

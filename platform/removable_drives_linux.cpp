@@ -1,6 +1,5 @@
-#include "platform/removable_drives.h"
-
 #include "platform/mounted_volumes_linux.h"
+#include "platform/removable_drives.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -35,7 +34,8 @@ bool isSystemMountPoint(const QString& mountPoint)
 
 bool isRemovable(const QString& sysDevBlock, const QString& deviceNumber)
 {
-    const QString device = QFileInfo(sysDevBlock + QLatin1Char('/') + deviceNumber).canonicalFilePath();
+    const QString device =
+        QFileInfo(sysDevBlock + QLatin1Char('/') + deviceNumber).canonicalFilePath();
     if (device.isEmpty())
         return false;
     if (device.contains(QLatin1String("/usb")))
