@@ -1,5 +1,7 @@
 #pragma once
 
+#include "resources/resources.h"
+
 #include <QApplication>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -34,6 +36,7 @@ int run(int argc, char** argv)
 {
     prepareEnvironment();
     QApplication application(argc, argv);
+    resources::load();
     profile().reset();
     T test;
     return QTest::qExec(&test, argc, argv);
