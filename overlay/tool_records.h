@@ -55,4 +55,12 @@ struct CircleTool
     QColor colour = QColor(255, 0, 0, 255);
 };
 
+/// A spot that the photograph itself carries: A and B are the marked ones, C the reticle. The
+/// file's words are unsigned; they are kept modulo 2^16, so a spot can lie outside the picture.
+struct Marker
+{
+    qint16 x = -1;
+    qint16 y = -1;
+};
+
 } // namespace overlay
