@@ -1,61 +1,20 @@
 #include "simulator/simulated_camera.h"
+#include "tests/simulator/recording_surface.h"
 #include "tests/support/test_run.h"
 
-#include <QAbstractVideoSurface>
 #include <QCamera>
 #include <QCameraInfo>
-#include <QVideoSurfaceFormat>
 
-#include <functional>
 #include <memory>
 
 using simulator::CameraIdentity;
 using simulator::SimulatedCamera;
+using testing::RecordingSurface;
 
 namespace {
 
 const CameraIdentity webcam{QStringLiteral("\\\\?\\usb#vid_046d&pid_0825#1"),
                             QStringLiteral("Webcam")};
-
-/// Keeps what it is shown.
-class Surface : public QAbstractVideoSurface
-{
-public:
-    explicit Surface(QVideoFrame::PixelFormat format = QVideoFrame::Format_YUYV) : m_format(format)
-    {
-    }
-
-    QList<QVideoFrame::PixelFormat>
-    supportedPixelFormats(QAbstractVideoBuffer::HandleType) const override
-    {
-        return {m_format};
-    }
-    bool present(const QVideoFrame& shown) override
-    {
-        QVideoFrame frame(shown);
-        frame.map(QAbstractVideoBuffer::ReadOnly);
-        pictures.append(
-            QByteArray(reinterpret_cast<const char*>(frame.bits()), frame.mappedBytes()));
-        lastSize = frame.size();
-        lastBytesPerLine = frame.bytesPerLine();
-        frame.unmap();
-        lastFormat = frame.pixelFormat();
-        lastWasValid = shown.isValid();
-        if (onPresent)
-            onPresent();
-        return lastWasValid;
-    }
-
-    QList<QByteArray> pictures;
-    QSize lastSize;
-    int lastBytesPerLine = 0;
-    QVideoFrame::PixelFormat lastFormat = QVideoFrame::Format_Invalid;
-    bool lastWasValid = false;
-    std::function<void()> onPresent;
-
-private:
-    QVideoFrame::PixelFormat m_format;
-};
 
 SimulatedCamera& simulated()
 {
@@ -173,7 +132,7 @@ void SimulatedCameraTest::severalCamerasAreListedInOrder()
 void SimulatedCameraTest::deliversExactlyTheBytes()
 {
     simulated().plug();
-    Surface surface;
+    RecordingSurface surface;
     const auto camera = startedCamera(&surface);
     QCOMPARE(camera->error(), QCamera::NoError);
     QCOMPARE(camera->state(), QCamera::ActiveState);
@@ -202,7 +161,7 @@ void SimulatedCameraTest::deliversNothingUnlessActive()
     simulated().plug();
     QVERIFY(!simulated().deliver(frame));
 
-    Surface surface;
+    RecordingSurface surface;
     QCamera camera(infoOf(simulator::imagerIdentity()));
     camera.setViewfinder(&surface);
     QVERIFY(!simulated().deliver(frame));
@@ -219,7 +178,7 @@ void SimulatedCameraTest::deliversNothingUnlessActive()
 void SimulatedCameraTest::surfaceIsStartedAndStopped()
 {
     simulated().plug();
-    Surface surface;
+    RecordingSurface surface;
     auto camera = startedCamera(&surface);
     QVERIFY(simulated().deliver("frame"));
     QVERIFY(surface.isActive());
@@ -236,7 +195,7 @@ void SimulatedCameraTest::surfaceIsStartedAndStopped()
 void SimulatedCameraTest::stopAndStartAgain()
 {
     simulated().plug();
-    Surface surface;
+    RecordingSurface surface;
     const auto camera = startedCamera(&surface);
     camera->stop();
     QVERIFY(!simulated().isRunning());
@@ -253,7 +212,7 @@ void SimulatedCameraTest::stopAndStartAgain()
 void SimulatedCameraTest::startTwiceIsHarmless()
 {
     simulated().plug();
-    Surface surface;
+    RecordingSurface surface;
     const auto camera = startedCamera(&surface);
     camera->start();
     QVERIFY(simulated().deliver("frame"));
@@ -264,7 +223,7 @@ void SimulatedCameraTest::startTwiceIsHarmless()
 void SimulatedCameraTest::unplugWhileRunningIsAnError()
 {
     simulated().plug();
-    Surface surface;
+    RecordingSurface surface;
     const auto camera = startedCamera(&surface);
     QVERIFY(simulated().deliver("frame"));
     simulated().unplug();
@@ -288,7 +247,7 @@ void SimulatedCameraTest::unpluggingAnotherCameraIsNoError()
 {
     simulated().plug(webcam);
     simulated().plug();
-    Surface surface;
+    RecordingSurface surface;
     const auto camera = startedCamera(&surface);
     simulated().unplug(webcam);
     QCOMPARE(camera->error(), QCamera::NoError);
@@ -298,7 +257,7 @@ void SimulatedCameraTest::unpluggingAnotherCameraIsNoError()
 void SimulatedCameraTest::reportedErrorEndsTheFrames()
 {
     simulated().plug();
-    Surface surface;
+    RecordingSurface surface;
     const auto camera = startedCamera(&surface);
     simulated().reportError();
     QCOMPARE(camera->error(), QCamera::CameraError);
@@ -324,8 +283,8 @@ void SimulatedCameraTest::startingAnUnpluggedCameraFails()
 void SimulatedCameraTest::aDeviceServesOneCameraAtATime()
 {
     simulated().plug();
-    Surface firstSurface;
-    Surface secondSurface;
+    RecordingSurface firstSurface;
+    RecordingSurface secondSurface;
     auto first = startedCamera(&firstSurface);
     const auto second = startedCamera(&secondSurface);
     QCOMPARE(second->error(), QCamera::CameraError);
@@ -349,8 +308,8 @@ void SimulatedCameraTest::twoDevicesRunSideBySide()
 {
     simulated().plug(webcam);
     simulated().plug();
-    Surface imagerSurface;
-    Surface webcamSurface;
+    RecordingSurface imagerSurface;
+    RecordingSurface webcamSurface;
     const auto imager = startedCamera(&imagerSurface);
     const auto other = startedCamera(&webcamSurface, webcam);
     QVERIFY(simulated().deliver("frame"));
@@ -377,7 +336,7 @@ void SimulatedCameraTest::camerasAndSurfacesMayGoInAnyOrder()
 {
     QFETCH(QString, order);
     simulated().plug();
-    auto surface = std::make_unique<Surface>();
+    auto surface = std::make_unique<RecordingSurface>();
     auto camera = startedCamera(surface.get());
     QVERIFY(simulated().deliver("frame"));
     for (const QChar step : order) {
@@ -401,7 +360,7 @@ void SimulatedCameraTest::camerasAndSurfacesMayGoInAnyOrder()
 void SimulatedCameraTest::aSurfaceOfAnotherFormatGetsNothing()
 {
     simulated().plug();
-    Surface surface(QVideoFrame::Format_RGB32);
+    RecordingSurface surface(QVideoFrame::Format_RGB32);
     const auto camera = startedCamera(&surface);
     QVERIFY(!simulated().deliver("frame"));
     QVERIFY(surface.pictures.isEmpty());
@@ -410,7 +369,7 @@ void SimulatedCameraTest::aSurfaceOfAnotherFormatGetsNothing()
 void SimulatedCameraTest::slotsMayDeleteTheCamera()
 {
     simulated().plug();
-    Surface surface;
+    RecordingSurface surface;
     auto camera = startedCamera(&surface);
     connect(camera.get(), QOverload<QCamera::Error>::of(&QCamera::error), this,
             [&camera] { camera->deleteLater(); });
@@ -430,7 +389,7 @@ void SimulatedCameraTest::runningIsTold()
     QSignalSpy plugged(&simulated(), &SimulatedCamera::pluggedChanged);
     simulated().plug();
     QCOMPARE(plugged.size(), 1);
-    Surface surface;
+    RecordingSurface surface;
     auto camera = startedCamera(&surface);
     QVERIFY(simulated().isRunning());
     QCOMPARE(running.takeFirst(), QVariantList{true});

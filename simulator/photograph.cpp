@@ -1,0 +1,137 @@
+#include "simulator/photograph.h"
+
+#include "analysis/photograph_format.h"
+
+#include <QtEndian>
+
+#include <algorithm>
+#include <cmath>
+
+namespace simulator {
+namespace {
+
+namespace format = analysis::format;
+
+constexpr int bitmapHeaderBytes = 54;
+constexpr int fileSizeOffset = 2;
+constexpr QPoint centre(format::columns / 2, format::rows / 2);
+
+/// Overwrites bytes of the file with a number, least significant byte first.
+template<typename T>
+void put(QByteArray& file, int offset, T value)
+{
+    const T littleEndian = qToLittleEndian(value);
+    file.replace(offset, sizeof value, reinterpret_cast<const char*>(&littleEndian), sizeof value);
+}
+
+/// A bottom-up bitmap without colour masks: 24 bits a pixel (BGR) or 16 (five bits a channel). Both
+/// row lengths are multiples of four already.
+QByteArray bitmap(const QImage& picture, int bitsPerPixel)
+{
+    const int rowBytes = format::columns * bitsPerPixel / 8;
+    const int pixelBytes = rowBytes * format::rows;
+    QByteArray file(bitmapHeaderBytes + pixelBytes, '\0');
+    file.replace(0, 2, "BM");
+    put<quint32>(file, 10, bitmapHeaderBytes);
+    put<quint32>(file, 14, 40);
+    put<qint32>(file, 18, format::columns);
+    put<qint32>(file, 22, format::rows);
+    put<quint16>(file, 26, 1);
+    put<quint16>(file, 28, quint16(bitsPerPixel));
+    put<quint32>(file, 34, quint32(pixelBytes));
+    const QImage converted =
+        picture.convertToFormat(bitsPerPixel == 24 ? QImage::Format_BGR888 : QImage::Format_RGB555);
+    for (int row = 0; row < format::rows; ++row) {
+        char* out = file.data() + bitmapHeaderBytes + (format::rows - 1 - row) * rowBytes;
+        const uchar* line = converted.constScanLine(row);
+        if (bitsPerPixel == 24)
+            std::copy_n(line, rowBytes, out);
+        else
+            qToLittleEndian<quint16>(line, format::columns, out);
+    }
+    return file;
+}
+
+qint16 tenths(double degrees)
+{
+    return qint16(std::clamp(std::lround(degrees * 10), -32768L, 32767L));
+}
+
+QByteArray rawImage(const Field& celsius)
+{
+    QByteArray block(format::rawRows * format::rawColumns * 2, '\0');
+    for (int row = 0; row < format::rawRows; ++row)
+        for (int column = 0; column < format::rawColumns; ++column) {
+            // The first pixel of the 240 × 320 picture that this one is shown in.
+            const int y = (5 * row + 3) / 4;
+            const int x = (5 * column + 3) / 4;
+            const double kelvin = double(celsius[size_t(y * format::columns + x)]) + 273.15;
+            put(block, 2 * (row * format::rawColumns + column),
+                quint16(std::clamp(std::lround(kelvin * 16), 0L, 65535L)));
+        }
+    return block;
+}
+
+} // namespace
+
+QByteArray photograph(const Field& celsius, const PhotographSettings& settings)
+{
+    const bool isModelOne = settings.modelIndex == 1;
+    const format::Layout& layout = isModelOne ? format::modelOne : format::modelZero;
+
+    Field field = celsius;
+    if (settings.fahrenheit)
+        std::transform(field.begin(), field.end(), field.begin(),
+                       [](float degrees) { return degrees * 1.8F + 32; });
+    const GrayPicture picture = grayPicture(field);
+    const PaletteTable& palette = paletteTable(settings.palette);
+
+    QByteArray file = bitmap(falseColour(picture.gray, palette), isModelOne ? 16 : 24);
+    // Between picture and gray image model index 1 leaves three bytes; unused bytes are zero.
+    const int end = settings.raw
+                        ? format::rawFileBytes
+                        : layout.parameters + (isModelOne ? format::parameter::firmwareVersion + 2
+                                                          : format::parameter::markerC + 4);
+    file.append(end - file.size(), '\0');
+    put<quint32>(file, fileSizeOffset, quint32(end));
+
+    QByteArray gray = picture.gray;
+    if (isModelOne)
+        std::reverse(gray.begin(), gray.end());
+    file.replace(layout.gray, format::grayBytes, gray);
+    for (int i = 0; i < format::paletteEntries; ++i)
+        put(file, layout.palette + 2 * i, palette[size_t(i)]);
+
+    namespace parameter = format::parameter;
+    const int base = layout.parameters;
+    const auto putMarker = [&file, base](int offset, QPoint place) {
+        put(file, base + offset, quint16(place.x()));
+        put(file, base + offset + 2, quint16(place.y()));
+    };
+    // Model index 1 looks through a sensor that hangs upside down, in the markers too.
+    const auto stored = [isModelOne](QPoint place) {
+        return isModelOne ? QPoint(format::columns - 1, format::rows - 1) - place : place;
+    };
+    put(file, base + parameter::unit, quint8(settings.fahrenheit ? 1 : 0));
+    put(file, base + parameter::maximum, qint16(picture.maximum10));
+    put(file, base + parameter::minimum, qint16(picture.minimum10));
+    put(file, base + parameter::grayMaximum, picture.grayMaximum);
+    put(file, base + parameter::grayMinimum, picture.grayMinimum);
+    put(file, base + parameter::centre,
+        tenths(double(field[size_t(centre.y() * format::columns + centre.x())])));
+    put(file, base + parameter::emissivity, quint8(std::lround(settings.emissivity * 100)));
+    put(file, base + parameter::machineId, settings.machineId);
+    putMarker(parameter::markerA, stored(picture.coldest));
+    putMarker(parameter::markerB, stored(picture.hottest));
+    // Counted from one; turning 240 − x and counting from one cancel each other in model index 1.
+    putMarker(parameter::markerC, isModelOne ? stored(centre) : centre + QPoint(1, 1));
+    if (isModelOne)
+        put(file, base + parameter::firmwareVersion, quint16(settings.firmware10));
+
+    if (settings.raw)
+        file.replace(format::rawOffset, format::rawRows * format::rawColumns * 2,
+                     rawImage(celsius));
+    return file;
+}
+
+} // namespace simulator

@@ -1,0 +1,99 @@
+#include "simulator/simulated_disk.h"
+
+#include "platform/removable_drives.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSaveFile>
+
+namespace simulator {
+namespace {
+
+struct Drives
+{
+    int disks = 0;
+    QStringList pluggedRoots;
+};
+
+Drives& drives()
+{
+    static Drives instance;
+    return instance;
+}
+
+} // namespace
+
+QString SimulatedDisk::photographFolderName(int modelIndex)
+{
+    return modelIndex == 1 ? QStringLiteral("Images") : QStringLiteral("DCIM_100");
+}
+
+SimulatedDisk::SimulatedDisk(Content content, QObject* parent)
+    : QObject(parent), m_root(m_temporary.path() + QStringLiteral("/IMAGER/")), m_isTemporary(true)
+{
+    QDir outside(m_temporary.path());
+    outside.mkdir(QStringLiteral("out"));
+    if (content == Content::ImagerFolders)
+        outside.mkpath(QStringLiteral("out/") + photographFolderName(0));
+    enterDriveList();
+}
+
+SimulatedDisk::SimulatedDisk(const QString& folder, QObject* parent)
+    : QObject(parent),
+      m_root(folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/'))
+{
+    enterDriveList();
+}
+
+void SimulatedDisk::enterDriveList()
+{
+    ++drives().disks;
+    platform::setDriveProvider([] { return drives().pluggedRoots; });
+}
+
+SimulatedDisk::~SimulatedDisk()
+{
+    drives().pluggedRoots.removeOne(m_root);
+    if (--drives().disks == 0)
+        platform::setDriveProvider({});
+}
+
+void SimulatedDisk::plug()
+{
+    if (m_plugged)
+        return;
+    if (m_isTemporary)
+        QDir(m_temporary.path()).rename(QStringLiteral("out"), QStringLiteral("IMAGER"));
+    m_plugged = true;
+    drives().pluggedRoots.append(m_root);
+    emit pluggedChanged(true);
+}
+
+void SimulatedDisk::unplug()
+{
+    if (!m_plugged)
+        return;
+    if (m_isTemporary)
+        QDir(m_temporary.path()).rename(QStringLiteral("IMAGER"), QStringLiteral("out"));
+    m_plugged = false;
+    drives().pluggedRoots.removeOne(m_root);
+    emit pluggedChanged(false);
+}
+
+QString SimulatedDisk::store(const QByteArray& photograph, int modelIndex, const QDateTime& takenAt)
+{
+    const QString folder = m_root + photographFolderName(modelIndex);
+    if (!m_plugged || !QDir().mkpath(folder))
+        return {};
+    const QString name =
+        folder + QLatin1Char('/') + takenAt.toString(QStringLiteral("yyyyMMdd_hhmmss"));
+    QString path = name + QStringLiteral(".bmp");
+    for (int number = 2; QFile::exists(path); ++number)
+        path = name + QStringLiteral("_%1.bmp").arg(number);
+    QSaveFile file(path);
+    const bool isStored = file.open(QIODevice::WriteOnly) &&
+                          file.write(photograph) == photograph.size() && file.commit();
+    return isStored ? path : QString();
+}
+
+} // namespace simulator

@@ -1,0 +1,137 @@
+#include "simulator/simulated_imager.h"
+
+#include "simulator/simulated_camera.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace simulator {
+SimulatedImager::SimulatedImager(QObject* parent) : QObject(parent)
+{
+    setScene(SceneKind::CableJoint);
+    m_timer.setTimerType(Qt::PreciseTimer);
+    connect(&m_timer, &QTimer::timeout, this, &SimulatedImager::sendFrame);
+    const SimulatedCamera& camera = SimulatedCamera::instance();
+    connect(&camera, &SimulatedCamera::runningChanged, this, &SimulatedImager::runTimer);
+    connect(&camera, &SimulatedCamera::pluggedChanged, this, &SimulatedImager::changed);
+    connect(&m_disk, &SimulatedDisk::pluggedChanged, this, &SimulatedImager::changed);
+    runTimer();
+}
+
+SimulatedImager::~SimulatedImager()
+{
+    SimulatedCamera::instance().disconnect(this);
+    SimulatedCamera::instance().unplug(imagerIdentity());
+}
+
+bool SimulatedImager::isCameraPlugged() const
+{
+    return SimulatedCamera::instance().isPlugged(imagerIdentity());
+}
+
+void SimulatedImager::setCameraPlugged(bool plugged)
+{
+    if (plugged == isCameraPlugged())
+        return;
+    if (plugged)
+        SimulatedCamera::instance().plug();
+    else
+        SimulatedCamera::instance().unplug(imagerIdentity());
+}
+
+void SimulatedImager::setDiskPlugged(bool plugged)
+{
+    if (plugged)
+        m_disk.plug();
+    else
+        m_disk.unplug();
+}
+
+void SimulatedImager::reportCameraError()
+{
+    SimulatedCamera::instance().reportError();
+}
+
+void SimulatedImager::setScene(SceneKind scene)
+{
+    if (m_scene && m_scene->kind() == scene)
+        return;
+    m_scene = std::make_unique<Scene>(scene);
+    m_hotSpot = m_scene->usualHotSpot();
+    settle();
+    emit changed();
+}
+
+void SimulatedImager::setHotSpot(double celsius)
+{
+    m_hotSpot = celsius;
+    emit changed();
+}
+
+void SimulatedImager::setThreshold(double celsius)
+{
+    m_threshold = celsius;
+    emit changed();
+}
+
+void SimulatedImager::setEmissivity(double emissivity)
+{
+    m_photograph.emissivity = emissivity;
+    emit changed();
+}
+
+void SimulatedImager::setPalette(Palette palette)
+{
+    m_photograph.palette = palette;
+    emit changed();
+}
+
+void SimulatedImager::setFrameRate(int framesPerSecond)
+{
+    m_frameRate = std::max(0, framesPerSecond);
+    runTimer();
+    emit changed();
+}
+
+void SimulatedImager::setPhotographSettings(const PhotographSettings& settings)
+{
+    m_photograph = settings;
+    emit changed();
+}
+
+bool SimulatedImager::sendFrame()
+{
+    pass(1.0 / (m_frameRate > 0 ? m_frameRate : usualFrameRate));
+    const bool isSent = SimulatedCamera::instance().isRunning() &&
+                        SimulatedCamera::instance().deliver(
+                            liveFrame(field(), palette(), m_threshold, m_photograph.emissivity));
+    if (isSent)
+        emit frameSent();
+    return isSent;
+}
+
+QString SimulatedImager::takePhotograph()
+{
+    const QString path = m_disk.store(photograph(field(), m_photograph), m_photograph.modelIndex);
+    pass(1);
+    if (!path.isEmpty())
+        emit photographTaken(path);
+    return path;
+}
+
+void SimulatedImager::pass(double seconds)
+{
+    m_seconds += seconds;
+    m_reachedHotSpot += (m_hotSpot - m_reachedHotSpot) * (1 - std::exp2(-seconds));
+}
+
+/// Nobody looks, nothing is rendered.
+void SimulatedImager::runTimer()
+{
+    if (SimulatedCamera::instance().isRunning() && m_frameRate > 0)
+        m_timer.start(1000 / m_frameRate);
+    else
+        m_timer.stop();
+}
+
+} // namespace simulator
