@@ -1,21 +1,48 @@
 #pragma once
 
+#include <QtGlobal>
+
 /// The live thermal frame: what the imager sends as one UVC frame.
 ///
 /// A YUYV 4:2:2 picture of 240 × 320 (portrait), rows of 480 bytes without padding, already
 /// rendered in false colour by the imager, followed by three little-endian unsigned 16-bit words.
 /// The frame's own size and pixel format, as the multimedia backend reports them, are not
 /// consulted.
+///
+/// Everything here is pure: no state, any thread.
 namespace live {
 
 constexpr int frameColumns = 240;
 constexpr int frameRows = 320;
-constexpr int pictureBytes = frameColumns * frameRows * 2; ///< 153,600
+constexpr int picturePixels = frameColumns * frameRows;
+constexpr int pictureBytes = picturePixels * 2; ///< 153,600
 /// Offsets of the three words: maximum temperature and alarm threshold in tenths of a degree,
 /// emissivity in hundredths.
 constexpr int maximumOffset = pictureBytes;
 constexpr int thresholdOffset = pictureBytes + 2;
 constexpr int emissivityOffset = pictureBytes + 4;
 constexpr int frameBytes = pictureBytes + 6; ///< 153,606; a shorter frame is skipped
+
+constexpr int rgbRowBytes = frameColumns * 3;     ///< 720, no padding
+constexpr int rgbBytes = rgbRowBytes * frameRows; ///< 230,400
+
+/// Converts the picture part of a frame (pictureBytes bytes, any alignment) to rgbBytes bytes of
+/// R, G, B. The two buffers do not overlap.
+///
+/// With u = U − 128 and v = V − 128, each value is truncated toward zero and clamped to 0 … 255:
+///     R = Y + 1.370705 v,   G = Y − 0.698001 v − 0.337633 u,   B = Y + 1.732446 u
+/// For all 2^24 (Y, U, V) the bytes are those of this formula in double precision.
+void convertPicture(const uchar* frame, uchar* rgb);
+
+/// The three numbers behind the picture.
+struct Readings
+{
+    float maximum;    ///< degrees of the scale the imager is set to; 0 … 6553.5
+    float threshold;  ///< the same
+    float emissivity; ///< 0 … 655.35
+};
+
+/// Reads the three words of a frame of at least frameBytes bytes, any alignment.
+Readings readings(const uchar* frame);
 
 } // namespace live

@@ -1,0 +1,128 @@
+#pragma once
+
+#include <QtGlobal>
+
+#include <array>
+
+/// The vector form of the conversion, written once for every width. `Vector` names a register type
+/// and a handful of instructions that work on each 16-byte lane by itself.
+namespace live {
+
+/// Shuffle indices of two equal lanes, so that a register of either width can take them as they
+/// lie.
+using Shuffle = std::array<char, 32>;
+
+constexpr char nothing = char(0x80); ///< a shuffle index that gives 0
+
+/// Repeats one 16-bit half of each 32-bit element in both halves.
+constexpr Shuffle repeatHalf(int half)
+{
+    Shuffle shuffle{};
+    for (int i = 0; i < 16; ++i)
+        shuffle[std::size_t(i)] = shuffle[std::size_t(i) + 16] = char(i / 4 * 4 + half * 2 + i % 2);
+    return shuffle;
+}
+
+/// Where byte `first` + i of 16 pixels R, G, B … comes from, if from eight R followed by eight G of
+/// the pixels `firstPixel` … `firstPixel` + 7.
+constexpr Shuffle fromRedGreen(int first, int firstPixel)
+{
+    Shuffle shuffle{};
+    for (int i = 0; i < 16; ++i) {
+        const int pixel = (first + i) / 3 - firstPixel;
+        const int channel = (first + i) % 3;
+        const bool here = channel < 2 && pixel >= 0 && pixel < 8;
+        shuffle[std::size_t(i)] = shuffle[std::size_t(i) + 16] =
+            here ? char(channel * 8 + pixel) : nothing;
+    }
+    return shuffle;
+}
+
+/// The same from sixteen B.
+constexpr Shuffle fromBlue(int first)
+{
+    Shuffle shuffle{};
+    for (int i = 0; i < 16; ++i)
+        shuffle[std::size_t(i)] = shuffle[std::size_t(i) + 16] =
+            (first + i) % 3 == 2 ? char((first + i) / 3) : nothing;
+    return shuffle;
+}
+
+/// Coefficients for a chroma value of 4 (C − 128). The high half of a 16 × 16 bit product is then
+/// floor(c (C − 128)) for c × 2^14, and these two are exact for all 256 values.
+constexpr short redOfV = 22458;
+constexpr short blueOfU = 28384;
+/// Green mixes both, and 16 bits are too few: −0.698001 and −0.337633 × 2^28, cut into high and low
+/// 14 bits. The high half of the sum is exact for all 65,536 pairs.
+constexpr short greenOfVHigh = -11437;
+constexpr short greenOfVLow = 15591;
+constexpr short greenOfUHigh = -5532;
+constexpr short greenOfULow = 3619;
+
+/// Eight pixels a lane, 16 bits each.
+template<typename Register>
+struct Channels
+{
+    Register red;
+    Register green;
+    Register blue;
+};
+
+template<typename Vector>
+Channels<typename Vector::Register> channels(typename Vector::Register yuyv)
+{
+    // Bytes Y, C times 0, 4: four times the chroma.
+    const auto chroma = Vector::subtract16(Vector::sumOfBytes(yuyv, Vector::pairs(0x0400, 0x0400)),
+                                           Vector::pairs(512, 512));
+    const auto blueRed = Vector::highProduct(chroma, Vector::pairs(blueOfU, redOfV));
+    const auto green =
+        Vector::add32(Vector::sumOfProducts(chroma, Vector::pairs(greenOfUHigh, greenOfVHigh)),
+                      Vector::template shiftRight32<14>(
+                          Vector::sumOfProducts(chroma, Vector::pairs(greenOfULow, greenOfVLow))));
+    const auto luma = Vector::bitAnd(yuyv, Vector::pairs(0x00FF, 0x00FF));
+    alignas(32) static constexpr Shuffle low = repeatHalf(0);
+    alignas(32) static constexpr Shuffle high = repeatHalf(1);
+    return {Vector::add16(luma, Vector::shuffle(blueRed, high)),
+            Vector::add16(luma, Vector::shuffle(green, high)),
+            Vector::add16(luma, Vector::shuffle(blueRed, low))};
+}
+
+/// Sixteen pixels a lane.
+template<typename Vector>
+void convertBlock(const uchar* yuyv, uchar* rgb)
+{
+    alignas(32) static constexpr Shuffle redGreen0 = fromRedGreen(0, 0);
+    alignas(32) static constexpr Shuffle redGreen1a = fromRedGreen(16, 0);
+    alignas(32) static constexpr Shuffle redGreen1b = fromRedGreen(16, 8);
+    alignas(32) static constexpr Shuffle redGreen2 = fromRedGreen(32, 8);
+    alignas(32) static constexpr Shuffle blue0 = fromBlue(0);
+    alignas(32) static constexpr Shuffle blue1 = fromBlue(16);
+    alignas(32) static constexpr Shuffle blue2 = fromBlue(32);
+
+    const auto a = channels<Vector>(Vector::load(yuyv));
+    const auto b = channels<Vector>(Vector::load(yuyv + 16));
+    const auto redGreenA = Vector::saturate(a.red, a.green);
+    const auto redGreenB = Vector::saturate(b.red, b.green);
+    const auto blue = Vector::saturate(a.blue, b.blue);
+    Vector::store(
+        rgb, Vector::bitOr(Vector::shuffle(redGreenA, redGreen0), Vector::shuffle(blue, blue0)));
+    Vector::store(rgb + 16, Vector::bitOr(Vector::bitOr(Vector::shuffle(redGreenA, redGreen1a),
+                                                        Vector::shuffle(redGreenB, redGreen1b)),
+                                          Vector::shuffle(blue, blue1)));
+    Vector::store(rgb + 32, Vector::bitOr(Vector::shuffle(redGreenB, redGreen2),
+                                          Vector::shuffle(blue, blue2)));
+}
+
+template<typename Vector>
+void convertVectors(const uchar* yuyv, int pixels, uchar* rgb)
+{
+    constexpr int block = 16 * Vector::lanes;
+    for (int pixel = 0; pixel < pixels; pixel += 2 * block) {
+        convertBlock<Vector>(yuyv, rgb);
+        convertBlock<Vector>(yuyv + 2 * block, rgb + 3 * block);
+        yuyv += 4 * block;
+        rgb += 6 * block;
+    }
+}
+
+} // namespace live

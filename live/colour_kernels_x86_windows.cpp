@@ -1,0 +1,13 @@
+#include "live/colour_kernels.h"
+
+namespace live {
+
+std::vector<NamedKernel> colourKernels()
+{
+    std::vector<NamedKernel> kernels{{"plain", convertPlain}};
+    if (__builtin_cpu_supports("ssse3"))
+        kernels.push_back({"ssse3", convertSsse3});
+    return kernels;
+}
+
+} // namespace live
