@@ -28,6 +28,7 @@ Profile::Profile()
     for (const char* variable :
          {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_DOCUMENTS_DIR"})
         qunsetenv(variable);
+    qputenv("XDG_RUNTIME_DIR", m_home.path().toUtf8());
 }
 
 void Profile::reset()

@@ -1,0 +1,17 @@
+#include "app/main_window.h"
+#include "app/startup.h"
+#include "resources/resources.h"
+
+#include <QApplication>
+
+int main(int argc, char** argv)
+{
+    startup::setAttributes();
+    QApplication application(argc, argv);
+    resources::load();
+    const startup::Translators translators(startup::languageCode());
+
+    MainWindow window;
+    window.show();
+    return QApplication::exec();
+}

@@ -1,0 +1,226 @@
+#include "app/seting.h"
+#include "config/configuration_record.h"
+#include "tests/support/dialogs.h"
+#include "tests/support/test_run.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QMetaMethod>
+#include <QPushButton>
+#include <QSignalSpy>
+
+namespace {
+
+/// Activates an entry with the keyboard, as a user does.
+void activate(seting& dialog, int index)
+{
+    auto* combo = dialog.findChild<QComboBox*>(QStringLiteral("comboBox"));
+    combo->setFocus();
+    const int steps = index - combo->currentIndex();
+    for (int i = 0; i < qAbs(steps); ++i)
+        QTest::keyClick(combo, steps > 0 ? Qt::Key_Down : Qt::Key_Up);
+    QCOMPARE(combo->currentIndex(), index);
+}
+
+void press(seting& dialog, const char* button)
+{
+    QTest::mouseClick(dialog.findChild<QPushButton*>(QLatin1String(button)), Qt::LeftButton);
+}
+
+} // namespace
+
+class SetingTest : public QObject
+{
+    Q_OBJECT
+
+    /// Presses Confirm and takes in the restart notice; its text.
+    static QString confirm(seting& dialog)
+    {
+        QString text;
+        testing::Answer<QMessageBox> notice([&text](QMessageBox& box) {
+            text = box.windowTitle() + QLatin1Char('|') + box.text();
+            QCOMPARE(box.standardButtons(), QMessageBox::StandardButtons(QMessageBox::Ok));
+            QCOMPARE(box.icon(), QMessageBox::Information);
+            box.button(QMessageBox::Ok)->click();
+        });
+        press(dialog, "pushButton_2");
+        return text;
+    }
+
+private slots:
+    void init()
+    {
+        testing::profile().reset();
+        config::create(QStringLiteral("EN"));
+    }
+
+    void slotsAndSignalsInTheirOrder()
+    {
+        const QMetaObject& meta = seting::staticMetaObject;
+        QStringList methods;
+        for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
+            methods.append(QString::fromLatin1(meta.method(i).methodSignature()));
+        QCOMPARE(methods, QStringList({QStringLiteral("send_addr(QString)"),
+                                       QStringLiteral("on_pushButton_3_clicked()"),
+                                       QStringLiteral("on_pushButton_2_clicked()"),
+                                       QStringLiteral("on_pushButton_clicked()"),
+                                       QStringLiteral("on_comboBox_currentIndexChanged(int)"),
+                                       QStringLiteral("on_comboBox_activated(int)")}));
+    }
+
+    void isAnApplicationModalDialog()
+    {
+        const seting dialog;
+        QCOMPARE(dialog.windowModality(), Qt::ApplicationModal);
+        QVERIFY(dialog.windowFlags().testFlag(Qt::Dialog));
+        QCOMPARE(dialog.windowTitle(), QStringLiteral("Therma Desk"));
+        QVERIFY(dialog.findChild<QLineEdit*>(QStringLiteral("lineEdit"))->isReadOnly());
+        QCOMPARE(dialog.language, QStringLiteral("CH"));
+    }
+
+    void entriesInTheirOrder()
+    {
+        const seting dialog;
+        const auto* combo = dialog.findChild<QComboBox*>(QStringLiteral("comboBox"));
+        QCOMPARE(combo->count(), 4);
+        QCOMPARE(combo->itemText(0), QStringLiteral("简体中文"));
+        QCOMPARE(combo->itemText(1), QStringLiteral("English"));
+        QCOMPARE(combo->itemText(2), QStringLiteral("Russian"));
+        QCOMPARE(combo->itemText(3), QStringLiteral("Korean"));
+    }
+
+    void showsTheStoredLanguage_data()
+    {
+        QTest::addColumn<QString>("code");
+        QTest::addColumn<int>("index");
+        QTest::newRow("CH") << "CH" << 0;
+        QTest::newRow("EN") << "EN" << 1;
+        QTest::newRow("RU") << "RU" << 2;
+        QTest::newRow("KO") << "KO" << 3;
+        QTest::newRow("lower case") << "ru" << 0;
+        QTest::newRow("unknown") << "DE" << 0;
+    }
+    void showsTheStoredLanguage()
+    {
+        QFETCH(QString, code);
+        config::replaceLanguage(code);
+        const seting dialog;
+        QTEST(dialog.findChild<QComboBox*>(QStringLiteral("comboBox"))->currentIndex(), "index");
+        QCOMPARE(dialog.language, QStringLiteral("CH"));
+    }
+
+    void showsTheStoredFolder()
+    {
+        config::replaceAlarmFolder(QStringLiteral("D:\\alarms"));
+        const seting dialog;
+        QCOMPARE(dialog.folder, QStringLiteral("D:\\alarms"));
+        QCOMPARE(dialog.findChild<QLineEdit*>(QStringLiteral("lineEdit"))->text(),
+                 QStringLiteral("D:\\alarms"));
+    }
+
+    void confirmUntouchedWritesChinese()
+    {
+        config::replaceLanguage(QStringLiteral("RU"));
+        seting dialog;
+        dialog.show();
+        testing::LogRecorder log;
+        QCOMPARE(confirm(dialog), QStringLiteral("提示|改动将在应用重启后生效!"));
+        QCOMPARE(config::read().language, QStringLiteral("CH"));
+        QVERIFY(log.contains(QStringLiteral("写入了 000,CH,") + config::folderPath()));
+        QVERIFY(!dialog.isVisible());
+    }
+
+    void onlyActivationChoosesTheLanguage()
+    {
+        seting dialog;
+        dialog.show();
+        dialog.findChild<QComboBox*>(QStringLiteral("comboBox"))->setCurrentIndex(3);
+        QCOMPARE(dialog.language, QStringLiteral("CH"));
+        activate(dialog, 2);
+        QCOMPARE(dialog.language, QStringLiteral("RU"));
+    }
+
+    void confirmWritesTheActivatedLanguage()
+    {
+        config::replaceAlarmFolder(QStringLiteral("X"));
+        seting dialog;
+        dialog.show();
+        activate(dialog, 3);
+        QSignalSpy sent(&dialog, &seting::send_addr);
+        QCOMPARE(confirm(dialog), QStringLiteral("提示|改动将在应用重启后生效!"));
+        QCOMPARE(config::read().language, QStringLiteral("KO"));
+        QCOMPARE(config::read().alarmFolder, QStringLiteral("X"));
+        QCOMPARE(sent.count(), 1);
+        QCOMPARE(sent.at(0).at(0).toString(), QStringLiteral("X"));
+    }
+
+    void confirmWithoutAFileStillGivesNotice()
+    {
+        seting dialog;
+        dialog.show();
+        QVERIFY(QFile::remove(config::filePath()));
+        QCOMPARE(confirm(dialog), QStringLiteral("提示|改动将在应用重启后生效!"));
+        QVERIFY(!config::exists());
+    }
+
+    void cancelWritesNoLanguage()
+    {
+        seting dialog;
+        dialog.show();
+        activate(dialog, 2);
+        press(dialog, "pushButton_3");
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(config::read().language, QStringLiteral("EN"));
+    }
+
+    void theChosenFolderIsSentWithBackSlashes()
+    {
+        const QString chosen = testing::profile().home() + QStringLiteral("/Documents/тревоги");
+        QVERIFY(QDir().mkpath(chosen));
+        seting dialog;
+        dialog.show();
+        QSignalSpy sent(&dialog, &seting::send_addr);
+        QString caption;
+        testing::Answer<QFileDialog> answer([&](QFileDialog& box) {
+            caption = box.windowTitle();
+            QVERIFY(box.testOption(QFileDialog::ShowDirsOnly));
+            box.selectFile(chosen);
+            box.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(chosen);
+            QMetaObject::invokeMethod(&box, "accept");
+        });
+        press(dialog, "pushButton");
+        QVERIFY(answer.wasAsked());
+        QCOMPARE(caption, QStringLiteral("选择一个目录"));
+        const QString expected = QString(chosen).replace(QLatin1Char('/'), QStringLiteral("\\"));
+        QCOMPARE(dialog.folder, expected);
+        QCOMPARE(dialog.findChild<QLineEdit*>(QStringLiteral("lineEdit"))->text(), expected);
+        QCOMPARE(sent.count(), 1);
+        QCOMPARE(sent.at(0).at(0).toString(), expected);
+    }
+
+    void cancellingTheChoiceSendsTheFolderAgain()
+    {
+        config::replaceAlarmFolder(QStringLiteral("D:/kept"));
+        seting dialog;
+        dialog.show();
+        QSignalSpy sent(&dialog, &seting::send_addr);
+        testing::Answer<QFileDialog> answer([](QFileDialog& box) { box.reject(); });
+        press(dialog, "pushButton");
+        QVERIFY(answer.wasAsked());
+        QCOMPARE(dialog.folder, QStringLiteral("D:/kept"));
+        QCOMPARE(sent.count(), 1);
+        QCOMPARE(sent.at(0).at(0).toString(), QStringLiteral("D:/kept"));
+    }
+};
+
+int main(int argc, char** argv)
+{
+    return testing::run<SetingTest>(argc, argv);
+}
+
+#include "seting_test.moc"
