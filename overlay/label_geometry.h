@@ -20,6 +20,12 @@ struct Geometry
     int imageHeight = 0; ///< the shown picture's, not 320
 };
 
+constexpr bool operator==(const Geometry& left, const Geometry& right)
+{
+    return left.labelWidth == right.labelWidth && left.imageWidth == right.imageWidth &&
+           left.labelHeight == right.labelHeight && left.imageHeight == right.imageHeight;
+}
+
 /// A position with an extent or a tolerance, in either system.
 struct Box
 {

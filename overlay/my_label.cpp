@@ -79,13 +79,56 @@ struct MyLabel::Canvas
     int above(bool before, int otherwise) const { return before ? -3 - nameExtent : otherwise; }
 };
 
-MyLabel::MyLabel(QWidget* parent) : QLabel(parent)
+/// Everything that the drawing of the tools depends on, but for the selected tool itself.
+struct MyLabel::Scene
+{
+    overlay::Geometry geometry;
+    QSize size;
+    qreal ratio = 0.0;
+    QVector<overlay::PointTool> points;
+    QVector<overlay::LineTool> lines;
+    QVector<overlay::RectTool> rects;
+    QVector<overlay::CircleTool> circles;
+    int active = -1; ///< the selected tool over all tools, −1 for none
+
+    void forget(const QString& type, int index)
+    {
+        if (active < 0)
+            return;
+        if (type == QLatin1String("P"))
+            points[index] = {};
+        else if (type == QLatin1String("L"))
+            lines[index] = {};
+        else if (type == QLatin1String("R"))
+            rects[index] = {};
+        else if (type == QLatin1String("C"))
+            circles[index] = {};
+    }
+
+    bool operator==(const Scene& other) const
+    {
+        return geometry == other.geometry && size == other.size && ratio == other.ratio &&
+               active == other.active && points == other.points && lines == other.lines &&
+               rects == other.rects && circles == other.circles;
+    }
+};
+
+struct MyLabel::Layers
+{
+    Scene scene;
+    QPixmap under;
+    QPixmap over;
+};
+
+MyLabel::MyLabel(QWidget* parent) : QLabel(parent), m_layers(std::make_unique<Layers>())
 {
     setMouseTracking(true);
     setAlignment(Qt::AlignCenter);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAccessibleName(tr("热像图与测温工具"));
 }
+
+MyLabel::~MyLabel() = default;
 
 void MyLabel::setOwner(QObject* window)
 {
@@ -314,12 +357,26 @@ void MyLabel::select(QChar letter, int index)
     selectedIndex = index;
 }
 
+int MyLabel::overallSelection() const
+{
+    return overlay::overallIndex(currentType.at(0), selectedIndex,
+                                 {pointList.size(), lineList.size(), rectList.size()});
+}
+
+/// The selected tool over all tools; −1 when the selection names none that there is.
+int MyLabel::activeTool() const
+{
+    const bool exists = (currentType == QLatin1String("P") && holds(pointList, selectedIndex)) ||
+                        (currentType == QLatin1String("L") && holds(lineList, selectedIndex)) ||
+                        (currentType == QLatin1String("R") && holds(rectList, selectedIndex)) ||
+                        (currentType == QLatin1String("C") && holds(circleList, selectedIndex));
+    return exists ? overallSelection() : -1;
+}
+
 void MyLabel::emitSelection()
 {
     if (currentType != QLatin1String("null") && !currentType.isEmpty())
-        emit Set_Select(
-            overlay::overallIndex(currentType.at(0), selectedIndex,
-                                  {pointList.size(), lineList.size(), rectList.size()}));
+        emit Set_Select(overallSelection());
 }
 
 /// Every tool under the press becomes the selection in turn, so the last one stays it.
@@ -357,6 +414,8 @@ void MyLabel::selectHits(const QVector<Tool>& list, const QString& message, IsHi
     }
 }
 
+/// Many tools are slow to draw antialiased, and of them all only the selected one follows the
+/// mouse. So what lies under it and what lies over it are drawn once and kept until either changes.
 void MyLabel::drawOverlay()
 {
     if (labelWidth <= 0 || labelHeight <= 0) {
@@ -375,13 +434,15 @@ void MyLabel::drawOverlay()
     QPainter painter(&overlay);
     painter.setRenderHint(QPainter::Antialiasing);
     if (imageWidth > 0 && imageHeight > 0) {
-        toWidget(0, 0, nameSize, nameSize);
-        Canvas canvas{painter, imageHeight / 500 + 1, m_scratch.w};
-        painter.setFont(labelFont(QFont::Normal, 0.9 * canvas.nameExtent));
-        drawPoints(canvas);
-        drawLines(canvas);
-        drawRects(canvas);
-        drawCircles(canvas);
+        const int active = activeTool();
+        updateLayers(active);
+        painter.drawPixmap(0, 0, m_layers->under);
+        if (active >= 0) {
+            const Canvas canvas = canvasOn(painter);
+            drawTools(canvas, active, active + 1);
+            painter.drawPixmap(0, 0, m_layers->over);
+        }
+        const Canvas canvas = canvasOn(painter);
         drawSpot(canvas, markerA, QColor(0, 255, 0), QStringLiteral("L"));
         drawSpot(canvas, markerB, QColor(255, 0, 0), QStringLiteral("H"));
         drawReticle(canvas);
@@ -390,76 +451,111 @@ void MyLabel::drawOverlay()
         drawMargins(painter);
 }
 
-void MyLabel::drawPoints(const Canvas& canvas)
+void MyLabel::updateLayers(int active)
 {
-    for (int index = 0; index < pointList.size(); ++index) {
-        const overlay::PointTool& point = pointList.at(index);
-        if (point.x < 0)
-            continue;
-        toWidget(point.x, point.y, point.size, point.size);
-        const auto [cx, cy, m, mHeight] = m_scratch;
-        const int arm = m / 2;
-        const int gap = canvas.penWidth;
-        canvas.use(isSelected(letterOf(point), index) ? selectColor : point.colour);
-        canvas.painter.drawLine(cx - arm, cy, cx - gap, cy);
-        canvas.painter.drawLine(cx + arm, cy, cx + gap, cy);
-        canvas.painter.drawLine(cx, cy - arm, cx, cy - gap);
-        canvas.painter.drawLine(cx, cy + arm, cx, cy + gap);
-        canvas.name(cx + canvas.beside(point.x > middleColumn, 3),
-                    cy + canvas.above(point.y > middleRow, 2), point.name);
-    }
+    Scene scene{{labelWidth, imageWidth, labelHeight, imageHeight},
+                overlay.size(),
+                overlay.devicePixelRatio(),
+                pointList,
+                lineList,
+                rectList,
+                circleList,
+                active};
+    scene.forget(currentType, selectedIndex);
+    if (m_layers->scene == scene)
+        return;
+    const int count = pointList.size() + lineList.size() + rectList.size() + circleList.size();
+    const auto draw = [&](QPixmap& layer, int begin, int end) {
+        if (layer.size() != overlay.size())
+            layer = QPixmap(overlay.size());
+        layer.setDevicePixelRatio(overlay.devicePixelRatio());
+        layer.fill(Qt::transparent);
+        QPainter painter(&layer);
+        painter.setRenderHint(QPainter::Antialiasing);
+        drawTools(canvasOn(painter), begin, end);
+    };
+    draw(m_layers->under, 0, active >= 0 ? active : count);
+    if (active >= 0)
+        draw(m_layers->over, active + 1, count);
+    m_layers->scene = scene;
 }
 
-void MyLabel::drawLines(const Canvas& canvas)
+/// Sets the painter up for tools.
+MyLabel::Canvas MyLabel::canvasOn(QPainter& painter)
 {
-    for (int index = 0; index < lineList.size(); ++index) {
-        const overlay::LineTool& line = lineList.at(index);
-        if (line.x1 < 0)
-            continue;
-        toWidget(line.x1, line.y1, 0, 0);
-        const QPoint start(m_scratch.x, m_scratch.y);
-        toWidget(line.x2, line.y2, 0, 0);
-        const QPoint end(m_scratch.x, m_scratch.y);
-        canvas.use(isSelected(letterOf(line), index) ? selectColor : line.colour);
-        canvas.painter.drawLine(start, end);
-        canvas.name(end.x() + canvas.beside(line.x2 > middleColumn, 0),
-                    end.y() + canvas.above(line.y2 > middleRow, 0), line.name);
-    }
+    toWidget(0, 0, nameSize, nameSize);
+    const Canvas canvas{painter, imageHeight / 500 + 1, m_scratch.w};
+    painter.setFont(labelFont(QFont::Normal, 0.9 * canvas.nameExtent));
+    return canvas;
+}
+
+/// The tools from `begin` to before `end`, counted over all kinds.
+void MyLabel::drawTools(const Canvas& canvas, int begin, int end)
+{
+    int offset = 0;
+    const auto draw = [&](const auto& list) {
+        const int last = std::min(end - offset, list.size());
+        for (int index = std::max(begin - offset, 0); index < last; ++index) {
+            const auto& tool = list.at(index);
+            if (!overlay::isPlaced(tool))
+                continue;
+            canvas.use(isSelected(letterOf(tool), index) ? selectColor : tool.colour);
+            drawTool(canvas, tool);
+        }
+        offset += list.size();
+    };
+    draw(pointList);
+    draw(lineList);
+    draw(rectList);
+    draw(circleList);
+}
+
+void MyLabel::drawTool(const Canvas& canvas, const overlay::PointTool& point)
+{
+    toWidget(point.x, point.y, point.size, point.size);
+    const auto [cx, cy, m, mHeight] = m_scratch;
+    const int arm = m / 2;
+    const int gap = canvas.penWidth;
+    canvas.painter.drawLine(cx - arm, cy, cx - gap, cy);
+    canvas.painter.drawLine(cx + arm, cy, cx + gap, cy);
+    canvas.painter.drawLine(cx, cy - arm, cx, cy - gap);
+    canvas.painter.drawLine(cx, cy + arm, cx, cy + gap);
+    canvas.name(cx + canvas.beside(point.x > middleColumn, 3),
+                cy + canvas.above(point.y > middleRow, 2), point.name);
+}
+
+void MyLabel::drawTool(const Canvas& canvas, const overlay::LineTool& line)
+{
+    toWidget(line.x1, line.y1, 0, 0);
+    const QPoint start(m_scratch.x, m_scratch.y);
+    toWidget(line.x2, line.y2, 0, 0);
+    const QPoint end(m_scratch.x, m_scratch.y);
+    canvas.painter.drawLine(start, end);
+    canvas.name(end.x() + canvas.beside(line.x2 > middleColumn, 0),
+                end.y() + canvas.above(line.y2 > middleRow, 0), line.name);
 }
 
 /// The name stands at the drag corner, where the hand was last.
-void MyLabel::drawRects(const Canvas& canvas)
+void MyLabel::drawTool(const Canvas& canvas, const overlay::RectTool& rect)
 {
-    for (int index = 0; index < rectList.size(); ++index) {
-        const overlay::RectTool& rect = rectList.at(index);
-        if (rect.x1 < 0)
-            continue;
-        toWidget(rect.x1, rect.y1, 0, 0);
-        const QPoint press(m_scratch.x, m_scratch.y);
-        toWidget(rect.x2, rect.y2, 0, 0);
-        const QPoint drag(m_scratch.x, m_scratch.y);
-        canvas.use(isSelected(letterOf(rect), index) ? selectColor : rect.colour);
-        canvas.painter.drawRect(std::min(press.x(), drag.x()), std::min(press.y(), drag.y()),
-                                std::abs(drag.x() - press.x()), std::abs(drag.y() - press.y()));
-        canvas.name(drag.x() + canvas.beside(drag.x() > labelWidth / 2, 4),
-                    drag.y() + canvas.above(drag.y() > labelHeight / 2, 4), rect.name);
-    }
+    toWidget(rect.x1, rect.y1, 0, 0);
+    const QPoint press(m_scratch.x, m_scratch.y);
+    toWidget(rect.x2, rect.y2, 0, 0);
+    const QPoint drag(m_scratch.x, m_scratch.y);
+    canvas.painter.drawRect(std::min(press.x(), drag.x()), std::min(press.y(), drag.y()),
+                            std::abs(drag.x() - press.x()), std::abs(drag.y() - press.y()));
+    canvas.name(drag.x() + canvas.beside(drag.x() > labelWidth / 2, 4),
+                drag.y() + canvas.above(drag.y() > labelHeight / 2, 4), rect.name);
 }
 
-void MyLabel::drawCircles(const Canvas& canvas)
+void MyLabel::drawTool(const Canvas& canvas, const overlay::CircleTool& circle)
 {
-    for (int index = 0; index < circleList.size(); ++index) {
-        const overlay::CircleTool& circle = circleList.at(index);
-        if (circle.cx < 0)
-            continue;
-        toWidget(circle.cx, circle.cy, circle.radius, circle.radius);
-        const auto [cx, cy, width, radius] = m_scratch;
-        canvas.use(isSelected(letterOf(circle), index) ? selectColor : circle.colour);
-        if (circle.radius >= 0) // not yet dragged: only the name shows where it will be
-            canvas.painter.drawEllipse(cx - radius, cy - radius, 2 * radius, 2 * radius);
-        canvas.name(cx + canvas.beside(cx > labelWidth / 2, 4),
-                    cy + canvas.above(cy > labelHeight / 2, 4), circle.name);
-    }
+    toWidget(circle.cx, circle.cy, circle.radius, circle.radius);
+    const auto [cx, cy, width, radius] = m_scratch;
+    if (circle.radius >= 0) // before the drag, only the name shows where it will be
+        canvas.painter.drawEllipse(cx - radius, cy - radius, 2 * radius, 2 * radius);
+    canvas.name(cx + canvas.beside(cx > labelWidth / 2, 4),
+                cy + canvas.above(cy > labelHeight / 2, 4), circle.name);
 }
 
 /// A cross of double strokes that leaves its centre free, with a large letter beside it.

@@ -10,6 +10,8 @@
 #include <QPointer>
 #include <QVector>
 
+#include <memory>
+
 /// The picture of the analysis window, with the measurement tools drawn and edited on it.
 ///
 /// The host scales the thermal picture to the label's size and sets it as the pixmap; the label
@@ -36,6 +38,7 @@ class MyLabel : public QLabel
 
 public:
     explicit MyLabel(QWidget* parent = nullptr);
+    ~MyLabel() override;
 
     /// Connects the four signals to the window's slots updat_XY_Temp(int,int), updat_Tool_Temp(),
     /// setFocus(int) and Set_Select(int), in this order. To be called once; the window is not
@@ -94,6 +97,8 @@ protected:
 
 private:
     struct Canvas;
+    struct Scene;
+    struct Layers;
 
     void refreshGeometry();
     void toImage(int x, int y, int w, int h);
@@ -101,16 +106,21 @@ private:
     void pruneUnplaced();
     bool isSelected(QChar letter, int index) const;
     void select(QChar letter, int index);
+    int overallSelection() const;
+    int activeTool() const;
     void emitSelection();
     void selectAt(const QPoint& position);
     template<typename Tool, typename IsHit>
     void selectHits(const QVector<Tool>& list, const QString& message, IsHit isHit);
 
     void drawOverlay();
-    void drawPoints(const Canvas& canvas);
-    void drawLines(const Canvas& canvas);
-    void drawRects(const Canvas& canvas);
-    void drawCircles(const Canvas& canvas);
+    void updateLayers(int active);
+    Canvas canvasOn(QPainter& painter);
+    void drawTools(const Canvas& canvas, int begin, int end);
+    void drawTool(const Canvas& canvas, const overlay::PointTool& point);
+    void drawTool(const Canvas& canvas, const overlay::LineTool& line);
+    void drawTool(const Canvas& canvas, const overlay::RectTool& rect);
+    void drawTool(const Canvas& canvas, const overlay::CircleTool& circle);
     void drawSpot(const Canvas& canvas, const overlay::Marker& marker, const QColor& colour,
                   const QString& letter);
     void drawReticle(const Canvas& canvas);
@@ -118,4 +128,5 @@ private:
 
     QPointer<QObject> m_owner;
     overlay::Box m_scratch; ///< the last result of either conversion
+    const std::unique_ptr<Layers> m_layers;
 };

@@ -23,6 +23,12 @@ struct PointTool
     QColor colour = QColor(255, 0, 0, 255);
 };
 
+inline bool operator==(const PointTool& left, const PointTool& right)
+{
+    return left.name == right.name && left.x == right.x && left.y == right.y &&
+           left.size == right.size && left.colour == right.colour;
+}
+
 struct LineTool
 {
     QString name; ///< "L%1"
@@ -32,6 +38,12 @@ struct LineTool
     int y2 = -1;
     QColor colour = QColor(255, 0, 0, 255);
 };
+
+inline bool operator==(const LineTool& left, const LineTool& right)
+{
+    return left.name == right.name && left.x1 == right.x1 && left.y1 == right.y1 &&
+           left.x2 == right.x2 && left.y2 == right.y2 && left.colour == right.colour;
+}
 
 /// Corners stay as the user dragged them: x2 may be less than x1, y2 less than y1.
 struct RectTool
@@ -44,6 +56,12 @@ struct RectTool
     QColor colour = QColor(255, 0, 0, 255);
 };
 
+inline bool operator==(const RectTool& left, const RectTool& right)
+{
+    return left.name == right.name && left.x1 == right.x1 && left.y1 == right.y1 &&
+           left.x2 == right.x2 && left.y2 == right.y2 && left.colour == right.colour;
+}
+
 struct CircleTool
 {
     QString name; ///< "C%1"
@@ -54,6 +72,13 @@ struct CircleTool
     int radius = -1; ///< image pixels; negative until dragged
     QColor colour = QColor(255, 0, 0, 255);
 };
+
+inline bool operator==(const CircleTool& left, const CircleTool& right)
+{
+    return left.name == right.name && left.cx == right.cx && left.cy == right.cy &&
+           left.x2 == right.x2 && left.y2 == right.y2 && left.radius == right.radius &&
+           left.colour == right.colour;
+}
 
 /// A spot that the photograph itself carries: A and B are the marked ones, C the reticle. The
 /// file's words are unsigned; they are kept modulo 2^16, so a spot can lie outside the picture.

@@ -52,24 +52,24 @@ std::optional<int> draggedRadius(int cx, int cy, int x, int y)
     return fits ? std::optional<int>(radius) : std::nullopt;
 }
 
-bool isUnplaced(const PointTool& point)
+bool isUnfinished(const PointTool& point)
 {
-    return point.x < 0;
+    return !isPlaced(point);
 }
 
-bool isUnplaced(const LineTool& line)
+bool isUnfinished(const LineTool& line)
 {
-    return line.x1 < 0 || (line.x1 == line.x2 && line.y1 == line.y2);
+    return !isPlaced(line) || (line.x1 == line.x2 && line.y1 == line.y2);
 }
 
-bool isUnplaced(const RectTool& rect)
+bool isUnfinished(const RectTool& rect)
 {
-    return rect.x1 < 0 || (rect.x1 == rect.x2 && rect.y1 == rect.y2);
+    return !isPlaced(rect) || (rect.x1 == rect.x2 && rect.y1 == rect.y2);
 }
 
-bool isUnplaced(const CircleTool& circle)
+bool isUnfinished(const CircleTool& circle)
 {
-    return circle.cx < 0 || (circle.cx == circle.x2 && circle.cy == circle.y2);
+    return !isPlaced(circle) || (circle.cx == circle.x2 && circle.cy == circle.y2);
 }
 
 int overallIndex(QChar letter, int index, const ToolCounts& counts)

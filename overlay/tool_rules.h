@@ -86,19 +86,37 @@ constexpr QChar letterOf(const CircleTool&)
     return QLatin1Char('C');
 }
 
-/// Made but never placed, or placed without an extent.
-bool isUnplaced(const PointTool& point);
-bool isUnplaced(const LineTool& line);
-bool isUnplaced(const RectTool& rect);
-bool isUnplaced(const CircleTool& circle);
+/// A tool is placed from its first press on. Only placed tools are painted and measured.
+constexpr bool isPlaced(const PointTool& point)
+{
+    return point.x >= 0;
+}
+constexpr bool isPlaced(const LineTool& line)
+{
+    return line.x1 >= 0;
+}
+constexpr bool isPlaced(const RectTool& rect)
+{
+    return rect.x1 >= 0;
+}
+constexpr bool isPlaced(const CircleTool& circle)
+{
+    return circle.cx >= 0;
+}
 
-/// Removes the unplaced tools.
+/// Never placed, or, of a tool that is dragged out, pressed without being dragged.
+bool isUnfinished(const PointTool& point);
+bool isUnfinished(const LineTool& line);
+bool isUnfinished(const RectTool& rect);
+bool isUnfinished(const CircleTool& circle);
+
+/// Removes the unfinished tools.
 template<typename Tool>
 void prune(QVector<Tool>& list)
 {
-    list.erase(
-        std::remove_if(list.begin(), list.end(), [](const Tool& tool) { return isUnplaced(tool); }),
-        list.end());
+    list.erase(std::remove_if(list.begin(), list.end(),
+                              [](const Tool& tool) { return isUnfinished(tool); }),
+               list.end());
 }
 
 /// The lowest number that no tool of the list, which is in number order, carries in its name.
