@@ -144,7 +144,7 @@ GrayPicture grayPicture(const Field& field, quint8 grayMinimum, quint8 grayMaxim
     const float lighter = std::max(grayMinimum, grayMaximum);
     for (int i = 0; i < fieldSize; ++i) {
         const float value = float(grayMinimum) + (field[size_t(i)] - lowest) * perDegree;
-        picture.gray[i] = char(quint8(std::clamp(value, darker, lighter) + 0.5F));
+        picture.gray[i] = char(std::lround(std::clamp(value, darker, lighter)));
     }
     return picture;
 }

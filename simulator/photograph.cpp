@@ -42,7 +42,7 @@ QByteArray bitmap(const QImage& picture, int bitsPerPixel)
     const QImage converted =
         picture.convertToFormat(bitsPerPixel == 24 ? QImage::Format_BGR888 : QImage::Format_RGB555);
     for (int row = 0; row < format::rows; ++row) {
-        char* out = file.data() + bitmapHeaderBytes + (format::rows - 1 - row) * rowBytes;
+        char* out = file.data() + bitmapHeaderBytes + qptrdiff(format::rows - 1 - row) * rowBytes;
         const uchar* line = converted.constScanLine(row);
         if (bitsPerPixel == 24)
             std::copy_n(line, rowBytes, out);
@@ -65,7 +65,7 @@ QByteArray rawImage(const Field& celsius)
             // The first pixel of the 240 × 320 picture that this one is shown in.
             const int y = (5 * row + 3) / 4;
             const int x = (5 * column + 3) / 4;
-            const double kelvin = double(celsius[size_t(y * format::columns + x)]) + 273.15;
+            const double kelvin = double(celsius[fieldIndex(x, y)]) + 273.15;
             put(block, 2 * (row * format::rawColumns + column),
                 quint16(std::clamp(std::lround(kelvin * 16), 0L, 65535L)));
         }
@@ -117,8 +117,7 @@ QByteArray photograph(const Field& celsius, const PhotographSettings& settings)
     put(file, base + parameter::minimum, qint16(picture.minimum10));
     put(file, base + parameter::grayMaximum, picture.grayMaximum);
     put(file, base + parameter::grayMinimum, picture.grayMinimum);
-    put(file, base + parameter::centre,
-        tenths(double(field[size_t(centre.y() * format::columns + centre.x())])));
+    put(file, base + parameter::centre, tenths(double(field[fieldIndex(centre.x(), centre.y())])));
     put(file, base + parameter::emissivity, quint8(std::lround(settings.emissivity * 100)));
     put(file, base + parameter::machineId, settings.machineId);
     putMarker(parameter::markerA, stored(picture.coldest));

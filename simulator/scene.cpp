@@ -15,6 +15,11 @@ constexpr int canvasColumns = fieldColumns + 2 * margin;
 constexpr int canvasRows = fieldRows + 2 * margin;
 constexpr int canvasSize = canvasColumns * canvasRows;
 
+constexpr size_t canvasIndex(int column, int row)
+{
+    return size_t(row) * canvasColumns + size_t(column);
+}
+
 /// Pixels over which the lens blurs an edge.
 constexpr double lensBlur = 2.4;
 /// About what a good uncooled sensor shows from frame to frame, and what stays in its columns, °C.
@@ -89,7 +94,7 @@ void addPlume(Field& field, double x, double y, double rise, double spread, doub
         const int last = std::min(fieldColumns - 1, int(middle + 2.5 * width));
         for (int column = first; column <= last; ++column) {
             const double off = (column - middle) / width;
-            field[size_t(row * fieldColumns + column)] += float(warmth * std::exp(-off * off));
+            field[fieldIndex(column, row)] += float(warmth * std::exp(-off * off));
         }
     }
 }
@@ -112,7 +117,7 @@ void Scene::Layer::paint(const Shape& distance, const Shape& ownTemperature, con
             if (cover <= 0)
                 continue;
             const double part = std::clamp(hotShare(x, y), 0.0, 1.0);
-            const auto at = size_t(row * canvasColumns + column);
+            const auto at = canvasIndex(column, row);
             const auto keep = float(1 - cover);
             clear[at] *= keep;
             own[at] = own[at] * keep + float(cover * (1 - part) * ownTemperature(x, y));
@@ -134,7 +139,7 @@ void Scene::Layer::compose(Field& field, double dx, double dy, float hotSpot) co
         return w00 * at[0] + w10 * at[1] + w01 * at[canvasColumns] + w11 * at[canvasColumns + 1];
     };
     for (int row = 0; row < fieldRows; ++row) {
-        const auto start = size_t((row + int(top)) * canvasColumns + int(left));
+        const auto start = canvasIndex(int(left), row + int(top));
         float* out = field.data() + size_t(row) * fieldColumns;
         const float* clearRow = clear.data() + start;
         const float* ownRow = own.data() + start;
@@ -408,7 +413,7 @@ void Scene::addMovingAir(Field& field, double seconds, double hotSpot, double dx
         // The fan behind its cover: cool blades passing the slots.
         for (int y = 126; y < 226; ++y)
             for (int x = 24; x < 44; ++x)
-                field[size_t(y * fieldColumns + x)] +=
+                field[fieldIndex(x, y)] +=
                     float((0.02 * (hotSpot - 23)) * std::sin(0.25 * y - 11 * seconds));
         break;
     }
@@ -439,8 +444,8 @@ Field Scene::field(double seconds, double hotSpot) const
     const float* noise = m_noise.data() + (mixed >> 32) % quint64(noiseSize - fieldSize);
     for (int row = 0; row < fieldRows; ++row)
         for (int column = 0; column < fieldColumns; ++column) {
-            const int at = row * fieldColumns + column;
-            field[size_t(at)] += frameNoise * noise[at] + columnNoise * m_noise[size_t(column)];
+            const size_t at = fieldIndex(column, row);
+            field[at] += frameNoise * noise[at] + columnNoise * m_noise[size_t(column)];
         }
     return field;
 }

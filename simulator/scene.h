@@ -16,6 +16,12 @@ constexpr int fieldColumns = live::frameColumns;
 constexpr int fieldRows = live::frameRows;
 constexpr int fieldSize = fieldColumns * fieldRows;
 
+/// Where column x of row y stands in a field.
+constexpr size_t fieldIndex(int x, int y)
+{
+    return size_t(y) * fieldColumns + size_t(x);
+}
+
 enum class SceneKind
 {
     CableJoint,

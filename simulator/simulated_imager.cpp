@@ -112,7 +112,7 @@ bool SimulatedImager::sendFrame()
 
 QString SimulatedImager::takePhotograph()
 {
-    const QString path = m_disk.store(photograph(field(), m_photograph), m_photograph.modelIndex);
+    QString path = m_disk.store(photograph(field(), m_photograph), m_photograph.modelIndex);
     pass(1);
     if (!path.isEmpty())
         emit photographTaken(path);

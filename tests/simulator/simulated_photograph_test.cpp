@@ -151,7 +151,7 @@ void SimulatedPhotographTest::rawVariant()
     for (int y = 0; y < 320; ++y)
         for (int x = 0; x < 240; ++x) {
             const double celsius = raw(4 * y / 5, 4 * x / 5) * 0.0625 - 273.15;
-            const double there = double(field[size_t(y * 240 + x)]);
+            const double there = double(field[size_t(y) * 240 + size_t(x)]);
             // One pixel of the slope and half a step; the two spots fill up to four pixels.
             const bool isAtSpot = (std::abs(x - 30) < 2 && std::abs(y - 40) < 2) ||
                                   (std::abs(x - 200) < 2 && std::abs(y - 300) < 2);

@@ -1,0 +1,149 @@
+#include "simulator/control_panel.h"
+
+#include "ui_control_panel.h"
+
+#include <QFileInfo>
+#include <QScopedValueRollback>
+
+#include <array>
+#include <cmath>
+
+namespace simulator {
+namespace {
+
+struct FileLayout
+{
+    const char* title;
+    int modelIndex;
+    bool raw;
+};
+
+constexpr std::array<FileLayout, 3> fileLayouts{{{"Model 0", 0, false},
+                                                 {"Model 0 with raw image", 0, true},
+                                                 {"Model 1 (sensor turned)", 1, false}}};
+
+int indexOfLayout(const PhotographSettings& settings)
+{
+    for (size_t i = 0; i < fileLayouts.size(); ++i)
+        if (fileLayouts[i].modelIndex == settings.modelIndex && fileLayouts[i].raw == settings.raw)
+            return int(i);
+    return -1;
+}
+
+} // namespace
+
+ControlPanel::ControlPanel(SimulatedImager& imager, QWidget* parent)
+    : QWidget(parent), m_imager(imager), m_ui(std::make_unique<Ui::ControlPanel>())
+{
+    m_ui->setupUi(this);
+    for (const SceneKind kind :
+         {SceneKind::CableJoint, SceneKind::Window, SceneKind::Person, SceneKind::Motor})
+        m_ui->sceneCombo->addItem(Scene::title(kind), int(kind));
+    for (const Palette palette : {Palette::Iron, Palette::Rainbow, Palette::WhiteHot})
+        m_ui->paletteCombo->addItem(paletteTitle(palette), int(palette));
+    for (const FileLayout& layout : fileLayouts)
+        m_ui->layoutCombo->addItem(QString::fromLatin1(layout.title));
+    m_ui->unitCombo->addItems({QStringLiteral("°C"), QStringLiteral("°F")});
+    showSettings();
+
+    connect(&m_imager, &SimulatedImager::changed, this, &ControlPanel::showSettings);
+    connect(&m_imager, &SimulatedImager::frameSent, this, &ControlPanel::showReachedHotSpot);
+
+    // A user's change reaches the imager, whose answer then fills the fields; that answer must not
+    // come back as another change.
+    const auto user = [this](auto action) {
+        return [this, action](auto... value) {
+            if (!m_isShowing)
+                action(value...);
+        };
+    };
+    connect(m_ui->cameraBox, &QCheckBox::toggled, this,
+            user([this](bool plugged) { m_imager.setCameraPlugged(plugged); }));
+    connect(m_ui->diskBox, &QCheckBox::toggled, this,
+            user([this](bool plugged) { m_imager.setDiskPlugged(plugged); }));
+    connect(m_ui->errorButton, &QPushButton::clicked, &m_imager,
+            &SimulatedImager::reportCameraError);
+
+    const auto indexChanged = QOverload<int>::of(&QComboBox::currentIndexChanged);
+    const auto intChanged = QOverload<int>::of(&QSpinBox::valueChanged);
+    const auto doubleChanged = QOverload<double>::of(&QDoubleSpinBox::valueChanged);
+    connect(m_ui->sceneCombo, indexChanged, this, user([this](int) {
+                m_imager.setScene(SceneKind(m_ui->sceneCombo->currentData().toInt()));
+            }));
+    connect(m_ui->paletteCombo, indexChanged, this, user([this](int) {
+                m_imager.setPalette(Palette(m_ui->paletteCombo->currentData().toInt()));
+            }));
+    connect(m_ui->hotSpotSlider, &QSlider::valueChanged, this,
+            user([this](int celsius) { m_imager.setHotSpot(celsius); }));
+    connect(m_ui->hotSpotSpin, doubleChanged, this,
+            user([this](double celsius) { m_imager.setHotSpot(celsius); }));
+    connect(m_ui->heatButton, &QPushButton::clicked, &m_imager,
+            &SimulatedImager::heatPastThreshold);
+    connect(m_ui->coolButton, &QPushButton::clicked, &m_imager,
+            &SimulatedImager::coolBelowThreshold);
+    connect(m_ui->thresholdSpin, doubleChanged, this,
+            user([this](double celsius) { m_imager.setThreshold(celsius); }));
+    connect(m_ui->emissivitySpin, doubleChanged, this,
+            user([this](double emissivity) { m_imager.setEmissivity(emissivity); }));
+    connect(m_ui->frameRateSpin, intChanged, this,
+            user([this](int framesPerSecond) { m_imager.setFrameRate(framesPerSecond); }));
+
+    for (QComboBox* combo : {m_ui->layoutCombo, m_ui->unitCombo})
+        connect(combo, indexChanged, this, user([this](int) { applyPhotographSettings(); }));
+    connect(m_ui->machineSpin, intChanged, this, user([this](int) { applyPhotographSettings(); }));
+    connect(m_ui->photographButton, &QPushButton::clicked, this, &ControlPanel::takePhotograph);
+}
+
+ControlPanel::~ControlPanel() = default;
+
+void ControlPanel::showSettings()
+{
+    const QScopedValueRollback<bool> showing(m_isShowing, true);
+    m_ui->cameraBox->setChecked(m_imager.isCameraPlugged());
+    m_ui->diskBox->setChecked(m_imager.isDiskPlugged());
+    m_ui->errorButton->setEnabled(m_imager.isCameraPlugged());
+
+    m_ui->sceneCombo->setCurrentIndex(m_ui->sceneCombo->findData(int(m_imager.scene())));
+    m_ui->paletteCombo->setCurrentIndex(m_ui->paletteCombo->findData(int(m_imager.palette())));
+    m_ui->hotSpotSlider->setValue(int(std::lround(m_imager.hotSpot())));
+    m_ui->hotSpotSpin->setValue(m_imager.hotSpot());
+    showReachedHotSpot();
+
+    m_ui->thresholdSpin->setValue(m_imager.threshold());
+    m_ui->emissivitySpin->setValue(m_imager.emissivity());
+    m_ui->frameRateSpin->setValue(m_imager.frameRate());
+
+    const PhotographSettings& photographs = m_imager.photographSettings();
+    m_ui->layoutCombo->setCurrentIndex(indexOfLayout(photographs));
+    m_ui->unitCombo->setCurrentIndex(photographs.fahrenheit ? 1 : 0);
+    m_ui->machineSpin->setValue(int(photographs.machineId));
+    m_ui->photographButton->setEnabled(m_imager.isDiskPlugged());
+}
+
+void ControlPanel::showReachedHotSpot()
+{
+    m_ui->nowLabel->setText(QStringLiteral("Now %1 °C, alarm from %2 °C")
+                                .arg(m_imager.reachedHotSpot(), 0, 'f', 1)
+                                .arg(m_imager.threshold(), 0, 'f', 1));
+}
+
+void ControlPanel::applyPhotographSettings()
+{
+    PhotographSettings settings = m_imager.photographSettings();
+    const FileLayout& layout = fileLayouts.at(size_t(m_ui->layoutCombo->currentIndex()));
+    settings.modelIndex = layout.modelIndex;
+    settings.raw = layout.raw;
+    settings.fahrenheit = m_ui->unitCombo->currentIndex() == 1;
+    settings.machineId = quint32(m_ui->machineSpin->value());
+    m_imager.setPhotographSettings(settings);
+}
+
+void ControlPanel::takePhotograph()
+{
+    const QString path = m_imager.takePhotograph();
+    m_ui->storedLabel->setText(path.isEmpty()
+                                   ? QStringLiteral("The photograph could not be stored.")
+                                   : QStringLiteral("Stored %1").arg(QFileInfo(path).fileName()));
+}
+
+} // namespace simulator
