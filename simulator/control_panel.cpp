@@ -49,6 +49,10 @@ ControlPanel::ControlPanel(SimulatedImager& imager, QWidget* parent)
     connect(&m_imager, &SimulatedImager::changed, this, &ControlPanel::showSettings);
     connect(&m_imager, &SimulatedImager::frameSent, this, &ControlPanel::showReachedHotSpot);
 
+    connect(&m_imager, &SimulatedImager::photographTaken, this, [this](const QString& path) {
+        m_ui->storedLabel->setText(QStringLiteral("Stored %1").arg(QFileInfo(path).fileName()));
+    });
+
     // A user's change reaches the imager, whose answer then fills the fields; that answer must not
     // come back as another change.
     const auto user = [this](auto action) {
@@ -140,10 +144,8 @@ void ControlPanel::applyPhotographSettings()
 
 void ControlPanel::takePhotograph()
 {
-    const QString path = m_imager.takePhotograph();
-    m_ui->storedLabel->setText(path.isEmpty()
-                                   ? QStringLiteral("The photograph could not be stored.")
-                                   : QStringLiteral("Stored %1").arg(QFileInfo(path).fileName()));
+    if (m_imager.takePhotograph().isEmpty())
+        m_ui->storedLabel->setText(QStringLiteral("The photograph could not be stored."));
 }
 
 } // namespace simulator
