@@ -1,0 +1,41 @@
+#pragma once
+
+#include <QString>
+
+/// How stored temperatures become shown ones.
+namespace analysis {
+
+/// A stored temperature t is shown as 10 × t / scale + offset.
+struct Conversion
+{
+    float scale = 10.0F;
+    float offset = 0.0F;
+};
+
+/// The instrument's own constants. The two directions are no exact inverses of each other.
+constexpr Conversion unchanged{10.0F, 0.0F};
+constexpr Conversion toFahrenheit{5.556F, 32.0F};
+constexpr Conversion toCelsius{18.0F, -17.78F};
+
+/// The conversion after the user, or a load, turned the unit selector to `index` (0 °C, 1 °F).
+/// `current` stays for any other index, and where nothing is known about the stored scale.
+/// `displayState`: −1 before the first load, 0 since. `fileUnit`: the photograph's unit byte.
+/// `raw`: temperatures came from a raw image, and are in °C whatever the unit byte says.
+Conversion conversionFor(int index, int displayState, int fileUnit, bool raw, Conversion current);
+
+/// 10 × t / scale + offset, rounded to single precision at each step: the last digit depends on it.
+inline float shown(float temperature, Conversion conversion)
+{
+    return 10.0F * temperature / conversion.scale + conversion.offset;
+}
+
+/// The same for tenths of a degree as they stand in the parameter block.
+inline float shownTenths(qint16 tenths, Conversion conversion)
+{
+    return float(tenths) / conversion.scale + conversion.offset;
+}
+
+/// One decimal. Halves go away from zero, and a small negative value is "-0.0".
+QString oneDecimal(double value);
+
+} // namespace analysis
