@@ -15,6 +15,7 @@
 #include <QKeyEvent>
 #include <QMediaPlayer>
 #include <QMouseEvent>
+#include <QNetworkRequest>
 #include <QPointer>
 #include <QTimer>
 #include <QUrl>
@@ -344,10 +345,12 @@ void camer_window::playAlarm()
     // Not restarted while it plays: each tick starts it again only once it has ended.
     if (player->state() == QMediaPlayer::PlayingState)
         return;
-    for (const char* code : {"CH", "EN", "KO", "RU"})
-        if (languageCode == QLatin1String(code))
-            player->setMedia(
-                QUrl(QStringLiteral("qrc:/Sound/%1/Alarm.wav").arg(QLatin1String(code))));
+    for (const char* code : {"CH", "EN", "KO", "RU"}) {
+        const QUrl sound(QStringLiteral("qrc:/Sound/%1/Alarm.wav").arg(QLatin1String(code)));
+        // Loaded once: where there is no audio device, each loading complains.
+        if (languageCode == QLatin1String(code) && player->media().request().url() != sound)
+            player->setMedia(sound);
+    }
     player->play();
 }
 

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "live/camer_window.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QWidget>
+
+#include <memory>
+
+/// What the tests of the live page share: frames made by hand, configuration records, and the page
+/// with its widgets by object name.
+namespace testing {
+
+/// A frame of one gray level with its three words.
+QByteArray grayFrame(int luma, int maximumTenths, int thresholdTenths, int emissivityHundredths);
+
+/// Replaces the profile's configuration record.
+void configure(const QString& language, const QString& alarmFolder);
+
+/// A fresh history folder inside the profile.
+QString makeFolder(const QString& name = QStringLiteral("alarms"));
+
+/// Creates a file with its folders.
+void putFile(const QString& path, const QByteArray& bytes);
+
+/// The live page under test. It meets the cameras and the configuration there are when it is made.
+class Page
+{
+public:
+    Page() : m_window(std::make_unique<camer_window>()) {}
+
+    camer_window* operator->() const { return m_window.get(); }
+    camer_window& window() const { return *m_window; }
+    void destroy() { m_window.reset(); }
+
+    /// The widget of that object name; fails the test's run when there is none.
+    template<typename T>
+    T* get(const char* name) const
+    {
+        T* const widget = m_window->findChild<T*>(QLatin1String(name));
+        if (!widget)
+            qFatal("no widget %s", name);
+        return widget;
+    }
+    QString text(const char* label) const;
+    QString style(const char* label) const;
+    QStringList rows(const char* list) const;
+    void check(const char* box, bool checked = true) const;
+
+    /// A picture and its numbers, as one frame brings them.
+    void frame(float maximum, float threshold = 40.0F, float emissivity = 0.95F,
+               int luma = 100) const;
+    /// As many frames alike.
+    void frames(int count, float maximum, float threshold = 40.0F) const;
+
+private:
+    std::unique_ptr<camer_window> m_window;
+};
+
+} // namespace testing
