@@ -125,7 +125,8 @@ void CamerWindowAlarmTest::readOuts_data()
                              << QStringList({"6553.5", "3276.8", "655.35"});
     QTest::newRow("halves away from zero")
         << 30.25F << 0.75F << 0.125F << QStringList({"30.3", "0.8", "0.13"});
-    QTest::newRow("not a number") << notANumber << 40.0F << 0.95F << QStringList({"nan", "40.0", "0.95"});
+    QTest::newRow("not a number") << notANumber << 40.0F << 0.95F
+                                  << QStringList({"nan", "40.0", "0.95"});
 }
 
 void CamerWindowAlarmTest::readOuts()
