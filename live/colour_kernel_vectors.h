@@ -23,28 +23,50 @@ constexpr Shuffle repeatHalf(int half)
     return shuffle;
 }
 
-/// Where byte `first` + i of 16 pixels R, G, B … comes from, if from eight R followed by eight G of
-/// the pixels `firstPixel` … `firstPixel` + 7.
-constexpr Shuffle fromRedGreen(int first, int firstPixel)
+/// The first 16 of the 24 bytes R, G, B … of eight pixels, or the last 8 in the lower or upper
+/// half.
+struct Piece
+{
+    int firstByte; ///< among the 24
+    int from;      ///< where in the lane it begins
+    int count;
+};
+constexpr Piece head{0, 0, 16};
+constexpr Piece tailBelow{16, 0, 8};
+constexpr Piece tailAbove{16, 8, 8};
+
+/// What eight R followed by eight G give to a piece.
+constexpr Shuffle fromRedGreen(Piece piece)
 {
     Shuffle shuffle{};
     for (int i = 0; i < 16; ++i) {
-        const int pixel = (first + i) / 3 - firstPixel;
-        const int channel = (first + i) % 3;
-        const bool here = channel < 2 && pixel >= 0 && pixel < 8;
+        const int byte = piece.firstByte + i - piece.from;
+        const bool here = i >= piece.from && i < piece.from + piece.count && byte % 3 < 2;
         shuffle[std::size_t(i)] = shuffle[std::size_t(i) + 16] =
-            here ? char(channel * 8 + pixel) : nothing;
+            here ? char(byte % 3 * 8 + byte / 3) : nothing;
     }
     return shuffle;
 }
 
-/// The same from sixteen B.
-constexpr Shuffle fromBlue(int first)
+/// What eight B give, which stand at `first` of the lane.
+constexpr Shuffle fromBlue(Piece piece, int first)
 {
     Shuffle shuffle{};
-    for (int i = 0; i < 16; ++i)
+    for (int i = 0; i < 16; ++i) {
+        const int byte = piece.firstByte + i - piece.from;
+        const bool here = i >= piece.from && i < piece.from + piece.count && byte % 3 == 2;
         shuffle[std::size_t(i)] = shuffle[std::size_t(i) + 16] =
-            (first + i) % 3 == 2 ? char((first + i) / 3) : nothing;
+            here ? char(first + byte / 3) : nothing;
+    }
+    return shuffle;
+}
+
+/// Both, where each gives what the other leaves out.
+constexpr Shuffle merged(Shuffle shuffle, const Shuffle& other)
+{
+    for (std::size_t i = 0; i < shuffle.size(); ++i)
+        if (shuffle[i] == nothing)
+            shuffle[i] = other[i];
     return shuffle;
 }
 
@@ -87,41 +109,42 @@ Channels<typename Vector::Register> channels(typename Vector::Register yuyv)
             Vector::add16(luma, Vector::shuffle(blueRed, low))};
 }
 
-/// Sixteen pixels a lane.
+/// Converts `block` pixels: in each lane eight from the first half, eight from the second.
 template<typename Vector>
 void convertBlock(const uchar* yuyv, uchar* rgb)
 {
-    alignas(32) static constexpr Shuffle redGreen0 = fromRedGreen(0, 0);
-    alignas(32) static constexpr Shuffle redGreen1a = fromRedGreen(16, 0);
-    alignas(32) static constexpr Shuffle redGreen1b = fromRedGreen(16, 8);
-    alignas(32) static constexpr Shuffle redGreen2 = fromRedGreen(32, 8);
-    alignas(32) static constexpr Shuffle blue0 = fromBlue(0);
-    alignas(32) static constexpr Shuffle blue1 = fromBlue(16);
-    alignas(32) static constexpr Shuffle blue2 = fromBlue(32);
+    alignas(32) static constexpr Shuffle redGreenHead = fromRedGreen(head);
+    alignas(32) static constexpr Shuffle redGreenTailA = fromRedGreen(tailBelow);
+    alignas(32) static constexpr Shuffle redGreenTailB = fromRedGreen(tailAbove);
+    alignas(32) static constexpr Shuffle blueHeadA = fromBlue(head, 0);
+    alignas(32) static constexpr Shuffle blueHeadB = fromBlue(head, 8);
+    alignas(32) static constexpr Shuffle blueTails =
+        merged(fromBlue(tailBelow, 0), fromBlue(tailAbove, 8));
 
     const auto a = channels<Vector>(Vector::load(yuyv));
-    const auto b = channels<Vector>(Vector::load(yuyv + 16));
+    const auto b = channels<Vector>(Vector::load(yuyv + 16 * Vector::lanes));
     const auto redGreenA = Vector::saturate(a.red, a.green);
     const auto redGreenB = Vector::saturate(b.red, b.green);
     const auto blue = Vector::saturate(a.blue, b.blue);
-    Vector::store(
-        rgb, Vector::bitOr(Vector::shuffle(redGreenA, redGreen0), Vector::shuffle(blue, blue0)));
-    Vector::store(rgb + 16, Vector::bitOr(Vector::bitOr(Vector::shuffle(redGreenA, redGreen1a),
-                                                        Vector::shuffle(redGreenB, redGreen1b)),
-                                          Vector::shuffle(blue, blue1)));
-    Vector::store(rgb + 32, Vector::bitOr(Vector::shuffle(redGreenB, redGreen2),
-                                          Vector::shuffle(blue, blue2)));
+    uchar* const second = rgb + 24 * Vector::lanes;
+    Vector::storeHeads(rgb, Vector::bitOr(Vector::shuffle(redGreenA, redGreenHead),
+                                          Vector::shuffle(blue, blueHeadA)));
+    Vector::storeHeads(second, Vector::bitOr(Vector::shuffle(redGreenB, redGreenHead),
+                                             Vector::shuffle(blue, blueHeadB)));
+    Vector::storeTails(rgb, second,
+                       Vector::bitOr(Vector::bitOr(Vector::shuffle(redGreenA, redGreenTailA),
+                                                   Vector::shuffle(redGreenB, redGreenTailB)),
+                                     Vector::shuffle(blue, blueTails)));
 }
 
 template<typename Vector>
 void convertVectors(const uchar* yuyv, int pixels, uchar* rgb)
 {
     constexpr int block = 16 * Vector::lanes;
-    for (int pixel = 0; pixel < pixels; pixel += 2 * block) {
+    for (int pixel = 0; pixel < pixels; pixel += block) {
         convertBlock<Vector>(yuyv, rgb);
-        convertBlock<Vector>(yuyv + 2 * block, rgb + 3 * block);
-        yuyv += 4 * block;
-        rgb += 6 * block;
+        yuyv += 2 * block;
+        rgb += 3 * block;
     }
 }
 

@@ -11,7 +11,7 @@
 /// additions.
 namespace live {
 
-/// Converts `pixels` pixels of YUYV (a multiple of 64) to R, G, B bytes.
+/// Converts `pixels` pixels of YUYV (a multiple of 32) to R, G, B bytes.
 using ColourKernel = void (*)(const uchar* yuyv, int pixels, uchar* rgb);
 
 struct NamedKernel

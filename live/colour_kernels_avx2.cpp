@@ -7,7 +7,6 @@
 namespace live {
 namespace {
 
-/// The second lane works on the sixteen pixels behind those of the first.
 struct Avx2
 {
     using Register = __m256i;
@@ -15,12 +14,17 @@ struct Avx2
 
     static Register load(const uchar* p)
     {
-        return _mm256_inserti128_si256(_mm256_castsi128_si256(half(p)), half(p + 32), 1);
+        return _mm256_loadu_si256(reinterpret_cast<const __m256i*>(p));
     }
-    static void store(uchar* p, Register r)
+    static void storeHeads(uchar* p, Register r)
     {
         _mm_storeu_si128(reinterpret_cast<__m128i*>(p), _mm256_castsi256_si128(r));
-        _mm_storeu_si128(reinterpret_cast<__m128i*>(p + 48), _mm256_extracti128_si256(r, 1));
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(p + 24), _mm256_extracti128_si256(r, 1));
+    }
+    static void storeTails(uchar* p, uchar* q, Register r)
+    {
+        storeTails(p, q, _mm256_castsi256_si128(r));
+        storeTails(p + 24, q + 24, _mm256_extracti128_si256(r, 1));
     }
     static Register pairs(short even, short odd)
     {
@@ -48,9 +52,10 @@ struct Avx2
     }
 
 private:
-    static __m128i half(const uchar* p)
+    static void storeTails(uchar* p, uchar* q, __m128i r)
     {
-        return _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
+        _mm_storel_pd(reinterpret_cast<double*>(p + 16), _mm_castsi128_pd(r));
+        _mm_storeh_pd(reinterpret_cast<double*>(q + 16), _mm_castsi128_pd(r));
     }
 };
 

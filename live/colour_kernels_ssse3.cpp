@@ -16,7 +16,15 @@ struct Ssse3
     {
         return _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
     }
-    static void store(uchar* p, Register r) { _mm_storeu_si128(reinterpret_cast<__m128i*>(p), r); }
+    static void storeHeads(uchar* p, Register r)
+    {
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(p), r);
+    }
+    static void storeTails(uchar* p, uchar* q, Register r)
+    {
+        _mm_storel_pd(reinterpret_cast<double*>(p + 16), _mm_castsi128_pd(r));
+        _mm_storeh_pd(reinterpret_cast<double*>(q + 16), _mm_castsi128_pd(r));
+    }
     static Register pairs(short even, short odd)
     {
         return _mm_set_epi16(odd, even, odd, even, odd, even, odd, even);

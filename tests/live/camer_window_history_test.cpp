@@ -9,24 +9,12 @@
 #include <QTabWidget>
 
 using testing::Page;
+using testing::PaintCounter;
 
 namespace {
 
 const QString first = QStringLiteral("20240101120000");
 const QString second = QStringLiteral("20240202120000");
-
-/// Paints of a widget while this lives.
-class PaintCounter : public QObject
-{
-public:
-    explicit PaintCounter(QWidget* widget) { widget->installEventFilter(this); }
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        paints += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
-    int paints = 0;
-};
 
 /// A click as the list reports it.
 void open(const Page& page, const QString& name)

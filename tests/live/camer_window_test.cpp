@@ -20,6 +20,7 @@
 #include <functional>
 
 using testing::Page;
+using testing::PaintCounter;
 
 namespace {
 
@@ -131,6 +132,7 @@ private slots:
 
     void showsTheFrames();
     void pictureIsScaledOncePerFrame();
+    void frameRepaintsThePictureAlone();
     void keepsSevenPictures();
     void unusableFramesKeepThePicture();
     void opensOnlyTheImager();
@@ -370,6 +372,19 @@ void CamerWindowTest::pictureIsScaledOncePerFrame()
     QCOMPARE(label->pixmap()->cacheKey(), shown);
     QVERIFY(deliver());
     QVERIFY(label->pixmap()->cacheKey() != shown);
+}
+
+void CamerWindowTest::frameRepaintsThePictureAlone()
+{
+    const Page page;
+    page->show();
+    QVERIFY(deliver());
+    QCoreApplication::processEvents();
+    const PaintCounter pageCounter(&page.window());
+    const PaintCounter pictureCounter(page.get<QLabel>("label_17"));
+    QVERIFY(deliver());
+    QTRY_COMPARE(pictureCounter.paints, 1);
+    QCOMPARE(pageCounter.paints, 0);
 }
 
 void CamerWindowTest::keepsSevenPictures()

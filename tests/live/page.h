@@ -3,6 +3,7 @@
 #include "live/camer_window.h"
 
 #include <QByteArray>
+#include <QEvent>
 #include <QString>
 #include <QWidget>
 
@@ -23,6 +24,19 @@ QString makeFolder(const QString& name = QStringLiteral("alarms"));
 
 /// Creates a file with its folders.
 void putFile(const QString& path, const QByteArray& bytes);
+
+/// Paints of a widget while this lives.
+class PaintCounter : public QObject
+{
+public:
+    explicit PaintCounter(QWidget* widget) { widget->installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        paints += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+    int paints = 0;
+};
 
 /// The live page under test. It meets the cameras and the configuration there are when it is made.
 class Page
