@@ -4,7 +4,9 @@
 
 #include <QFileInfo>
 #include <QScopedValueRollback>
+#include <QScreen>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -99,6 +101,19 @@ ControlPanel::ControlPanel(SimulatedImager& imager, QWidget* parent)
 }
 
 ControlPanel::~ControlPanel() = default;
+
+void ControlPanel::showBeside(QWidget& window)
+{
+    constexpr int gap = 10;
+    show();
+    const QRect screen = window.screen()->availableGeometry();
+    const int windowWidth = window.frameGeometry().width();
+    const int bothWidth = windowWidth + gap + frameGeometry().width();
+    const int left = screen.left() + std::max(0, (screen.width() - bothWidth) / 2);
+    const int top = std::max(screen.top(), window.frameGeometry().top());
+    window.move(left, top);
+    move(std::min(left + windowWidth + gap, screen.right() + 1 - frameGeometry().width()), top);
+}
 
 void ControlPanel::showSettings()
 {

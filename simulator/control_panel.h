@@ -23,6 +23,10 @@ public:
     explicit ControlPanel(SimulatedImager& imager, QWidget* parent = nullptr);
     ~ControlPanel() override;
 
+    /// Shows the panel to the right of a window on the screen, which moves to make room. Where the
+    /// screen is too narrow for both, the panel stands before the window's right edge.
+    void showBeside(QWidget& window);
+
 private:
     void showSettings();
     void showReachedHotSpot();

@@ -3,6 +3,7 @@
 #include "simulator/simulated_camera.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace simulator {
@@ -117,6 +118,39 @@ QString SimulatedImager::takePhotograph()
     if (!path.isEmpty())
         emit photographTaken(path);
     return path;
+}
+
+void SimulatedImager::takeSamplePhotographs()
+{
+    struct Sample
+    {
+        SceneKind scene;
+        Palette palette;
+        bool raw;
+        bool fahrenheit;
+        quint32 machineId;
+    };
+    constexpr std::array<Sample, 5> samples{
+        {{SceneKind::CableJoint, Palette::Iron, false, false, 5},
+         {SceneKind::Motor, Palette::Rainbow, true, false, 6},
+         {SceneKind::Window, Palette::Rainbow, false, false, 5},
+         {SceneKind::Person, Palette::Iron, true, false, 6},
+         {SceneKind::Motor, Palette::WhiteHot, false, true, 5}}};
+    QDateTime takenAt = QDateTime::currentDateTime().addSecs(-3600);
+    for (const Sample& sample : samples) {
+        PhotographSettings settings;
+        settings.palette = sample.palette;
+        settings.raw = sample.raw;
+        settings.fahrenheit = sample.fahrenheit;
+        settings.machineId = sample.machineId;
+        const Scene scene(sample.scene);
+        const QString path =
+            m_disk.store(photograph(scene.field(1, scene.usualHotSpot()), settings),
+                         settings.modelIndex, takenAt);
+        if (!path.isEmpty())
+            emit photographTaken(path);
+        takenAt = takenAt.addSecs(617);
+    }
 }
 
 void SimulatedImager::pass(double seconds)

@@ -73,6 +73,10 @@ public:
     /// Stores a photograph of the scene on the disk and lets a second pass. Returns its path; empty
     /// when the disk is out or full.
     QString takePhotograph();
+    /// Fills the disk, which must be in, with one photograph of every scene, as if they had been
+    /// taken in the course of the last hour: plain and with the raw image, in °C and °F, in every
+    /// palette. The scene and all settings are afterwards as they were.
+    void takeSamplePhotographs();
 
 signals:
     /// A setting, or something plugged in or out.

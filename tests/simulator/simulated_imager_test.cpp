@@ -6,6 +6,7 @@
 
 #include <QCamera>
 #include <QCameraInfo>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -63,6 +64,7 @@ private slots:
     void cameraComesAndGoes();
     void diskComesAndGoes();
     void photographShowsTheLiveScene();
+    void samplesShowEveryScene();
     void everythingIsPulledOutInTheEnd();
 };
 
@@ -231,6 +233,27 @@ void SimulatedImagerTest::photographShowsTheLiveScene()
     QFile nextFile(next);
     QVERIFY(nextFile.open(QIODevice::ReadOnly));
     QVERIFY(nextFile.readAll() != expected);
+}
+
+void SimulatedImagerTest::samplesShowEveryScene()
+{
+    SimulatedImager imager;
+    QSignalSpy taken(&imager, &SimulatedImager::photographTaken);
+    imager.takeSamplePhotographs();
+    QVERIFY(taken.isEmpty());
+    imager.setDiskPlugged(true);
+    imager.takeSamplePhotographs();
+    const QFileInfoList files =
+        QDir(imager.disk().root() + QStringLiteral("DCIM_100")).entryInfoList(QDir::Files);
+    QCOMPARE(files.size(), 5);
+    QCOMPARE(taken.size(), 5);
+    int withRawImage = 0;
+    for (const QFileInfo& file : files) {
+        withRawImage += file.size() == 406096 ? 1 : 0;
+        QVERIFY(QImage(file.filePath()).size() == QSize(240, 320));
+    }
+    QCOMPARE(withRawImage, 2);
+    QCOMPARE(imager.scene(), simulator::SceneKind::CableJoint);
 }
 
 void SimulatedImagerTest::everythingIsPulledOutInTheEnd()

@@ -1,0 +1,73 @@
+// Walks through every window in one language and keeps pictures of them:
+//     thermadesk-tour --language EN --output FOLDER
+
+#include "app/startup.h"
+#include "config/configuration_record.h"
+#include "resources/resources.h"
+#include "simulator/tour/walk.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QTemporaryDir>
+
+#include <cstdio>
+
+namespace {
+
+/// A home folder in which nobody has been: what is remembered there goes with the tour.
+void moveInto(const QTemporaryDir& home)
+{
+    qputenv("HOME", QFile::encodeName(home.path()));
+    for (const char* variable :
+         {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_DOCUMENTS_DIR"})
+        qunsetenv(variable);
+    QDir().mkpath(config::documentsPath());
+}
+
+int walkThrough(const QString& language, const QString& folder)
+{
+    tour::Walk walk(language, folder);
+    for (const auto& chapter : {tour::liveSteps(), tour::diskSteps()})
+        for (const tour::Step& step : chapter) {
+            if (step.take(walk))
+                continue;
+            std::fprintf(stderr, "%s: step \"%s\" failed, waiting in vain until %s\n",
+                         qPrintable(language), step.name, qPrintable(walk.lastWait()));
+            walk.shoot(QStringLiteral("failed"));
+            return 1;
+        }
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QTemporaryDir home;
+    moveInto(home);
+    startup::setAttributes();
+    QApplication application(argc, argv);
+
+    QCommandLineParser parser;
+    const QCommandLineOption language(QStringLiteral("language"),
+                                      QStringLiteral("EN, CH, RU or KO."), QStringLiteral("code"),
+                                      QStringLiteral("EN"));
+    const QCommandLineOption output(QStringLiteral("output"), QStringLiteral("Where pictures go."),
+                                    QStringLiteral("folder"), QStringLiteral("."));
+    parser.addOptions({language, output});
+    parser.addHelpOption();
+    parser.process(application);
+    const QStringList codes{QStringLiteral("EN"), QStringLiteral("CH"), QStringLiteral("RU"),
+                            QStringLiteral("KO")};
+    if (!codes.contains(parser.value(language)) || !parser.positionalArguments().isEmpty() ||
+        !QDir().mkpath(parser.value(output))) {
+        std::fputs(qPrintable(parser.helpText()), stderr);
+        return 2;
+    }
+
+    config::create(parser.value(language));
+    resources::load();
+    const startup::Translators translators(startup::languageCode());
+    return walkThrough(parser.value(language), parser.value(output));
+}
