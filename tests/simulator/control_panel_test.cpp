@@ -9,6 +9,7 @@
 #include <QDoubleSpinBox>
 #include <QGroupBox>
 #include <QLabel>
+#include <QScreen>
 #include <QSlider>
 #include <QSpinBox>
 
@@ -34,6 +35,8 @@ private slots:
     void takesPhotographsWhileTheDiskIsIn();
     void everyControlExplainsItself();
     void tabGoesFromTopToBottom();
+    void standsBesideAWindow_data();
+    void standsBesideAWindow();
 
 private:
     template<typename T>
@@ -203,6 +206,29 @@ void ControlPanelTest::tabGoesFromTopToBottom()
         QTest::keyClick(current, Qt::Key_Tab);
     }
     QCOMPARE(m_panel->focusWidget(), &first);
+}
+
+void ControlPanelTest::standsBesideAWindow_data()
+{
+    QTest::addColumn<int>("windowWidth");
+    QTest::newRow("room for both") << 200;
+    QTest::newRow("wider than the screen allows") << 2000;
+}
+
+void ControlPanelTest::standsBesideAWindow()
+{
+    QFETCH(int, windowWidth);
+    QWidget window;
+    window.resize(windowWidth, 300);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    m_panel->showBeside(window);
+    const QRect screen = window.screen()->availableGeometry();
+    QVERIFY(m_panel->isVisible());
+    QVERIFY(window.frameGeometry().left() >= screen.left());
+    QVERIFY(m_panel->frameGeometry().right() <= screen.right());
+    const bool hasRoom = windowWidth + 10 + m_panel->frameGeometry().width() <= screen.width();
+    QCOMPARE(!window.frameGeometry().intersects(m_panel->frameGeometry()), hasRoom);
 }
 
 int main(int argc, char** argv)
