@@ -147,6 +147,7 @@ void SimulatedPhotographTest::rawVariant()
     QCOMPARE(raw(32, 24), 5330);   // (60 + 273.15) · 16 = 5330.4
     QCOMPARE(raw(240, 160), 4050); // (−20 + 273.15) · 16 = 4050.4
     QCOMPARE(raw(128, 96), 4730);  // (22.5 + 273.15) · 16 = 4730.4
+    QCOMPARE(raw(1, 1), 4296);     // first shown at (2, 2): (−4.625 + 273.15) · 16 = 4296.4
     const Field field = slope();
     for (int y = 0; y < 320; ++y)
         for (int x = 0; x < 240; ++x) {
