@@ -1,16 +1,92 @@
 #pragma once
 
-#include <QString>
+#include <QList>
+#include <QPixmap>
+#include <QQueue>
+#include <QStringList>
+#include <QTimer>
+#include <QVector>
 #include <QWidget>
 
-/// The page of USB-disk mode. So far it only knows the photographs' folder.
+#include <memory>
+
+class QAbstractItemView;
+class QFileInfo;
+class QListWidgetItem;
+class QTableWidgetItem;
+
+namespace Ui {
+class photo_window;
+}
+
+/// The browser of the imager's disk: drives, the photographs of the chosen one as thumbnails or as
+/// a table, and on the second tab the photograph opened last.
+///
+/// However many photographs there are, a picture is read only when it comes into view, between
+/// events, and only the most recent few hundred thumbnails are kept. Whatever the disk does
+/// meanwhile, at worst a thumbnail stays empty. GUI thread only.
 class photo_window : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// The owner is told of the photograph under the mouse; it does not become the parent.
+    /// `owner` is told of a photograph under the mouse through its slot
+    /// Photo_itemEntered(QListWidgetItem*); it is not owned and may be null.
     explicit photo_window(QObject* owner, QWidget* parent = nullptr);
+    ~photo_window() override;
 
-    QString imageFolder; ///< the folder whose photographs are listed
+    /// Size and corner radius are in pixels; the picture's shape is not kept. A null picture comes
+    /// back as it is.
+    static QPixmap roundedThumbnail(const QPixmap& picture, const QSize& size, int radius);
+
+    int driveIndex = 0;  ///< row of the drive in use
+    QString imageFolder; ///< where the photographs are, whether or not it exists
+    int modelIndex = -1; ///< file layout for Analysis_Widget::set_Image_addr()
+    /// One entry for each photograph, by name.
+    QStringList fileNames;
+    QStringList fileDates;     ///< of creation, "yyyy/MM/dd HH:mm"
+    QStringList fileSizes;     ///< kilobytes, one decimal
+    QList<QPixmap> thumbnails; ///< null until shown, or when it cannot be read
+
+    /// Fills the drive list. Returns the drives' roots, each ending in "/".
+    QStringList listDrives();
+    /// Takes the photograph folder of the drive in use. False when this window was deleted while it
+    /// waited for the user's answer.
+    bool findImageFolder();
+    /// Lists the photographs of `imageFolder` and shows their thumbnails.
+    void get_image_information();
+    /// Which folder of the drive at `root`, and which file layout, given the names of its
+    /// sub-folders. Asks the user when both kinds seem to be there. False as above.
+    bool chooseFolder(const QString& root, const QStringList& folderNames);
+
+public slots:
+    void on_pushButton_3_clicked();
+    void on_pushButton_4_clicked();
+    void table_item_doubleclicked(QTableWidgetItem* item);
+    void list_item_doubleclicked(QListWidgetItem* item);
+    void on_listWidget_currentRowChanged(int currentRow);
+    void on_pushButton_clicked();
+
+private:
+    template<typename Item>
+    class PhotographItem;
+
+    void applyRussianTabs();
+    void showView(QAbstractItemView* view, int pictureColumn);
+    void open(const QString& name);
+    /// The thumbnail for the view, or an empty one of the same size while it is still to be read.
+    QVariant icon(int index);
+    void readRequested();
+    void readThumbnail(int index);
+    bool isInView(int index) const;
+
+    const std::unique_ptr<Ui::photo_window> ui;
+    QObject* const m_owner;
+    bool m_russian = false;
+    QAbstractItemView* m_view = nullptr; ///< the list or table shown, a child
+    int m_pictureColumn = 0;             ///< of m_view
+    QTimer m_reading;                    ///< runs while thumbnails are wanted
+    QVector<int> m_requested;            ///< indices wanted since the last reading
+    QVector<bool> m_read;                ///< whose thumbnail stands as it is to be shown
+    QQueue<int> m_kept;                  ///< indices with a thumbnail, oldest first
 };

@@ -42,11 +42,12 @@ Parameters readParameters(const uchar* block, int modelIndex)
 
 /// `file` holds x and y. Model index 1 stores positions turned by 180°, counted from `lastX`,
 /// `lastY`.
-Marker readMarker(const uchar* file, bool turned, int lastX, int lastY)
+overlay::Marker readMarker(const uchar* file, bool turned, int lastX, int lastY)
 {
     const int x = number<quint16>(file);
     const int y = number<quint16>(file + 2);
-    return turned ? Marker{qint16(lastX - x), qint16(lastY - y)} : Marker{qint16(x), qint16(y)};
+    return turned ? overlay::Marker{qint16(lastX - x), qint16(lastY - y)}
+                  : overlay::Marker{qint16(x), qint16(y)};
 }
 
 void readMarkers(const uchar* block, bool turned, Photograph& photograph)
@@ -54,7 +55,7 @@ void readMarkers(const uchar* block, bool turned, Photograph& photograph)
     photograph.markerA = readMarker(block + parameter::markerA, turned, columns - 1, rows - 1);
     photograph.markerB = readMarker(block + parameter::markerB, turned, columns - 1, rows - 1);
     // The reticle counts from one, and being turned does not change that.
-    const Marker reticle = readMarker(block + parameter::markerC, turned, columns, rows);
+    const overlay::Marker reticle = readMarker(block + parameter::markerC, turned, columns, rows);
     photograph.markerC = {qint16(reticle.x - 1), qint16(reticle.y - 1)};
 }
 

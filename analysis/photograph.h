@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/photograph_format.h"
+#include "overlay/tool_records.h"
 
 #include <QtGlobal>
 
@@ -45,14 +46,6 @@ inline float nearestTemperature(const Temperatures& temperatures, int x, int y)
                                                      std::clamp(y, 0, format::rows - 1)))];
 }
 
-/// A marked spot as the measurement label takes it. The file's words are unsigned; what does not
-/// fit wraps around (40000 becomes −25536).
-struct Marker
-{
-    qint16 x = -1;
-    qint16 y = -1;
-};
-
 /// The parameter block. Temperatures are tenths of a degree.
 struct Parameters
 {
@@ -74,9 +67,9 @@ struct Photograph
     std::array<uchar, format::grayBytes> gray{}; ///< 320 rows of 240 pixels
     Palette palette{};                           ///< file order
     Parameters parameters;
-    Marker markerA;
-    Marker markerB;
-    Marker markerC; ///< zero-based, unlike in the file
+    overlay::Marker markerA; ///< as the measurement label takes them
+    overlay::Marker markerB;
+    overlay::Marker markerC; ///< zero-based, unlike in the file
     Temperatures temperatures{};
     double mean = 0; ///< of all temperatures
 };

@@ -1,6 +1,7 @@
 #include "analysis/tool_statistics.h"
 
 #include <cmath>
+#include <numeric>
 
 namespace analysis {
 namespace {
@@ -164,44 +165,45 @@ void Areas::add(const overlay::CircleTool& circle)
     }
 }
 
-/// A value that compares false, as not-a-number always does, changes neither extreme. The order of
-/// comparisons is free, so eight go side by side.
+/// The highest and lowest of many runs. A value that compares false, as not-a-number always does,
+/// changes neither. The order of comparisons is free, so every place in a run has extremes of its
+/// own, and whole runs are compared at once.
 class Extremes
 {
 public:
-    explicit Extremes(float startHigh)
-    {
-        m_high.fill(startHigh);
-        m_low.fill(lowBeforeAll);
-    }
+    explicit Extremes(float highBefore) : m_highBefore(highBefore) {}
 
     void take(const Run& run)
     {
-        int i = 0;
-        for (; i + lanes <= run.count; i += lanes) {
-            for (int lane = 0; lane < lanes; ++lane)
-                take(lane, run.first[i + lane]);
+        for (; m_used < run.count; ++m_used) {
+            m_high[std::size_t(m_used)] = m_highBefore;
+            m_low[std::size_t(m_used)] = lowBeforeAll;
         }
-        for (; i < run.count; ++i)
-            take(0, run.first[i]);
+        float* high = m_high.data();
+        float* low = m_low.data();
+        for (int i = 0; i < run.count; ++i) {
+            const float value = run.first[i];
+            high[i] = value > high[i] ? value : high[i];
+            low[i] = value < low[i] ? value : low[i];
+        }
     }
 
-    float high() const { return *std::max_element(m_high.begin(), m_high.end()); }
-    float low() const { return *std::min_element(m_low.begin(), m_low.end()); }
+    float high() const
+    {
+        return std::accumulate(m_high.begin(), m_high.begin() + m_used, m_highBefore,
+                               [](float a, float b) { return std::max(a, b); });
+    }
+    float low() const
+    {
+        return std::accumulate(m_low.begin(), m_low.begin() + m_used, lowBeforeAll,
+                               [](float a, float b) { return std::min(a, b); });
+    }
 
 private:
-    static constexpr int lanes = 8;
-
-    void take(int lane, float value)
-    {
-        float& high = m_high[std::size_t(lane)];
-        float& low = m_low[std::size_t(lane)];
-        high = value > high ? value : high;
-        low = value < low ? value : low;
-    }
-
-    std::array<float, lanes> m_high;
-    std::array<float, lanes> m_low;
+    float m_highBefore;
+    int m_used = 0; ///< the longest run so far
+    std::array<float, rows> m_high;
+    std::array<float, rows> m_low;
 };
 
 /// Sums in single precision depend on their order, so one area's additions must wait for each

@@ -1,0 +1,403 @@
+#include "analysis/analysis_widget.h"
+
+#include "analysis/false_colour.h"
+#include "analysis/information.h"
+#include "analysis/tool_statistics.h"
+#include "config/configuration_record.h"
+
+#include "ui_analysis_widget.h"
+
+#include <QColorDialog>
+#include <QDateTime>
+#include <QDebug>
+#include <QFileInfo>
+#include <QPointer>
+#include <QTableWidget>
+#include <QToolTip>
+
+using namespace analysis;
+
+namespace {
+
+enum Tool
+{
+    cursorTool = 1,
+    pointTool,
+    lineTool,
+    rectTool,
+    ellipseTool
+};
+
+const QString loadTag = QStringLiteral("---------Anlyxix-set_Image_addr");
+
+/// File systems that do not keep the time of creation give the last change of the entry.
+QDateTime creationTime(const QFileInfo& file)
+{
+    const QDateTime birth = file.birthTime();
+    return birth.isValid() ? birth : file.metadataChangeTime();
+}
+
+QPixmap fitted(const QImage& image, const QSize& size)
+{
+    return QPixmap::fromImage(image.scaled(size, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+}
+
+} // namespace
+
+Analysis_Widget::Analysis_Widget(QWidget* parent)
+    : QWidget(parent), grayMatrix(cv::Mat::zeros(format::rows, format::columns, CV_8UC1)),
+      falseColourMatrix(cv::Mat::zeros(format::rows, format::columns, CV_8UC1)), colourLookup{},
+      ui(std::make_unique<Ui::Analysis_Widget>())
+{
+    ui->setupUi(this);
+    ui->label->setOwner(this);
+    if (config::exists())
+        configurationField = config::read().language;
+    prepareTables();
+}
+
+Analysis_Widget::~Analysis_Widget() = default;
+
+void Analysis_Widget::prepareTables()
+{
+    QTableWidget* information = ui->tableWidget_2;
+    for (int row = 0; row < informationRows; ++row) {
+        information->setItem(row, 0,
+                             new QTableWidgetItem(information->verticalHeaderItem(row)->text()));
+        auto* value = new QTableWidgetItem;
+        value->setFont(information->font());
+        if (row > 0)
+            value->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        information->setItem(row, 1, value);
+    }
+    information->horizontalHeader()->setStretchLastSection(true);
+    information->setColumnWidth(0, 100);
+    information->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    information->setMouseTracking(true);
+    // Captions longer than the column take a second line, in whichever language; all rows show.
+    information->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    information->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
+
+    QTableWidget* tools = ui->tableWidget;
+    tools->horizontalHeader()->setStretchLastSection(true);
+    tools->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    tools->setSelectionMode(QAbstractItemView::SingleSelection);
+    tools->setSelectionBehavior(QAbstractItemView::SelectRows);
+    constexpr std::array<int, 4> widths{50, 88, 62, 62};
+    for (int column = 0; column < int(widths.size()); ++column)
+        tools->setColumnWidth(column, widths[std::size_t(column)]);
+    tools->verticalHeader()->setDefaultSectionSize(tools->fontMetrics().height() + 8);
+}
+
+// --- reading a photograph
+// --------------------------------------------------------------------------
+
+bool Analysis_Widget::set_Image_addr(const QString& imagePath, int modelIndex)
+{
+    displayUnitState = 0;
+    const QFileInfo file(imagePath);
+    fileName = file.fileName();
+    created = creationTime(file).toString(QStringLiteral("yyyy/MM/dd HH:mm"));
+    path = imagePath;
+    qDebug().noquote() << path << loadTag;
+
+    readCount = fileBuffer.read(path);
+    qDebug().noquote() << QStringLiteral("输出实际读取的字节数:") << readCount << loadTag;
+
+    readPicture(fileBuffer.bytes(), modelIndex, photograph);
+    takePalette();
+    const Parameters& parameters = photograph.parameters;
+    qDebug().noquote() << QStringLiteral("单位:") << parameters.unit;
+    // A change of the selector refills both tables, still with the temperatures of the photograph
+    // before.
+    if (parameters.unit <= 1)
+        ui->comboBox->setCurrentIndex(parameters.unit);
+
+    const bool supported = readMeasurements(fileBuffer.bytes(), readCount, modelIndex, photograph);
+    qDebug().noquote() << QStringLiteral("Max温度:") << parameters.maximum10;
+    qDebug().noquote() << QStringLiteral("机器ID:") << parameters.machineId
+                       << QStringLiteral("--------Analysis_Widget::set_Image_addr");
+    if (!supported)
+        return false;
+
+    ui->label->markerA = photograph.markerA;
+    ui->label->markerB = photograph.markerB;
+    ui->label->markerC = photograph.markerC;
+    if (modelIndex == 1)
+        qDebug().noquote() << QStringLiteral("版本号:") << parameters.firmware10 / 10.0;
+    qDebug().noquote() << QStringLiteral("中心灰度:")
+                       << nearestTemperature(photograph.temperatures, 120, 160);
+    qDebug().noquote() << QStringLiteral("最大灰度") << parameters.grayMaximum
+                       << QStringLiteral("最小灰度") << parameters.grayMinimum;
+
+    fillInformation();
+    showScale();
+    showGrayImage();
+    return true;
+}
+
+/// The colour bar counts palette steps from the top, the palette from the bottom.
+void Analysis_Widget::takePalette()
+{
+    auto entry = ui->widget->paletteTable.rbegin();
+    for (const Rgb& colour : photograph.palette)
+        *entry++ = {colour.red, colour.green, colour.blue};
+    colourStrip = QPixmap::fromImage(analysis::colourStrip(photograph.palette));
+    m_mapped = false;
+    update();
+}
+
+void Analysis_Widget::showGrayImage()
+{
+    grayMatrix = cv::Mat(format::rows, format::columns, CV_8UC1, photograph.gray.data());
+    grayImage = QImage(photograph.gray.data(), format::columns, format::rows, format::columns,
+                       QImage::Format_Grayscale8);
+    ui->label->setPixmap(fitted(grayImage, ui->label->size()));
+    m_mapped = false;
+}
+
+// --- showing it
+// ------------------------------------------------------------------------------------
+
+void Analysis_Widget::paintEvent(QPaintEvent* event)
+{
+    QWidget::paintEvent(event);
+    render();
+}
+
+/// The gray picture is not shown first: the false-colour picture would replace it before anyone
+/// could see it.
+void Analysis_Widget::render()
+{
+    const Palette lookup =
+        lookupFor(photograph.palette, ui->widget->startValue, ui->widget->endValue);
+    if (!m_mapped || lookup != colourLookup) {
+        colourLookup = lookup;
+        ui->widget->setPalettePixmap(colourStrip);
+        mapColours(grayMatrix, colourLookup, falseColourMatrix);
+        falseColourImage =
+            QImage(falseColourMatrix.data, falseColourMatrix.cols, falseColourMatrix.rows,
+                   int(falseColourMatrix.step), QImage::Format_RGB888);
+        m_mapped = true;
+        m_shownSize = QSize();
+    }
+    if (m_shownSize != ui->label->size()) {
+        ui->label->setPixmap(fitted(falseColourImage, ui->label->size()));
+        m_shownSize = ui->label->size();
+    }
+}
+
+void Analysis_Widget::fillInformation()
+{
+    const auto texts = informationTexts(fileName, created, readCount, photograph.parameters,
+                                        photograph.mean, ui->comboBox->currentIndex(), conversion);
+    for (int row = 0; row < informationRows; ++row)
+        ui->tableWidget_2->item(row, 1)->setText(texts[std::size_t(row)]);
+}
+
+void Analysis_Widget::showScale()
+{
+    ui->widget->topTemperature = shownTenths(photograph.parameters.maximum10, conversion);
+    ui->widget->bottomTemperature = shownTenths(photograph.parameters.minimum10, conversion);
+    ui->widget->updateScale();
+}
+
+void Analysis_Widget::updat_XY_Temp(int x, int y)
+{
+    ui->label_2->setText(QStringLiteral("X: %1").arg(x));
+    ui->label_3->setText(QStringLiteral("Y: %1").arg(y));
+    const int unit = ui->comboBox->currentIndex();
+    if (unit != 0 && unit != 1)
+        return;
+    const float temperature = shown(nearestTemperature(photograph.temperatures, x, y), conversion);
+    ui->label_4->setText(oneDecimal(double(temperature)) +
+                         (unit == 0 ? QStringLiteral("°C") : QStringLiteral("°F")));
+}
+
+void Analysis_Widget::updat_Tool_Temp()
+{
+    const MyLabel& label = *ui->label;
+    const std::vector<ToolRow> rows =
+        toolRows({label.pointList, label.lineList, label.rectList, label.circleList},
+                 photograph.temperatures, conversion);
+    const std::array<QString, 4> kinds{tr("点"), tr("线"), tr("矩形"), tr("圆")};
+
+    QTableWidget& table = *ui->tableWidget;
+    table.setRowCount(0);
+    table.setRowCount(int(rows.size()));
+    for (int row = 0; row < table.rowCount(); ++row) {
+        const ToolRow& tool = rows[std::size_t(row)];
+        int column = 0;
+        for (const QString& text :
+             {tool.name, kinds[std::size_t(tool.kind)], tool.high, tool.low, tool.average}) {
+            auto* item = new QTableWidgetItem(text);
+            item->setTextAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
+            table.setItem(row, column++, item);
+        }
+    }
+    Set_Select(selectedRow);
+}
+
+void Analysis_Widget::on_comboBox_currentIndexChanged(int index)
+{
+    conversion = conversionFor(index, displayUnitState, photograph.parameters.unit,
+                               hasRawImage(readCount), conversion);
+    qDebug() << displayUnitState;
+    fillInformation();
+    updat_Tool_Temp();
+    showScale();
+}
+
+// --- tools
+// -----------------------------------------------------------------------------------------
+
+void Analysis_Widget::selectTool(int tool)
+{
+    currentTool = tool;
+    ui->label->setToolMode(tool);
+}
+
+void Analysis_Widget::setFocus(int bt_focus)
+{
+    const auto focus = [](QWidget* widget) {
+        widget->setFocus(Qt::OtherFocusReason);
+    };
+    switch (bt_focus) {
+    case -1:
+        focus(ui->label);
+        break;
+    case 1:
+        focus(ui->pushButton_9);
+        selectTool(cursorTool);
+        break;
+    case 2:
+        focus(ui->pushButton_8);
+        selectTool(pointTool);
+        break;
+    case 3:
+        focus(ui->pushButton_7);
+        selectTool(lineTool);
+        break;
+    case 4:
+        focus(ui->pushButton_6);
+        selectTool(rectTool);
+        break;
+    case 5:
+        focus(ui->pushButton_5);
+        selectTool(ellipseTool);
+        break;
+    case 6:
+        focus(ui->pushButton_4);
+        break;
+    case 7:
+        focus(ui->pushButton_3);
+        focus(ui->pushButton_9);
+        break;
+    case 8:
+        focus(ui->pushButton_2);
+        break;
+    case 9:
+        focus(ui->pushButton);
+        break;
+    default:
+        break;
+    }
+}
+
+/// One row past the end is let through; the table then keeps its selection.
+void Analysis_Widget::Set_Select(int row)
+{
+    selectedRow = row;
+    if (row <= ui->tableWidget->rowCount())
+        ui->tableWidget->selectRow(row);
+}
+
+void Analysis_Widget::on_pushButton_9_clicked()
+{
+    selectTool(cursorTool);
+    ui->pushButton_9->setFocus(Qt::OtherFocusReason);
+}
+
+void Analysis_Widget::on_pushButton_8_clicked()
+{
+    selectTool(pointTool);
+}
+
+void Analysis_Widget::on_pushButton_7_clicked()
+{
+    selectTool(lineTool);
+}
+
+void Analysis_Widget::on_pushButton_6_clicked()
+{
+    selectTool(rectTool);
+}
+
+void Analysis_Widget::on_pushButton_5_clicked()
+{
+    selectTool(ellipseTool);
+}
+
+void Analysis_Widget::on_pushButton_4_clicked()
+{
+    const QString title = tr("颜色选择");
+    // The imager may be unplugged while the dialog is up, and the dialog goes with this window.
+    QPointer<QColorDialog> dialog = new QColorDialog(Qt::white, this);
+    dialog->setWindowTitle(title);
+    dialog->exec();
+    if (!dialog)
+        return;
+    const QColor colour = dialog->selectedColor();
+    delete dialog;
+
+    qDebug().noquote() << title << colour;
+    if (colour.isValid()) {
+        ui->label->toolColor = colour;
+        qDebug().noquote() << QStringLiteral("rgb== ") << colour.red() << colour.green()
+                           << colour.blue();
+        qDebug().noquote() << QStringLiteral("m_winColor== ") << colour.name();
+    }
+    setFocus(currentTool);
+}
+
+void Analysis_Widget::on_pushButton_3_clicked()
+{
+    ui->label->deleteSelected();
+    if (ui->label->currentType.startsWith(QLatin1Char('n'))) {
+        ui->label->setFocus(Qt::OtherFocusReason);
+        on_pushButton_9_clicked();
+    } else {
+        ui->pushButton_9->setFocus(Qt::OtherFocusReason);
+    }
+}
+
+void Analysis_Widget::on_pushButton_2_clicked()
+{
+    ui->label->clearTools();
+    setFocus(currentTool);
+}
+
+void Analysis_Widget::on_pushButton_clicked() {}
+
+void Analysis_Widget::on_tableWidget_itemClicked(QTableWidgetItem* item)
+{
+    const auto nameAt = [this](int row) {
+        return ui->tableWidget->item(row, 0)->text();
+    };
+    const QString kind = nameAt(item->row()).left(1);
+    int index = 0;
+    for (int row = 0; row < item->row(); ++row) {
+        if (nameAt(row).startsWith(kind))
+            ++index;
+    }
+    ui->label->currentType = kind;
+    ui->label->selectedIndex = index;
+}
+
+void Analysis_Widget::on_tableWidget_2_itemEntered(QTableWidgetItem* item)
+{
+    if (item->row() == int(InformationRow::FileName) && item->column() == 1)
+        QToolTip::showText(QCursor::pos(), item->text());
+    else
+        QToolTip::hideText();
+}

@@ -1,0 +1,97 @@
+#pragma once
+
+#include "analysis/file_buffer.h"
+#include "analysis/photograph.h"
+#include "analysis/units.h"
+
+#include <QImage>
+#include <QPixmap>
+#include <QWidget>
+
+#include <opencv2/core.hpp>
+
+#include <memory>
+
+class QTableWidgetItem;
+
+namespace Ui {
+class Analysis_Widget;
+}
+
+/// The window in which one photograph is examined: the picture in false colour with measurement
+/// tools, the colour bar, a table about the file and one about the tools.
+///
+/// The picture is rendered in paintEvent, because the colour bar has no signals: whatever repaints
+/// the bar repaints the window beneath it. What is shown already is not set again, so the window
+/// comes to rest.
+///
+/// The members are what the report and the tests read. GUI thread only.
+class Analysis_Widget : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit Analysis_Widget(QWidget* parent = nullptr);
+    ~Analysis_Widget() override;
+
+    /// Reads and shows a photograph; may be called again for another one. `modelIndex` picks the
+    /// file's layout (see photograph_format.h). False for a photograph of an imager that is not
+    /// supported: then nothing but what precedes the machine ID in the file is replaced, and no
+    /// message is shown. A short or missing file is not noticed; what it lacks is taken from the
+    /// photograph before, or zero.
+    bool set_Image_addr(const QString& imagePath, int modelIndex);
+
+    int displayUnitState = -1; ///< 0 since the first load; steers the unit conversion
+    int currentTool = 0;       ///< 0 none yet, 1 cursor, 2 point, 3 line, 4 rectangle, 5 ellipse
+    int selectedRow = 0;       ///< what Set_Select was given last
+    QString path;
+    QString fileName;
+    QString created; ///< "yyyy/MM/dd HH:mm"
+    analysis::Conversion conversion;
+    int readCount = 0; ///< bytes of the file; −1 when it could not be read
+    cv::Mat grayMatrix;
+    cv::Mat falseColourMatrix; ///< three channels, red first, once rendered
+    QImage grayImage;          ///< views of the matrices, living no longer than these
+    QImage falseColourImage;
+    analysis::Photograph photograph;
+    QPixmap colourStrip;            ///< 30 × 256, as handed to the colour bar
+    analysis::Palette colourLookup; ///< the palette cut down to the colour bar's span
+    analysis::FileBuffer fileBuffer;
+    QString configurationField; ///< the language code of the configuration record
+
+public slots:
+    void updat_XY_Temp(int x, int y);
+    void updat_Tool_Temp();
+    /// Focuses a button by number and selects its tool. Hides QWidget::setFocus().
+    void setFocus(int bt_focus);
+    void Set_Select(int row);
+    void on_comboBox_currentIndexChanged(int index);
+    void on_pushButton_9_clicked();
+    void on_pushButton_8_clicked();
+    void on_pushButton_7_clicked();
+    void on_pushButton_6_clicked();
+    void on_pushButton_5_clicked();
+    void on_pushButton_4_clicked();
+    void on_pushButton_3_clicked();
+    void on_pushButton_2_clicked();
+    /// The PDF report; the button stays disabled as long as there is none.
+    void on_pushButton_clicked();
+    void on_tableWidget_itemClicked(QTableWidgetItem* item);
+    void on_tableWidget_2_itemEntered(QTableWidgetItem* item);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void prepareTables();
+    void selectTool(int tool);
+    void takePalette();
+    void fillInformation();
+    void showScale();
+    void showGrayImage();
+    void render();
+
+    const std::unique_ptr<Ui::Analysis_Widget> ui;
+    bool m_mapped = false; ///< falseColourMatrix is of the current gray image and palette
+    QSize m_shownSize;     ///< the label's size for which falseColourImage was scaled and set
+};
