@@ -61,9 +61,12 @@ Analysis_Widget::~Analysis_Widget() = default;
 void Analysis_Widget::prepareTables()
 {
     QTableWidget* information = ui->tableWidget_2;
+    QFont captionFont = information->font();
+    captionFont.setPixelSize(12);
     for (int row = 0; row < informationRows; ++row) {
-        information->setItem(row, 0,
-                             new QTableWidgetItem(information->verticalHeaderItem(row)->text()));
+        auto* caption = new QTableWidgetItem(information->verticalHeaderItem(row)->text());
+        caption->setFont(captionFont);
+        information->setItem(row, 0, caption);
         auto* value = new QTableWidgetItem;
         value->setFont(information->font());
         if (row > 0)
@@ -83,9 +86,8 @@ void Analysis_Widget::prepareTables()
     tools->setEditTriggers(QAbstractItemView::NoEditTriggers);
     tools->setSelectionMode(QAbstractItemView::SingleSelection);
     tools->setSelectionBehavior(QAbstractItemView::SelectRows);
-    constexpr std::array<int, 4> widths{50, 88, 62, 62};
-    for (int column = 0; column < int(widths.size()); ++column)
-        tools->setColumnWidth(column, widths[std::size_t(column)]);
+    tools->setColumnWidth(0, 50);
+    tools->setColumnWidth(1, 88);
     tools->verticalHeader()->setDefaultSectionSize(tools->fontMetrics().height() + 8);
 }
 

@@ -78,24 +78,24 @@ const QPixmap& emptyThumbnail()
     return empty;
 }
 
-} // namespace
-
 /// A list or table item whose picture is asked for when it is painted.
 template<typename Item>
-class photo_window::PhotographItem : public Item
+class PhotographItem : public Item
 {
 public:
     PhotographItem(photo_window& window, int index) : m_window(window), m_index(index) {}
 
     QVariant data(int role) const override
     {
-        return role == Qt::DecorationRole ? m_window.icon(m_index) : Item::data(role);
+        return role == Qt::DecorationRole ? m_window.shownThumbnail(m_index) : Item::data(role);
     }
 
 private:
     photo_window& m_window;
     int m_index;
 };
+
+} // namespace
 
 photo_window::photo_window(QObject* owner, QWidget* parent)
     : QWidget(parent), ui(std::make_unique<Ui::photo_window>()), m_owner(owner)
@@ -216,8 +216,10 @@ void photo_window::get_image_information()
     fileSizes.clear();
     thumbnails.clear();
     m_kept.clear();
-    const QFileInfoList files =
-        QDir(imageFolder).entryInfoList({QStringLiteral("*.bmp")}, QDir::Files, QDir::Name);
+    // Without a drive there is no folder yet, and a nameless one would be the working directory.
+    QFileInfoList files;
+    if (!imageFolder.isEmpty())
+        files = QDir(imageFolder).entryInfoList({QStringLiteral("*.bmp")}, QDir::Files, QDir::Name);
     for (const QFileInfo& file : files) {
         fileNames.append(file.fileName());
         fileDates.append(creationText(file));
@@ -379,7 +381,7 @@ QPixmap photo_window::roundedThumbnail(const QPixmap& picture, const QSize& size
     return rounded;
 }
 
-QVariant photo_window::icon(int index)
+QIcon photo_window::shownThumbnail(int index)
 {
     if (m_read.at(index))
         return QIcon(thumbnails.at(index));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QIcon>
 #include <QList>
 #include <QPixmap>
 #include <QQueue>
@@ -58,6 +59,9 @@ public:
     /// Which folder of the drive at `root`, and which file layout, given the names of its
     /// sub-folders. Asks the user when both kinds seem to be there. False as above.
     bool chooseFolder(const QString& root, const QStringList& folderNames);
+    /// A photograph's thumbnail as its item in the view shows it: an empty one of the same size
+    /// until the picture has been read, which this asks for.
+    QIcon shownThumbnail(int index);
 
 public slots:
     void on_pushButton_3_clicked();
@@ -68,14 +72,9 @@ public slots:
     void on_pushButton_clicked();
 
 private:
-    template<typename Item>
-    class PhotographItem;
-
     void applyRussianTabs();
     void showView(QAbstractItemView* view, int pictureColumn);
     void open(const QString& name);
-    /// The thumbnail for the view, or an empty one of the same size while it is still to be read.
-    QVariant icon(int index);
     void readRequested();
     void readThumbnail(int index);
     bool isInView(int index) const;
