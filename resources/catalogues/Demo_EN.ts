@@ -2,6 +2,137 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="zh_CN">
 <context>
+    <name>Analysis_Widget</name>
+    <message>
+        <source>选择</source>
+        <translation>Select</translation>
+    </message>
+    <message>
+        <source>点测温</source>
+        <translation>Point measurement</translation>
+    </message>
+    <message>
+        <source>线测温</source>
+        <translation>Line measurement</translation>
+    </message>
+    <message>
+        <source>矩形测温</source>
+        <translation>Rectangle measurement</translation>
+    </message>
+    <message>
+        <source>圆形测温</source>
+        <translation>Circle measurement</translation>
+    </message>
+    <message>
+        <source>删除所选工具</source>
+        <translation>Delete the selected tool</translation>
+    </message>
+    <message>
+        <source>清除所有工具</source>
+        <translation>Delete all tools</translation>
+    </message>
+    <message>
+        <source>工具颜色</source>
+        <translation>Tool colour</translation>
+    </message>
+    <message>
+        <source>导出报告</source>
+        <translation>Export report</translation>
+    </message>
+    <message>
+        <source>温度单位</source>
+        <translation>Temperature unit</translation>
+    </message>
+    <message>
+        <source>图像信息</source>
+        <translation>Image information</translation>
+    </message>
+    <message>
+        <source>文件名称:</source>
+        <translation>File name:</translation>
+    </message>
+    <message>
+        <source>文件大小:</source>
+        <translation>File size:</translation>
+    </message>
+    <message>
+        <source>时间:</source>
+        <translation>Time:</translation>
+    </message>
+    <message>
+        <source>发射率:</source>
+        <translation>Emissivity:</translation>
+    </message>
+    <message>
+        <source>大小:</source>
+        <translation>Size:</translation>
+    </message>
+    <message>
+        <source>单位:</source>
+        <translation>Unit:</translation>
+    </message>
+    <message>
+        <source>中心温度:</source>
+        <translation>Centre temperature:</translation>
+    </message>
+    <message>
+        <source>最高温度:</source>
+        <translation>Maximum temperature:</translation>
+    </message>
+    <message>
+        <source>最低温度:</source>
+        <translation>Minimum temperature:</translation>
+    </message>
+    <message>
+        <source>平均温度:</source>
+        <translation>Average temperature:</translation>
+    </message>
+    <message>
+        <source>温度信息</source>
+        <translation>Temperature information</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>类型</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>高</source>
+        <translation>High</translation>
+    </message>
+    <message>
+        <source>低</source>
+        <translation>Low</translation>
+    </message>
+    <message>
+        <source>平均</source>
+        <translation>Average</translation>
+    </message>
+    <message>
+        <source>点</source>
+        <translation>Point</translation>
+    </message>
+    <message>
+        <source>线</source>
+        <translation>Line</translation>
+    </message>
+    <message>
+        <source>矩形</source>
+        <translation>Rectangle</translation>
+    </message>
+    <message>
+        <source>圆</source>
+        <translation>Circle</translation>
+    </message>
+    <message>
+        <source>颜色选择</source>
+        <translation>Colour choice</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Therma Desk</source>
@@ -128,6 +259,67 @@
     <message>
         <source>保存的文件</source>
         <translation>Save file</translation>
+    </message>
+</context>
+<context>
+    <name>photo_window</name>
+    <message>
+        <source>移动磁盘</source>
+        <translation>Removable disk</translation>
+    </message>
+    <message>
+        <source>重新加载</source>
+        <translation>Reload</translation>
+    </message>
+    <message>
+        <source>列表视图</source>
+        <translation>Table view</translation>
+    </message>
+    <message>
+        <source>缩略图视图</source>
+        <translation>Thumbnail view</translation>
+    </message>
+    <message>
+        <source>图片信息</source>
+        <translation>Image information</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>Notice</translation>
+    </message>
+    <message>
+        <source>检查到U盘中同时含有K4710和K4715的文件
+请选择打开哪一项？</source>
+        <translation>The disk holds files of both K4710 and K4715.
+Which shall be opened?</translation>
+    </message>
+    <message>
+        <source>编号</source>
+        <translation>Number</translation>
+    </message>
+    <message>
+        <source>图像</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>时间</source>
+        <translation>Time</translation>
+    </message>
+    <message>
+        <source>大小</source>
+        <translation>Size</translation>
+    </message>
+    <message>
+        <source>警告</source>
+        <translation>Warning</translation>
+    </message>
+    <message>
+        <source>该图片解析失败，请确认型号是否正确!</source>
+        <translation>The picture could not be parsed, please check that the model is right!</translation>
     </message>
 </context>
 <context>

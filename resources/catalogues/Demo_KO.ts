@@ -2,6 +2,137 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko" sourcelanguage="zh_CN">
 <context>
+    <name>Analysis_Widget</name>
+    <message>
+        <source>选择</source>
+        <translation>선택</translation>
+    </message>
+    <message>
+        <source>点测温</source>
+        <translation>점 측정</translation>
+    </message>
+    <message>
+        <source>线测温</source>
+        <translation>선 측정</translation>
+    </message>
+    <message>
+        <source>矩形测温</source>
+        <translation>사각형 측정</translation>
+    </message>
+    <message>
+        <source>圆形测温</source>
+        <translation>원 측정</translation>
+    </message>
+    <message>
+        <source>删除所选工具</source>
+        <translation>선택한 도구 삭제</translation>
+    </message>
+    <message>
+        <source>清除所有工具</source>
+        <translation>모든 도구 지우기</translation>
+    </message>
+    <message>
+        <source>工具颜色</source>
+        <translation>도구 색상</translation>
+    </message>
+    <message>
+        <source>导出报告</source>
+        <translation>보고서 내보내기</translation>
+    </message>
+    <message>
+        <source>温度单位</source>
+        <translation>온도 단위</translation>
+    </message>
+    <message>
+        <source>图像信息</source>
+        <translation>이미지 정보</translation>
+    </message>
+    <message>
+        <source>文件名称:</source>
+        <translation>파일 이름:</translation>
+    </message>
+    <message>
+        <source>文件大小:</source>
+        <translation>파일 크기:</translation>
+    </message>
+    <message>
+        <source>时间:</source>
+        <translation>시간:</translation>
+    </message>
+    <message>
+        <source>发射率:</source>
+        <translation>방사율:</translation>
+    </message>
+    <message>
+        <source>大小:</source>
+        <translation>크기:</translation>
+    </message>
+    <message>
+        <source>单位:</source>
+        <translation>단위:</translation>
+    </message>
+    <message>
+        <source>中心温度:</source>
+        <translation>중심 온도:</translation>
+    </message>
+    <message>
+        <source>最高温度:</source>
+        <translation>최고 온도:</translation>
+    </message>
+    <message>
+        <source>最低温度:</source>
+        <translation>최저 온도:</translation>
+    </message>
+    <message>
+        <source>平均温度:</source>
+        <translation>평균 온도:</translation>
+    </message>
+    <message>
+        <source>温度信息</source>
+        <translation>온도 정보</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>이름</translation>
+    </message>
+    <message>
+        <source>类型</source>
+        <translation>유형</translation>
+    </message>
+    <message>
+        <source>高</source>
+        <translation>최고</translation>
+    </message>
+    <message>
+        <source>低</source>
+        <translation>최저</translation>
+    </message>
+    <message>
+        <source>平均</source>
+        <translation>평균</translation>
+    </message>
+    <message>
+        <source>点</source>
+        <translation>점</translation>
+    </message>
+    <message>
+        <source>线</source>
+        <translation>선</translation>
+    </message>
+    <message>
+        <source>矩形</source>
+        <translation>사각형</translation>
+    </message>
+    <message>
+        <source>圆</source>
+        <translation>원</translation>
+    </message>
+    <message>
+        <source>颜色选择</source>
+        <translation>색상 선택</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Therma Desk</source>
@@ -128,6 +259,67 @@
     <message>
         <source>保存的文件</source>
         <translation>파일 저장</translation>
+    </message>
+</context>
+<context>
+    <name>photo_window</name>
+    <message>
+        <source>移动磁盘</source>
+        <translation>이동식 디스크</translation>
+    </message>
+    <message>
+        <source>重新加载</source>
+        <translation>새로 고침</translation>
+    </message>
+    <message>
+        <source>列表视图</source>
+        <translation>표 보기</translation>
+    </message>
+    <message>
+        <source>缩略图视图</source>
+        <translation>축소판 보기</translation>
+    </message>
+    <message>
+        <source>图片信息</source>
+        <translation>이미지 정보</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>알림</translation>
+    </message>
+    <message>
+        <source>检查到U盘中同时含有K4710和K4715的文件
+请选择打开哪一项？</source>
+        <translation>디스크에 K4710과 K4715의 파일이 모두 있습니다.
+어느 것을 여시겠습니까?</translation>
+    </message>
+    <message>
+        <source>编号</source>
+        <translation>번호</translation>
+    </message>
+    <message>
+        <source>图像</source>
+        <translation>이미지</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>이름</translation>
+    </message>
+    <message>
+        <source>时间</source>
+        <translation>시간</translation>
+    </message>
+    <message>
+        <source>大小</source>
+        <translation>크기</translation>
+    </message>
+    <message>
+        <source>警告</source>
+        <translation>경고</translation>
+    </message>
+    <message>
+        <source>该图片解析失败，请确认型号是否正确!</source>
+        <translation>이미지를 해석하지 못했습니다. 모델이 올바른지 확인하십시오!</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,137 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru" sourcelanguage="zh_CN">
 <context>
+    <name>Analysis_Widget</name>
+    <message>
+        <source>选择</source>
+        <translation>Выбор</translation>
+    </message>
+    <message>
+        <source>点测温</source>
+        <translation>Измерение в точке</translation>
+    </message>
+    <message>
+        <source>线测温</source>
+        <translation>Измерение по линии</translation>
+    </message>
+    <message>
+        <source>矩形测温</source>
+        <translation>Измерение в прямоугольнике</translation>
+    </message>
+    <message>
+        <source>圆形测温</source>
+        <translation>Измерение в круге</translation>
+    </message>
+    <message>
+        <source>删除所选工具</source>
+        <translation>Удалить выбранный инструмент</translation>
+    </message>
+    <message>
+        <source>清除所有工具</source>
+        <translation>Удалить все инструменты</translation>
+    </message>
+    <message>
+        <source>工具颜色</source>
+        <translation>Цвет инструментов</translation>
+    </message>
+    <message>
+        <source>导出报告</source>
+        <translation>Экспорт отчёта</translation>
+    </message>
+    <message>
+        <source>温度单位</source>
+        <translation>Единицы температуры</translation>
+    </message>
+    <message>
+        <source>图像信息</source>
+        <translation>Данные снимка</translation>
+    </message>
+    <message>
+        <source>文件名称:</source>
+        <translation>Имя файла:</translation>
+    </message>
+    <message>
+        <source>文件大小:</source>
+        <translation>Размер файла:</translation>
+    </message>
+    <message>
+        <source>时间:</source>
+        <translation>Время:</translation>
+    </message>
+    <message>
+        <source>发射率:</source>
+        <translation>Коэф. излучения:</translation>
+    </message>
+    <message>
+        <source>大小:</source>
+        <translation>Размер:</translation>
+    </message>
+    <message>
+        <source>单位:</source>
+        <translation>Единицы:</translation>
+    </message>
+    <message>
+        <source>中心温度:</source>
+        <translation>Температура в центре:</translation>
+    </message>
+    <message>
+        <source>最高温度:</source>
+        <translation>Макс. температура:</translation>
+    </message>
+    <message>
+        <source>最低温度:</source>
+        <translation>Мин. температура:</translation>
+    </message>
+    <message>
+        <source>平均温度:</source>
+        <translation>Средняя температура:</translation>
+    </message>
+    <message>
+        <source>温度信息</source>
+        <translation>Данные о температуре</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>Имя</translation>
+    </message>
+    <message>
+        <source>类型</source>
+        <translation>Тип</translation>
+    </message>
+    <message>
+        <source>高</source>
+        <translation>Макс.</translation>
+    </message>
+    <message>
+        <source>低</source>
+        <translation>Мин.</translation>
+    </message>
+    <message>
+        <source>平均</source>
+        <translation>Средн.</translation>
+    </message>
+    <message>
+        <source>点</source>
+        <translation>Точка</translation>
+    </message>
+    <message>
+        <source>线</source>
+        <translation>Линия</translation>
+    </message>
+    <message>
+        <source>矩形</source>
+        <translation>Прямоугольник</translation>
+    </message>
+    <message>
+        <source>圆</source>
+        <translation>Круг</translation>
+    </message>
+    <message>
+        <source>颜色选择</source>
+        <translation>Выбор цвета</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Therma Desk</source>
@@ -128,6 +259,67 @@
     <message>
         <source>保存的文件</source>
         <translation>Сохранить файл</translation>
+    </message>
+</context>
+<context>
+    <name>photo_window</name>
+    <message>
+        <source>移动磁盘</source>
+        <translation>Съёмный диск</translation>
+    </message>
+    <message>
+        <source>重新加载</source>
+        <translation>Обновить</translation>
+    </message>
+    <message>
+        <source>列表视图</source>
+        <translation>Таблица</translation>
+    </message>
+    <message>
+        <source>缩略图视图</source>
+        <translation>Эскизы</translation>
+    </message>
+    <message>
+        <source>图片信息</source>
+        <translation>Данные снимка</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>Уведомление</translation>
+    </message>
+    <message>
+        <source>检查到U盘中同时含有K4710和K4715的文件
+请选择打开哪一项？</source>
+        <translation>На диске есть файлы K4710 и K4715.
+Какие открыть?</translation>
+    </message>
+    <message>
+        <source>编号</source>
+        <translation>№</translation>
+    </message>
+    <message>
+        <source>图像</source>
+        <translation>Изображение</translation>
+    </message>
+    <message>
+        <source>名称</source>
+        <translation>Имя</translation>
+    </message>
+    <message>
+        <source>时间</source>
+        <translation>Время</translation>
+    </message>
+    <message>
+        <source>大小</source>
+        <translation>Размер</translation>
+    </message>
+    <message>
+        <source>警告</source>
+        <translation>Предупреждение</translation>
+    </message>
+    <message>
+        <source>该图片解析失败，请确认型号是否正确!</source>
+        <translation>Не удалось прочитать снимок. Проверьте, верно ли выбрана модель!</translation>
     </message>
 </context>
 <context>
