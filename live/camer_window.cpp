@@ -105,6 +105,8 @@ camer_window::camer_window(QWidget* parent)
     ui->label_17->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
     ui->label_18->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
 
+    ui->pictureArea->installEventFilter(this);
+
     capture = std::make_unique<QtCameraCapture>();
     connect(capture.get(), &QtCameraCapture::display_Qimage, this, &camer_window::display_cap);
     connect(capture.get(), &QtCameraCapture::Send_MaxTemp, this, &camer_window::updat_temp);
@@ -284,6 +286,15 @@ void camer_window::closeEvent(QCloseEvent* event)
     QWidget::closeEvent(event);
     ui.reset();
     stopEverything();
+}
+
+bool camer_window::eventFilter(QObject* watched, QEvent* event)
+{
+    // The picture lies in no layout: there, each new pixmap would have the whole page laid out and
+    // painted anew, 25 times a second.
+    if (ui && watched == ui->pictureArea && event->type() == QEvent::Resize)
+        ui->label_17->resize(ui->pictureArea->size());
+    return QWidget::eventFilter(watched, event);
 }
 
 // ------------------------------------------------------------------ alarm
