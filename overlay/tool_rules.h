@@ -14,8 +14,7 @@
 /// "P2"), and list indices count within one kind.
 namespace overlay {
 
-// --- Distances
-// -------------------------------------------------------------------------------------
+// Distances
 
 /// The Euclidean distance in whole pixels, toward zero.
 inline int truncatedDistance(int x1, int y1, int x2, int y2)
@@ -45,8 +44,7 @@ inline std::optional<int> truncatedDistance(const LineTool& line, int x, int y)
     return truncatedDistance(footX, footY, x, y);
 }
 
-// --- What lies under the pointer
-// -------------------------------------------------------------------
+// What lies under the pointer
 
 /// How far from a point a press may be, in widget pixels; converted to image pixels before use.
 constexpr int pointToleranceWidth = 12;
@@ -66,8 +64,7 @@ bool hits(const CircleTool& circle, int x, int y);
 /// picture. It may touch the last column and row but not the first.
 std::optional<int> draggedRadius(int cx, int cy, int x, int y);
 
-// --- Which tools there are
-// -------------------------------------------------------------------------
+// Which tools there are
 
 constexpr QChar letterOf(const PointTool&)
 {

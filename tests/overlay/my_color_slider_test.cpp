@@ -100,7 +100,7 @@ private slots:
         QCOMPARE(meta.methodCount(), meta.methodOffset());
     }
 
-    // --- Scale -----------------------------------------------------------------------------------
+    // Scale
 
     void temperaturesStandTopFirst()
     {
@@ -146,8 +146,7 @@ private slots:
         }
     }
 
-    // --- Strip
-    // ------------------------------------------------------------------------------------
+    // Strip
 
     void theStripIsScaledToTheBar()
     {
@@ -194,8 +193,7 @@ private slots:
         QVERIFY(paints.count > 0);
     }
 
-    // --- Markers
-    // ----------------------------------------------------------------------------------
+    // Markers
 
     void markersStandAtTheStripsRightEdge()
     {
@@ -375,8 +373,7 @@ private slots:
         QCOMPARE(bar->mousePos, QPoint(-1, -2));
     }
 
-    // --- Awkward sizes
-    // --------------------------------------------------------------------------------
+    // Awkward sizes
 
     void aBarWithoutTravelKeepsItsValues_data()
     {
@@ -433,8 +430,7 @@ private slots:
         QCOMPARE(overlay::paletteStep(fresh.endValue), 255);
     }
 
-    // --- Painting
-    // ---------------------------------------------------------------------------------------
+    // Painting
 
     void markersAreFilledWithTheirColours()
     {

@@ -446,8 +446,7 @@ private slots:
         QVERIFY(found.height() >= 8 && found.height() <= 20); // letters of 16 pixels
     }
 
-    // --- Markers
-    // -------------------------------------------------------------------------------------
+    // Markers
 
     void theTwoSpots()
     {
@@ -513,8 +512,7 @@ private slots:
         compare(label.grab().toImage(), label.devicePixelRatioF(), empty);
     }
 
-    // --- Overlay
-    // ---------------------------------------------------------------------------------------
+    // Overlay
 
     void theOverlayIsKept()
     {

@@ -116,8 +116,7 @@ private slots:
         label.clearTools();
     }
 
-    // --- Cursor read-out
-    // ---------------------------------------------------------------------------
+    // Cursor read-out
 
     void movesTellThePositionWithAndWithoutAButton()
     {
@@ -258,8 +257,7 @@ private slots:
         QCOMPARE(label.mousePos, QPoint(3, 0));
     }
 
-    // --- Making tools
-    // ------------------------------------------------------------------------------
+    // Making tools
 
     void numbersFillTheirGaps()
     {
@@ -434,8 +432,24 @@ private slots:
         QCOMPARE(label.pointList.at(0).x, 30);
     }
 
-    // --- Selecting
-    // ---------------------------------------------------------------------------------
+    /// A press belongs to the label, or a style that drags windows by their empty parts takes it.
+    void pressesDoNotReachTheWindowBehind()
+    {
+        struct Window : QWidget
+        {
+            int presses = 0;
+            void mousePressEvent(QMouseEvent*) override { ++presses; }
+        };
+        Window window;
+        window.resize(300, 300);
+        MyLabel label(&window);
+        label.resize(200, 200);
+        testing::showAndPaint(window);
+        Mouse(label).click({50, 50});
+        QCOMPARE(window.presses, 0);
+    }
+
+    // Selecting
 
     void theLastHitWinsAndEveryHitIsTold()
     {
@@ -536,8 +550,7 @@ private slots:
         QCOMPARE(label.pointList.at(0).x, 70);
     }
 
-    // --- Releasing, deleting, clearing
-    // -------------------------------------------------------------
+    // Releasing, deleting, clearing
 
     void theReleaseTellsInItsOrder()
     {
@@ -698,8 +711,7 @@ private slots:
         QVERIFY(label.lineList.isEmpty());
     }
 
-    // --- People
-    // --------------------------------------------------------------------------------------
+    // People
 
     void keyboardFocusChangesNothing()
     {
