@@ -58,7 +58,7 @@ void moveOverLabel(benchmark::State& state)
     label.currentType = QStringLiteral("P");
     label.selectedIndex = 0;
     int step = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         sendMove(label, {100 + step % 400, 100 + step % 600}, Qt::LeftButton);
         label.repaint();
         ++step;
@@ -76,7 +76,7 @@ void repaintPlainLabel(benchmark::State& state)
         testing::grayPicture().scaled(labelSize, Qt::KeepAspectRatio, Qt::SmoothTransformation)));
     label.show();
     QApplication::processEvents();
-    for (auto _ : state)
+    for ([[maybe_unused]] auto _ : state)
         label.repaint();
 }
 BENCHMARK(repaintPlainLabel)->Unit(benchmark::kMillisecond);
@@ -89,7 +89,7 @@ void selectAmongTools(benchmark::State& state)
     const QPoint position(30, 30);
     QMouseEvent press(QEvent::MouseButtonPress, position, label.mapToGlobal(position),
                       Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
-    for (auto _ : state)
+    for ([[maybe_unused]] auto _ : state)
         QApplication::sendEvent(&label, &press);
 }
 BENCHMARK(selectAmongTools)->Unit(benchmark::kMicrosecond);
@@ -103,7 +103,7 @@ void dragColourBar(benchmark::State& state)
     QApplication::processEvents();
     host.bar->dragMarker = 1;
     int step = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         sendMove(*host.bar, {40, 20 + step % 300}, Qt::LeftButton);
         QApplication::sendPostedEvents();
         QApplication::processEvents();
@@ -126,7 +126,7 @@ void dragColourBarAlone(benchmark::State& state)
     QApplication::processEvents();
     bar.dragMarker = 1;
     int step = 0;
-    for (auto _ : state) {
+    for ([[maybe_unused]] auto _ : state) {
         sendMove(bar, {40, 20 + step % 300}, Qt::LeftButton);
         bar.repaint();
         ++step;
