@@ -451,11 +451,10 @@ private slots:
         const QColor background = at({bar->startMarker.x() + 3, bar->startMarker.y() - 8});
         QCOMPARE(background, bar->palette().color(QPalette::Window));
         int darkest = 255;
-        for (double x = bar->startMarker.x() + 14.5; x < bar->startMarker.x() + 16.5; x += 0.25)
-            darkest = std::min(
-                darkest,
-                image.pixelColor(static_cast<int>(x * ratio), static_cast<int>(130.5 * ratio))
-                    .lightness());
+        const int end = static_cast<int>((bar->startMarker.x() + 16.5) * ratio);
+        for (int x = static_cast<int>((bar->startMarker.x() + 14.5) * ratio); x < end; ++x)
+            darkest =
+                std::min(darkest, image.pixelColor(x, static_cast<int>(130.5 * ratio)).lightness());
         QVERIFY(darkest < 160);
         QCOMPARE(at(bar->startMarker + QPoint(17, -9)), background);
     }
