@@ -105,14 +105,23 @@ ControlPanel::~ControlPanel() = default;
 void ControlPanel::showBeside(QWidget& window)
 {
     constexpr int gap = 10;
-    show();
+    constexpr int titleBar = 40; // unknown before the window manager has drawn it; a generous guess
+    adjustSize();
     const QRect screen = window.screen()->availableGeometry();
-    const int windowWidth = window.frameGeometry().width();
-    const int bothWidth = windowWidth + gap + frameGeometry().width();
-    const int left = screen.left() + std::max(0, (screen.width() - bothWidth) / 2);
-    const int top = std::max(screen.top(), window.frameGeometry().top());
-    window.move(left, top);
-    move(std::min(left + windowWidth + gap, screen.right() + 1 - frameGeometry().width()), top);
+    const QSize room(screen.width() - gap - frameGeometry().width(), screen.height() - titleBar);
+    window.resize(window.size().boundedTo(room).expandedTo(window.minimumSizeHint()));
+    const QSize left = window.frameGeometry().size();
+    const QSize right = frameGeometry().size();
+    const int x =
+        screen.left() + std::max(0, (screen.width() - left.width() - gap - right.width()) / 2);
+    const int y =
+        screen.top() + std::max(0, (screen.height() - std::max(left.height(), right.height())) / 2);
+    // Moved first, then shown: a window manager takes the place of a new window as that of its
+    // frame.
+    window.move(x, y);
+    move(std::min(x + left.width() + gap, screen.right() + 1 - right.width()), y);
+    window.show();
+    show();
 }
 
 void ControlPanel::showSettings()

@@ -23,8 +23,8 @@ public:
     explicit ControlPanel(SimulatedImager& imager, QWidget* parent = nullptr);
     ~ControlPanel() override;
 
-    /// Shows the panel to the right of a window on the screen, which moves to make room. Where the
-    /// screen is too narrow for both, the panel stands before the window's right edge.
+    /// Shows a window in the middle of its screen and the panel to its right; a window that leaves no
+    /// room becomes smaller. Where even that is not enough, the panel stands over its right edge.
     void showBeside(QWidget& window);
 
 private:

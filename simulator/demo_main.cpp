@@ -21,7 +21,6 @@ int main(int argc, char** argv)
     imager.setCameraPlugged(true);
 
     MainWindow window;
-    window.show();
     simulator::ControlPanel panel(imager);
     panel.setAttribute(Qt::WA_QuitOnClose, false);
     panel.showBeside(window);

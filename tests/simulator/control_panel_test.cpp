@@ -12,6 +12,7 @@
 #include <QScreen>
 #include <QSlider>
 #include <QSpinBox>
+#include <QVBoxLayout>
 
 #include <memory>
 
@@ -210,24 +211,30 @@ void ControlPanelTest::tabGoesFromTopToBottom()
 
 void ControlPanelTest::standsBesideAWindow_data()
 {
-    QTest::addColumn<int>("windowWidth");
-    QTest::newRow("room for both") << 200;
-    QTest::newRow("wider than the screen allows") << 2000;
+    QTest::addColumn<int>("width");
+    QTest::addColumn<int>("minimumWidth");
+    QTest::addColumn<bool>("hasRoom");
+    QTest::newRow("room for both") << 200 << 100 << true;
+    QTest::newRow("as wide as the screen") << 800 << 100 << true;
+    QTest::newRow("too wide at its smallest") << 800 << 700 << false;
 }
 
 void ControlPanelTest::standsBesideAWindow()
 {
-    QFETCH(int, windowWidth);
+    QFETCH(int, width);
+    QFETCH(int, minimumWidth);
+    QFETCH(bool, hasRoom);
     QWidget window;
-    window.resize(windowWidth, 300);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    m_panel->showBeside(window);
     const QRect screen = window.screen()->availableGeometry();
-    QVERIFY(m_panel->isVisible());
+    QCOMPARE(screen.width(), 800);
+    auto* content = new QWidget(&window);
+    content->setMinimumWidth(minimumWidth);
+    (new QVBoxLayout(&window))->addWidget(content);
+    window.resize(width, 300);
+    m_panel->showBeside(window);
+    QVERIFY(window.isVisible() && m_panel->isVisible());
     QVERIFY(window.frameGeometry().left() >= screen.left());
     QVERIFY(m_panel->frameGeometry().right() <= screen.right());
-    const bool hasRoom = windowWidth + 10 + m_panel->frameGeometry().width() <= screen.width();
     QCOMPARE(!window.frameGeometry().intersects(m_panel->frameGeometry()), hasRoom);
 }
 
