@@ -1,0 +1,71 @@
+#pragma once
+
+#include "analysis/information.h"
+#include "analysis/units.h"
+
+#include <QImage>
+#include <QString>
+
+#include <array>
+#include <vector>
+
+class QPagedPaintDevice;
+
+/// The report of one photograph: its data and picture on the first page, the tool table on the
+/// second and, when there are many tools, on further ones.
+///
+/// Positions are device pixels of an A4 page at 1200 dots per inch, counted from the corner inside
+/// margins of 10 points, as a QPrinter in high resolution has them; texts stand with their baseline
+/// on y. Captions are translated in the context of the analysis window, by the translators that the
+/// application has installed. Fonts need a QGuiApplication, nothing here needs a widget.
+namespace analysis {
+
+/// One line of the tool table: name, type, high, low, average.
+using ToolCells = std::array<QString, 5>;
+
+/// Everything a report shows. Texts are final: converted, formatted, translated.
+struct Report
+{
+    /// The information table; the file name is also the document's title.
+    std::array<QString, informationRows> information;
+    QImage picture;       ///< the false-colour picture, 240 × 320
+    QImage overlay;       ///< the tools on it, at three times its size; may be null
+    QImage colourStrip;   ///< hottest at the top
+    qint16 maximum10 = 0; ///< ends of the scale beside the strip: tenths of a degree as stored,
+    qint16 minimum10 = 0; ///< shown through `conversion`
+    Conversion conversion;
+    int unitIndex = 0; ///< of the unit selector: 0 °C, anything else °F
+    std::vector<ToolCells> tools;
+    QString language; ///< "RU" puts values further right, behind its longer captions
+};
+
+/// A temperature beside the colour strip: baseline start on the canvas, and its text.
+struct ScaleText
+{
+    int x;
+    int y;
+    QString text;
+};
+
+/// The eleven temperatures of the scale, hottest first, in single precision throughout. The
+/// conversion's offset is part of the distance between two of them, too, so in °F all but the first
+/// and the last are off: reports have always shown them like this. What is below 100 by value, not
+/// by its text, starts ten pixels further right.
+std::vector<ScaleText> reportScale(qint16 maximum10, qint16 minimum10, Conversion conversion);
+
+/// The picture with overlay, colour strip and scale, 930 × 960, transparent where nothing is.
+QImage reportCanvas(const Report& report);
+
+/// Paints all pages. The device is A4 at 1200 dots per inch, with margins of 10 points.
+void paintReport(const Report& report, QPagedPaintDevice& device);
+
+/// Writes the report as a PDF file with embedded fonts. The text stays searchable, characters that
+/// share their shape with others included.
+///
+/// The file is made beside its final place and moved there when it is whole. Until then, and when
+/// anything fails, a file that stands at `path` stays as it is and nothing else is left. False when
+/// the path cannot be written (empty, a folder, no permission, disk full); the question whether it
+/// can be opened comes before any painting.
+bool writeReport(const Report& report, const QString& path);
+
+} // namespace analysis

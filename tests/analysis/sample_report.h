@@ -1,0 +1,15 @@
+#pragma once
+
+#include "analysis/report.h"
+#include "overlay/my_label.h"
+
+namespace testing {
+
+/// Draws a point, a line, a rectangle and a circle on a label.
+void placeSampleTools(MyLabel& label);
+
+/// A report with a made-up scene from 20.0 to 52.5 °C and tools on the picture, in the given unit;
+/// `toolCount` rows in the table, whose texts are in `language` ("CH", "EN", "RU" or "KO").
+analysis::Report sampleReport(const QString& language, int unitIndex, int toolCount);
+
+} // namespace testing
