@@ -2,6 +2,8 @@
 
 #include "analysis/false_colour.h"
 #include "analysis/information.h"
+#include "analysis/report.h"
+#include "analysis/report_overlay.h"
 #include "analysis/tool_statistics.h"
 #include "config/configuration_record.h"
 
@@ -10,10 +12,14 @@
 #include <QColorDialog>
 #include <QDateTime>
 #include <QDebug>
+#include <QDesktopServices>
+#include <QFileDialog>
 #include <QFileInfo>
+#include <QMessageBox>
 #include <QPointer>
 #include <QTableWidget>
 #include <QToolTip>
+#include <QUrl>
 
 using namespace analysis;
 
@@ -379,7 +385,51 @@ void Analysis_Widget::on_pushButton_2_clicked()
     setFocus(currentTool);
 }
 
-void Analysis_Widget::on_pushButton_clicked() {}
+void Analysis_Widget::on_pushButton_clicked()
+{
+    // The imager may be unplugged while a dialog is up, and the dialog goes with this window.
+    const QPointer<QFileDialog> dialog =
+        new QFileDialog(this, tr("保存的文件"), config::documentsPath(), tr("Items files(*.pdf)"));
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setFileMode(QFileDialog::AnyFile);
+    const bool accepted = dialog->exec() == QDialog::Accepted;
+    if (!dialog)
+        return;
+    const QString file = dialog->selectedFiles().value(0);
+    delete dialog;
+    if (!accepted || !writeReport(report(), file))
+        return;
+
+    const QPointer<QMessageBox> message = new QMessageBox(
+        QMessageBox::Information, tr("提示"), tr("导出文件成功!"), QMessageBox::Ok, this);
+    message->exec();
+    delete message;
+    QDesktopServices::openUrl(QUrl::fromLocalFile(file));
+}
+
+/// What the window shows now, whether it is painted or not.
+Report Analysis_Widget::report()
+{
+    render();
+    Report report;
+    for (int row = 0; row < informationRows; ++row)
+        report.information[std::size_t(row)] = ui->tableWidget_2->item(row, 1)->text();
+    report.picture = falseColourImage;
+    report.overlay = reportOverlay(*ui->label, falseColourImage.size());
+    report.colourStrip = colourStrip.toImage();
+    report.maximum10 = photograph.parameters.maximum10;
+    report.minimum10 = photograph.parameters.minimum10;
+    report.conversion = conversion;
+    report.unitIndex = ui->comboBox->currentIndex();
+    for (int row = 0; row < ui->tableWidget->rowCount(); ++row) {
+        ToolCells cells;
+        for (std::size_t column = 0; column < cells.size(); ++column)
+            cells[column] = ui->tableWidget->item(row, int(column))->text();
+        report.tools.push_back(cells);
+    }
+    report.language = configurationField;
+    return report;
+}
 
 void Analysis_Widget::on_tableWidget_itemClicked(QTableWidgetItem* item)
 {

@@ -14,6 +14,10 @@
 
 class QTableWidgetItem;
 
+namespace analysis {
+struct Report;
+}
+
 namespace Ui {
 class Analysis_Widget;
 }
@@ -74,7 +78,8 @@ public slots:
     void on_pushButton_4_clicked();
     void on_pushButton_3_clicked();
     void on_pushButton_2_clicked();
-    /// The PDF report; the button stays disabled as long as there is none.
+    /// Asks for a file, writes the PDF report into it, says so and opens it. Nothing is said when
+    /// the file cannot be written.
     void on_pushButton_clicked();
     void on_tableWidget_itemClicked(QTableWidgetItem* item);
     void on_tableWidget_2_itemEntered(QTableWidgetItem* item);
@@ -90,6 +95,7 @@ private:
     void showScale();
     void showGrayImage();
     void render();
+    analysis::Report report();
 
     const std::unique_ptr<Ui::Analysis_Widget> ui;
     bool m_mapped = false; ///< falseColourMatrix is of the current gray image and palette

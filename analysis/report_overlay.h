@@ -11,8 +11,7 @@ namespace analysis {
 /// report. `picture` is the size of the thermal picture (240 × 320); the result is one pixel wider
 /// than three times that.
 ///
-/// The label is left as it was, shown or hidden, and repaints itself once. Null for an empty size,
-/// and for a label without any extent, which cannot be painted.
+/// The label is left as it was, shown or hidden, and repaints itself once. Null for an empty size.
 QImage reportOverlay(MyLabel& label, const QSize& picture);
 
 } // namespace analysis

@@ -744,8 +744,6 @@ private slots:
         QVERIFY(!window);
     }
 
-    void thereIsNoReportYet() { QVERIFY(!child<QPushButton>("pushButton").isEnabled()); }
-
     // --- the picture -------------------------------------------------------------------------
 
     void theGrayPictureIsSetWhenLoaded()
