@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QString>
+
+namespace analysis {
+
+/// Why a photograph, or a file made of one, could not be had.
+enum class Problem
+{
+    None,
+    CannotRead,    ///< detail: the system's reason
+    TooShort,      ///< detail: bytes there and bytes needed, "54/307792"
+    OtherImager,   ///< the layout was given; detail: the machine ID found
+    NeitherLayout, ///< the layout was to be found out; detail: what stands where, "0: 7, 1: -"
+    AlreadyThere,  ///< the file to write exists; detail: empty
+    CannotWrite    ///< detail: the system's reason
+};
+
+/// How one piece of work on one photograph ended. `detail` is no sentence and in no language of
+/// ours: whoever tells a user puts the words round it.
+struct Outcome
+{
+    Problem problem = Problem::None;
+    QString detail;
+
+    bool isGood() const { return problem == Problem::None; }
+};
+
+} // namespace analysis

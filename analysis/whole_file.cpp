@@ -1,0 +1,75 @@
+#include "analysis/whole_file.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+
+#include <atomic>
+#include <filesystem>
+
+namespace fs = std::filesystem;
+
+namespace analysis {
+namespace {
+
+fs::path native(const QString& path)
+{
+    return fs::u8path(path.toUtf8().constData());
+}
+
+/// A short name, whatever the length of the file's own, that no other thread or program uses.
+QString nameAside(const QString& path)
+{
+    static std::atomic<int> counter{0};
+    return QStringLiteral("%1/.thermadesk-%2-%3.part")
+        .arg(QFileInfo(path).path())
+        .arg(QCoreApplication::applicationPid())
+        .arg(counter++);
+}
+
+/// Gives a file a second name, if that is free. Where a file system has no such names, looking
+/// first and renaming then is the best there is.
+std::error_code moveToFreeName(const fs::path& from, const fs::path& to)
+{
+    std::error_code error;
+    fs::create_hard_link(from, to, error);
+    if (!error) {
+        fs::remove(from, error);
+        return {};
+    }
+    std::error_code ignored;
+    if (fs::exists(fs::symlink_status(to, ignored)))
+        return std::make_error_code(std::errc::file_exists);
+    fs::rename(from, to, error);
+    return error;
+}
+
+} // namespace
+
+Outcome writeWholeFile(const QString& path, const QByteArray& bytes, bool overwrite)
+{
+    QFile aside(nameAside(path));
+    if (!aside.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
+        return {Problem::CannotWrite, aside.errorString()};
+    const bool isWritten = aside.write(bytes) == bytes.size();
+    const QString reason = aside.errorString();
+    aside.close();
+    if (!isWritten) {
+        aside.remove();
+        return {Problem::CannotWrite, reason};
+    }
+
+    std::error_code error;
+    if (overwrite)
+        fs::rename(native(aside.fileName()), native(path), error);
+    else
+        error = moveToFreeName(native(aside.fileName()), native(path));
+    if (!error)
+        return {};
+    aside.remove();
+    if (error == std::errc::file_exists)
+        return {Problem::AlreadyThere, {}};
+    return {Problem::CannotWrite, QString::fromLocal8Bit(error.message().c_str())};
+}
+
+} // namespace analysis

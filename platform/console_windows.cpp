@@ -1,0 +1,44 @@
+#include "platform/console.h"
+
+#include <atomic>
+#include <csignal>
+#include <cstdlib>
+#include <initializer_list>
+#include <io.h>
+
+namespace platform {
+namespace {
+
+std::atomic<int> request{0};
+
+// Windows has put the default back before it calls this.
+void keep(int signal)
+{
+    request = signal;
+}
+
+} // namespace
+
+bool isTerminal(std::FILE* stream)
+{
+    return _isatty(_fileno(stream)) != 0;
+}
+
+void deferInterruptions()
+{
+    for (const int signal : {SIGINT, SIGTERM, SIGBREAK})
+        std::signal(signal, keep);
+}
+
+bool isInterrupted()
+{
+    return request != 0;
+}
+
+void endAsInterrupted()
+{
+    constexpr int endedByControlC = static_cast<int>(0xC000013AU);
+    std::_Exit(endedByControlC);
+}
+
+} // namespace platform

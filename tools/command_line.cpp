@@ -1,0 +1,93 @@
+#include "tools/command_line.h"
+
+#include "tools/messages.h"
+
+#include <QThread>
+
+namespace tools {
+
+CommandLine::CommandLine(const QString& command, const QString& summary) : m_command(command)
+{
+    m_parser.setApplicationDescription(summary);
+    m_parser.addPositionalArgument(command, {}, command);
+    m_parser.addPositionalArgument(QStringLiteral("PATH"),
+                                   QStringLiteral("A photograph, or a folder of them (*.bmp)."),
+                                   QStringLiteral("PATH…"));
+    add({QStringLiteral("layout")},
+        QStringLiteral("File layout: 0, 1, or auto (default): the one in which the machine ID of a "
+                       "known imager stands."),
+        QStringLiteral("0|1|auto"), QStringLiteral("auto"));
+    add({QStringLiteral("r"), QStringLiteral("recursive")},
+        QStringLiteral("Take the sub-folders of folders, too."));
+    add({QStringLiteral("j"), QStringLiteral("jobs")},
+        QStringLiteral("Photographs worked on at the same time. Default: one for each core."),
+        QStringLiteral("N"));
+    add({QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this help."));
+}
+
+void CommandLine::add(const QStringList& names, const QString& description,
+                      const QString& valueName, const QString& defaultValue)
+{
+    m_parser.addOption({names, description, valueName, defaultValue});
+}
+
+bool CommandLine::parse(const QStringList& arguments)
+{
+    if (!m_parser.parse(arguments))
+        refuse(m_parser.errorText());
+    else if (isSet(QStringLiteral("help"))) {
+        print(m_parser.helpText().toUtf8());
+        return false;
+    } else if (paths().isEmpty())
+        refuse(QStringLiteral("no photographs are named"));
+    return isGood();
+}
+
+std::optional<int> CommandLine::number(const QString& option, int least, int most)
+{
+    if (!isSet(option))
+        return std::nullopt;
+    bool isNumber = false;
+    const int number = value(option).toInt(&isNumber);
+    if (isNumber && number >= least && number <= most)
+        return number;
+    refuse(QStringLiteral("--%1 is a whole number from %2 to %3").arg(option).arg(least).arg(most));
+    return std::nullopt;
+}
+
+void CommandLine::refuse(const QString& error)
+{
+    if (m_error.isEmpty())
+        m_error = error;
+}
+
+void CommandLine::refuseUnless(bool makesSense, const QStringList& options, const QString& why)
+{
+    for (const QString& option : options) {
+        if (!makesSense && isSet(option))
+            refuse(QStringLiteral("--%1 %2").arg(option, why));
+    }
+}
+
+bool CommandLine::isGood()
+{
+    if (m_error.isEmpty())
+        return true;
+    printError(QStringLiteral("%1: %2 (see thermaphoto %1 --help)").arg(m_command, m_error));
+    m_status = status::badUsage;
+    return false;
+}
+
+std::optional<int> CommandLine::modelIndex()
+{
+    return choice<std::optional<int>>(QStringLiteral("layout"),
+                                      {{"auto", std::nullopt}, {"0", 0}, {"1", 1}});
+}
+
+int CommandLine::jobs()
+{
+    constexpr int most = 1024;
+    return number(QStringLiteral("jobs"), 1, most).value_or(QThread::idealThreadCount());
+}
+
+} // namespace tools

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <QCommandLineParser>
+
+#include <optional>
+#include <utility>
+#include <vector>
+
+namespace tools {
+
+/// What a program ends with.
+namespace status {
+constexpr int good = 0;
+constexpr int someFailed = 1;
+constexpr int badUsage = 2;
+} // namespace status
+
+/// The arguments of one command: its own options, and those that all commands take (layout,
+/// folders, jobs, help). Values that make no sense are remembered while options are read, so that a
+/// command can read them all and then ask isGood() once.
+class CommandLine
+{
+public:
+    CommandLine(const QString& command, const QString& summary);
+
+    /// `valueName` is empty for a switch.
+    void add(const QStringList& names, const QString& description, const QString& valueName = {},
+             const QString& defaultValue = {});
+
+    /// `arguments` start with the program and the command. False when the command ends here with
+    /// status(): help was asked for and printed, or there are errors and they were.
+    bool parse(const QStringList& arguments);
+
+    bool isSet(const QString& option) const { return m_parser.isSet(option); }
+    QString value(const QString& option) const { return m_parser.value(option); }
+
+    /// The value's meaning; one of `choices`.
+    template<typename T>
+    T choice(const QString& option, const std::vector<std::pair<const char*, T>>& choices)
+    {
+        QStringList names;
+        for (const auto& [name, meaning] : choices) {
+            if (value(option) == QLatin1String(name))
+                return meaning;
+            names += QLatin1String(name);
+        }
+        refuse(QStringLiteral("--%1 is one of %2").arg(option, names.join(QStringLiteral(", "))));
+        return choices.front().second;
+    }
+
+    /// The value as a whole number; nothing when the option is not given.
+    std::optional<int> number(const QString& option, int least, int most);
+
+    /// Remembers what is wrong with the arguments; the first of several counts.
+    void refuse(const QString& error);
+
+    /// Options that make sense with one value of another option only.
+    void refuseUnless(bool makesSense, const QStringList& options, const QString& why);
+
+    /// False, after printing it, when something was refused; the command then ends with status().
+    bool isGood();
+    int status() const { return m_status; }
+
+    QStringList paths() const { return m_parser.positionalArguments().mid(1); }
+    bool isRecursive() const { return isSet(QStringLiteral("recursive")); }
+    /// 0 or 1; nothing for "auto".
+    std::optional<int> modelIndex();
+    int jobs();
+
+private:
+    QString m_command;
+    QCommandLineParser m_parser;
+    QString m_error;
+    int m_status = status::good;
+};
+
+} // namespace tools

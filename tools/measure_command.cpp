@@ -1,0 +1,172 @@
+#include "analysis/photograph_reader.h"
+#include "tools/command_line.h"
+#include "tools/commands.h"
+#include "tools/messages.h"
+#include "tools/photograph_run.h"
+#include "tools/tool_file.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+using analysis::Outcome;
+using analysis::PhotographReader;
+using analysis::ToolKind;
+using analysis::ToolRow;
+using analysis::UnitChoice;
+
+namespace tools {
+namespace {
+
+/// The tool table of one photograph.
+struct Measured
+{
+    QString file;
+    QString unit; ///< "C" or "F"
+    std::vector<ToolRow> rows;
+};
+
+QString nameOf(ToolKind kind)
+{
+    switch (kind) {
+    case ToolKind::Point:
+        return QStringLiteral("point");
+    case ToolKind::Line:
+        return QStringLiteral("line");
+    case ToolKind::Rect:
+        return QStringLiteral("rectangle");
+    case ToolKind::Circle:
+        return QStringLiteral("circle");
+    }
+    return {};
+}
+
+QByteArray json(const Measured& measured)
+{
+    QJsonArray tools;
+    for (const ToolRow& row : measured.rows)
+        tools.append(QJsonObject{{QStringLiteral("name"), row.name},
+                                 {QStringLiteral("type"), nameOf(row.kind)},
+                                 {QStringLiteral("high"), row.high},
+                                 {QStringLiteral("low"), row.low},
+                                 {QStringLiteral("average"), row.average}});
+    const QJsonObject object{{QStringLiteral("file"), measured.file},
+                             {QStringLiteral("unit"), measured.unit},
+                             {QStringLiteral("tools"), tools}};
+    return QJsonDocument(object).toJson(QJsonDocument::Compact);
+}
+
+/// A field as spreadsheets take it: quoted where it must be.
+QString csvField(QString text)
+{
+    constexpr const char* special = ",\"\r\n";
+    const bool isPlain = std::none_of(text.begin(), text.end(), [](QChar character) {
+        return QLatin1String(special).contains(character);
+    });
+    if (isPlain)
+        return text;
+    return QLatin1Char('"') + text.replace(QLatin1Char('"'), QLatin1String("\"\"")) +
+           QLatin1Char('"');
+}
+
+QByteArray csv(const Measured& measured)
+{
+    const QString file = csvField(measured.file);
+    QString lines;
+    for (const ToolRow& row : measured.rows) {
+        const QStringList fields{file,     measured.unit, row.name,   nameOf(row.kind),
+                                 row.high, row.low,       row.average};
+        lines += fields.join(QLatin1Char(',')) + QLatin1Char('\n');
+    }
+    return lines.toUtf8();
+}
+
+QByteArray table(const Measured& measured)
+{
+    QString lines = QStringLiteral("%1 (°%2)\n").arg(measured.file, measured.unit);
+    const auto line = [&lines](const QString& name, const QString& type, const QString& high,
+                               const QString& low, const QString& average) {
+        lines += QStringLiteral("%1 %2 %3 %4 %5\n")
+                     .arg(name, -5)
+                     .arg(type, -9)
+                     .arg(high, 8)
+                     .arg(low, 8)
+                     .arg(average, 8);
+    };
+    line(QStringLiteral("name"), QStringLiteral("type"), QStringLiteral("high"),
+         QStringLiteral("low"), QStringLiteral("average"));
+    for (const ToolRow& row : measured.rows)
+        line(row.name, nameOf(row.kind), row.high, row.low, row.average);
+    return lines.toUtf8();
+}
+
+using Writer = QByteArray (*)(const Measured&);
+
+} // namespace
+
+int measureCommand(const QStringList& arguments)
+{
+    CommandLine line(QStringLiteral("measure"),
+                     QStringLiteral("Measures photographs, all with the same tools."));
+    line.add(
+        {QStringLiteral("tools")},
+        QStringLiteral("The tools: {\"points\": [[x, y], …], \"lines\": [[x1, y1, x2, y2], …], "
+                       "\"rectangles\": [[x1, y1, x2, y2], …], \"circles\": [[cx, cy, r], …]}."),
+        QStringLiteral("FILE.json"));
+    line.add({QStringLiteral("unit")},
+             QStringLiteral("Unit of the temperatures. Default: the photograph's own."),
+             QStringLiteral("C|F"), QStringLiteral("file"));
+    line.add({QStringLiteral("format")}, QStringLiteral("How to print the tables. Default: table."),
+             QStringLiteral("csv|json|table"), QStringLiteral("table"));
+    if (!line.parse(arguments))
+        return line.status();
+
+    PhotographRun photographs;
+    photographs.jobs = line.jobs();
+    const std::optional<int> modelIndex = line.modelIndex();
+    const auto unit =
+        line.choice<UnitChoice>(QStringLiteral("unit"), {{"C", UnitChoice::Celsius},
+                                                         {"F", UnitChoice::Fahrenheit},
+                                                         {"file", UnitChoice::AsStored}});
+    const auto write = line.choice<Writer>(QStringLiteral("format"),
+                                           {{"csv", csv}, {"json", json}, {"table", table}});
+    ToolSet tools;
+    if (!line.isSet(QStringLiteral("tools")))
+        line.refuse(QStringLiteral("--tools is missing"));
+    else {
+        const QString file = line.value(QStringLiteral("tools"));
+        const QString wrong = readToolFile(file, tools);
+        if (!wrong.isEmpty())
+            line.refuse(file + QStringLiteral(": ") + wrong);
+    }
+    if (!line.isGood())
+        return line.status();
+
+    photographs.entries = listPhotographs(line.paths(), line.isRecursive());
+    photographs.makeWork = [&]() -> Work {
+        const auto reader = std::make_shared<PhotographReader>();
+        return [&, reader](int index) -> Result {
+            const QString& path = photographs.entries[std::size_t(index)].path;
+            const Outcome outcome = reader->read(path, modelIndex);
+            if (!outcome.isGood())
+                return {{}, reason(outcome)};
+            const analysis::Photograph& photograph = reader->photograph();
+            const analysis::ShownUnit shown =
+                shownUnit(unit, photograph.parameters.unit, reader->isRaw());
+            return {write({path, shown.letter(),
+                           toolRows(tools.lists(), photograph.temperatures, shown.conversion)}),
+                    {}};
+        };
+    };
+    if (write == json) {
+        photographs.before = "[";
+        photographs.between = ",\n ";
+        photographs.after = "]\n";
+    } else if (write == csv)
+        photographs.before = "file,unit,name,type,high,low,average\n";
+    else
+        photographs.between = "\n";
+    return run(photographs);
+}
+
+} // namespace tools

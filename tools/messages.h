@@ -1,0 +1,42 @@
+#pragma once
+
+#include "analysis/outcome.h"
+
+#include <QElapsedTimer>
+
+namespace tools {
+
+/// Writes to the standard output. False, with the reason in errno, when that fails.
+bool print(const QByteArray& text);
+/// Writes out what print() still holds back. False as above.
+bool flushOutput();
+
+/// One line on the error output, behind the program's name. Control characters of file names become
+/// "?", so that it stays one line.
+void printError(const QString& text);
+
+/// What went wrong, in a few words.
+QString reason(const analysis::Outcome& outcome);
+
+/// A line on the error output that tells how far the work is. Does nothing unless `shown`.
+class ProgressBar
+{
+public:
+    ProgressBar(int total, bool shown);
+    ~ProgressBar() { hide(); }
+    ProgressBar(const ProgressBar&) = delete;
+    ProgressBar& operator=(const ProgressBar&) = delete;
+
+    void step();
+    /// Until the next step: before something else is printed.
+    void hide();
+
+private:
+    int m_total;
+    bool m_shown;
+    int m_done = 0;
+    bool m_isVisible = false;
+    QElapsedTimer m_sinceDrawn;
+};
+
+} // namespace tools

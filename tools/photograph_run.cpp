@@ -1,0 +1,67 @@
+#include "tools/photograph_run.h"
+
+#include "platform/console.h"
+#include "tools/command_line.h"
+#include "tools/messages.h"
+
+#include <cerrno>
+#include <cstring>
+
+namespace tools {
+namespace {
+
+/// Where the bar would get in between the results it is not drawn.
+bool wantsProgressBar(bool writesFiles)
+{
+    return platform::isTerminal(stderr) && (writesFiles || !platform::isTerminal(stdout));
+}
+
+} // namespace
+
+int run(const PhotographRun& photographs)
+{
+    if (photographs.writesFiles)
+        platform::deferInterruptions();
+
+    const std::vector<Entry>& entries = photographs.entries;
+    const int count = int(entries.size());
+    ProgressBar bar(count, wantsProgressBar(photographs.writesFiles));
+    int good = 0;
+    int failed = 0;
+    bool canPrint = print(photographs.before);
+
+    const auto makeWork = [&]() -> Work {
+        return [&entries, work = photographs.makeWork()](int index) {
+            const Entry& entry = entries[std::size_t(index)];
+            return entry.failure.isEmpty() ? work(index) : Result{{}, entry.failure};
+        };
+    };
+    const auto deliver = [&](int index, const Result& result) {
+        if (result.failure.isEmpty()) {
+            canPrint =
+                canPrint && (good == 0 || print(photographs.between)) && print(result.output);
+            ++good;
+        } else {
+            bar.hide();
+            printError(entries[std::size_t(index)].path + QStringLiteral(": ") + result.failure);
+            ++failed;
+        }
+        bar.step();
+        return canPrint && !platform::isInterrupted();
+    };
+    inOrder(count, photographs.jobs, makeWork, deliver);
+
+    bar.hide();
+    if (platform::isInterrupted()) {
+        printError(QStringLiteral("interrupted after %1 of %2").arg(good + failed).arg(count));
+        platform::endAsInterrupted();
+    }
+    if (!canPrint || !print(photographs.after) || !flushOutput()) {
+        printError(QStringLiteral("the output cannot be written: ") +
+                   QString::fromLocal8Bit(std::strerror(errno)));
+        return status::someFailed;
+    }
+    return failed == 0 ? status::good : status::someFailed;
+}
+
+} // namespace tools

@@ -1,0 +1,151 @@
+#include "tools/tool_file.h"
+
+#include "overlay/tool_rules.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <array>
+#include <cmath>
+
+namespace tools {
+namespace {
+
+const QLatin1String pointsKey("points");
+const QLatin1String linesKey("lines");
+const QLatin1String rectanglesKey("rectangles");
+const QLatin1String circlesKey("circles");
+
+/// Numbers of one tool. The last column and row that the label can give are 240 and 320.
+using Numbers = std::array<int, 4>;
+
+bool isInPicture(int x, int y)
+{
+    return x >= 0 && x <= overlay::imageColumns && y >= 0 && y <= overlay::imageRows;
+}
+
+QString wrongWith(const overlay::PointTool& point)
+{
+    return isInPicture(point.x, point.y) ? QString() : QStringLiteral("is outside the picture");
+}
+
+QString wrongWith(const overlay::LineTool& line)
+{
+    if (!isInPicture(line.x1, line.y1) || !isInPicture(line.x2, line.y2))
+        return QStringLiteral("is not wholly inside the picture");
+    const bool hasLength = line.x1 != line.x2 || line.y1 != line.y2;
+    return hasLength ? QString() : QStringLiteral("has no length");
+}
+
+QString wrongWith(const overlay::RectTool& rect)
+{
+    const bool isInside = isInPicture(rect.x1, rect.y1) && isInPicture(rect.x2, rect.y2);
+    return isInside ? QString() : QStringLiteral("is not wholly inside the picture");
+}
+
+QString wrongWith(const overlay::CircleTool& circle)
+{
+    if (!isInPicture(circle.cx, circle.cy))
+        return QStringLiteral("has its centre outside the picture");
+    return circle.radius >= 0 ? QString() : QStringLiteral("has a negative radius");
+}
+
+void place(overlay::PointTool& point, const Numbers& n)
+{
+    point.x = n[0];
+    point.y = n[1];
+}
+
+void place(overlay::CircleTool& circle, const Numbers& n)
+{
+    circle.cx = n[0];
+    circle.cy = n[1];
+    circle.radius = n[2];
+    circle.x2 = n[0] + n[2];
+    circle.y2 = n[1];
+}
+
+template<typename Tool>
+void place(Tool& tool, const Numbers& n)
+{
+    tool.x1 = n[0];
+    tool.y1 = n[1];
+    tool.x2 = n[2];
+    tool.y2 = n[3];
+}
+
+bool readNumbers(const QJsonValue& value, int count, Numbers& numbers)
+{
+    const QJsonArray array = value.toArray();
+    if (!value.isArray() || array.size() != count)
+        return false;
+    for (int i = 0; i < count; ++i) {
+        const double number = array[i].toDouble(NAN);
+        // Far more than any picture has, and safe to convert.
+        if (!(std::abs(number) < 1e6) || number != std::floor(number))
+            return false;
+        numbers[std::size_t(i)] = int(number);
+    }
+    return true;
+}
+
+/// Appends the tools of one kind and returns what is wrong with them.
+template<typename Tool>
+QString readKind(const QJsonObject& object, QLatin1String key, int count, QVector<Tool>& tools)
+{
+    const QJsonValue list = object.value(key);
+    if (!list.isArray() && !list.isUndefined())
+        return QStringLiteral("\"%1\" is not a list").arg(key);
+    for (const QJsonValue& value : list.toArray()) {
+        const QString where = QStringLiteral("\"%1\", number %2 ").arg(key).arg(tools.size() + 1);
+        Numbers numbers{};
+        if (!readNumbers(value, count, numbers))
+            return where + QStringLiteral("is not a list of %1 whole numbers").arg(count);
+        Tool tool;
+        place(tool, numbers);
+        tool.name = overlay::letterOf(tool) + QString::number(tools.size());
+        const QString wrong = wrongWith(tool);
+        if (!wrong.isEmpty())
+            return where + wrong;
+        tools.append(tool);
+    }
+    return {};
+}
+
+QString readTools(const QJsonObject& object, ToolSet& tools)
+{
+    for (const QString& key : object.keys()) {
+        if (key != pointsKey && key != linesKey && key != rectanglesKey && key != circlesKey)
+            return QStringLiteral("\"%1\" is none of \"points\", \"lines\", \"rectangles\" and "
+                                  "\"circles\"")
+                .arg(key);
+    }
+    for (const QString& wrong :
+         {readKind(object, pointsKey, 2, tools.points), readKind(object, linesKey, 4, tools.lines),
+          readKind(object, rectanglesKey, 4, tools.rects),
+          readKind(object, circlesKey, 3, tools.circles)}) {
+        if (!wrong.isEmpty())
+            return wrong;
+    }
+    return {};
+}
+
+} // namespace
+
+QString readToolFile(const QString& path, ToolSet& tools)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return file.errorString();
+    QJsonParseError error;
+    const QJsonDocument document = QJsonDocument::fromJson(file.readAll(), &error);
+    if (error.error != QJsonParseError::NoError)
+        return QStringLiteral("byte %1: %2").arg(error.offset).arg(error.errorString());
+    if (!document.isObject())
+        return QStringLiteral("not a JSON object");
+    return readTools(document.object(), tools);
+}
+
+} // namespace tools
