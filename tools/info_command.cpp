@@ -8,7 +8,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-using analysis::Marker;
+using overlay::Marker;
 using analysis::Outcome;
 using analysis::Parameters;
 using analysis::PhotographReader;
