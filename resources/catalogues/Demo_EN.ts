@@ -131,6 +131,26 @@
         <source>颜色选择</source>
         <translation>Colour choice</translation>
     </message>
+    <message>
+        <source>保存的文件</source>
+        <translation>Save file</translation>
+    </message>
+    <message>
+        <source>Items files(*.pdf)</source>
+        <translation>Items files(*.pdf)</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>Notice</translation>
+    </message>
+    <message>
+        <source>导出文件成功!</source>
+        <translation>File exported successfully!</translation>
+    </message>
+    <message>
+        <source>测温信息</source>
+        <translation>Measurement information</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

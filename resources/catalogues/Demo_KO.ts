@@ -131,6 +131,26 @@
         <source>颜色选择</source>
         <translation>색상 선택</translation>
     </message>
+    <message>
+        <source>保存的文件</source>
+        <translation>파일 저장</translation>
+    </message>
+    <message>
+        <source>Items files(*.pdf)</source>
+        <translation>Items files(*.pdf)</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>알림</translation>
+    </message>
+    <message>
+        <source>导出文件成功!</source>
+        <translation>파일을 내보냈습니다!</translation>
+    </message>
+    <message>
+        <source>测温信息</source>
+        <translation>측정 정보</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>

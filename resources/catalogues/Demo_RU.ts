@@ -131,6 +131,26 @@
         <source>颜色选择</source>
         <translation>Выбор цвета</translation>
     </message>
+    <message>
+        <source>保存的文件</source>
+        <translation>Сохранить файл</translation>
+    </message>
+    <message>
+        <source>Items files(*.pdf)</source>
+        <translation>Items files(*.pdf)</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>Уведомление</translation>
+    </message>
+    <message>
+        <source>导出文件成功!</source>
+        <translation>Файл успешно экспортирован!</translation>
+    </message>
+    <message>
+        <source>测温信息</source>
+        <translation>Результаты измерений</translation>
+    </message>
 </context>
 <context>
     <name>MainWindow</name>
