@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMouseEvent>
 #include <QPixmap>
 #include <QScreen>
 #include <QStyleOptionButton>
@@ -73,6 +74,28 @@ bool Walk::clickItem(QWidget* viewport, const QRect& item)
                [&] { return viewport->isVisible() && viewport->rect().contains(item.center()); }))
         return false;
     QTest::mouseClick(viewport, Qt::LeftButton, Qt::NoModifier, item.center());
+    return true;
+}
+
+bool Walk::doubleClickItem(QWidget* viewport, const QRect& item)
+{
+    QTest::mouseDClick(viewport, Qt::LeftButton, Qt::NoModifier, item.center());
+    return true;
+}
+
+bool Walk::drag(QWidget* widget, QPoint from, QPoint to)
+{
+    constexpr int steps = 12;
+    QTest::mousePress(widget, Qt::LeftButton, Qt::NoModifier, from);
+    for (int step = 1; step <= steps; ++step) {
+        const QPoint place = from + (to - from) * step / steps;
+        // Not QTest::mouseMove, which moves the pointer without a button held down.
+        QMouseEvent move(QEvent::MouseMove, place, widget->mapToGlobal(place), Qt::NoButton,
+                         Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(widget, &move);
+        QCoreApplication::processEvents();
+    }
+    QTest::mouseRelease(widget, Qt::LeftButton, Qt::NoModifier, to);
     return true;
 }
 

@@ -37,8 +37,11 @@ public:
     /// Waits until the widget is on the screen, then clicks into its middle (a tick box: its box).
     bool click(QWidget* widget);
     bool doubleClick(QWidget* widget);
-    /// Clicks into an item view's row; `columnOfText` is not needed by lists.
+    /// Clicks into the middle of one of the entries that a viewport or a tab bar shows.
     bool clickItem(QWidget* viewport, const QRect& item);
+    bool doubleClickItem(QWidget* viewport, const QRect& item);
+    /// Presses the left button at `from`, moves in steps to `to`, lets go.
+    bool drag(QWidget* widget, QPoint from, QPoint to);
     bool press(QWidget* widget, Qt::Key key);
     /// Opens a menu of the main window's menu bar by a click, and leaves it open.
     bool openMenu(int menu);
