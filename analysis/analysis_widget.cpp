@@ -84,7 +84,7 @@ void Analysis_Widget::prepareTables()
     information->setEditTriggers(QAbstractItemView::NoEditTriggers);
     information->setMouseTracking(true);
     // Captions longer than the column take a second line, in whichever language; all rows show.
-    information->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    information->resizeRowsToContents();
     information->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
 
     QTableWidget* tools = ui->tableWidget;
@@ -152,7 +152,7 @@ void Analysis_Widget::takePalette()
         *entry++ = {colour.red, colour.green, colour.blue};
     colourStrip = QPixmap::fromImage(analysis::colourStrip(photograph.palette));
     m_mapped = false;
-    update();
+    ui->widget->update(); // and with it what lies beneath: this window, which renders
 }
 
 void Analysis_Widget::showGrayImage()
