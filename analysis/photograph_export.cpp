@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QtEndian>
 
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstring>
@@ -95,10 +96,12 @@ QByteArray csvOf(const std::vector<float>& values, const ShownUnit& unit,
 
 QByteArray npyOf(const std::vector<float>& values)
 {
-    QByteArray npy("\x93NUMPY\x01\x00", 8);
-    QByteArray description("{'descr': '<f4', 'fortran_order': False, 'shape': (320, 240), }");
     // Length field, description and its line end fill up to a multiple of 64 bytes.
     constexpr int headerSize = 128;
+    QByteArray npy;
+    npy.reserve(headerSize + grayBytes * int(sizeof(float)));
+    npy.append("\x93NUMPY\x01\x00", 8);
+    QByteArray description("{'descr': '<f4', 'fortran_order': False, 'shape': (320, 240), }");
     const auto length = quint16(headerSize - npy.size() - 2);
     description = description.leftJustified(length - 1, ' ') + '\n';
     npy += char(length & 0xFF);
@@ -143,9 +146,11 @@ int close(thandle_t)
 
 } // namespace memory
 
-QByteArray tiffOf(std::vector<float> values, const ShownUnit& unit, const Parameters& parameters)
+QByteArray tiffOf(std::vector<float>& values, const ShownUnit& unit, const Parameters& parameters)
 {
-    QBuffer buffer;
+    QByteArray bytes;
+    bytes.reserve(grayBytes * int(sizeof(float)) + 4096);
+    QBuffer buffer(&bytes);
     buffer.open(QIODevice::ReadWrite);
     struct Close
     {
@@ -171,7 +176,7 @@ QByteArray tiffOf(std::vector<float> values, const ShownUnit& unit, const Parame
     TIFFSetField(tiff.get(), TIFFTAG_SOFTWARE, "ThermaDesk");
     TIFFWriteEncodedStrip(tiff.get(), 0, values.data(), tmsize_t(values.size() * sizeof(float)));
     tiff.reset();
-    return buffer.data();
+    return bytes;
 }
 
 QByteArray pngOf(const Photograph& photograph, int startValue, int endValue)
@@ -184,6 +189,21 @@ QByteArray pngOf(const Photograph& photograph, int startValue, int endValue)
     QBuffer buffer;
     picture.save(&buffer, "png");
     return buffer.data();
+}
+
+QByteArray exported(const PhotographReader& reader, const ExportOptions& options)
+{
+    const Photograph& photograph = reader.photograph();
+    if (options.format == ExportFormat::Png)
+        return pngOf(photograph, options.startValue, options.endValue);
+
+    const ShownUnit unit = shownUnit(options.unit, photograph.parameters.unit, reader.isRaw());
+    std::vector<float> values = shownRows(photograph, unit.conversion);
+    if (options.format == ExportFormat::Npy)
+        return npyOf(values);
+    if (options.format == ExportFormat::Tiff)
+        return tiffOf(values, unit, photograph.parameters);
+    return csvOf(values, unit, options);
 }
 
 } // namespace
@@ -205,49 +225,31 @@ QString suffixOf(ExportFormat format)
 
 std::vector<float> shownRows(const Photograph& photograph, Conversion conversion)
 {
-    std::vector<float> converted(photograph.temperatures.size());
-    std::transform(photograph.temperatures.begin(), photograph.temperatures.end(),
-                   converted.begin(),
-                   [conversion](float temperature) { return shown(temperature, conversion); });
-
     // Stored column by column. Turning bands of rows keeps what is written to in the cache.
     constexpr int band = 16;
     static_assert(rows % band == 0);
-    std::vector<float> values(converted.size());
+    std::vector<float> values(photograph.temperatures.size());
     for (int top = 0; top < rows; top += band) {
         for (int x = 0; x < columns; ++x) {
-            for (int y = top; y < top + band; ++y)
-                values[std::size_t(y * columns + x)] =
-                    converted[std::size_t(temperatureIndex(x, y))];
+            const float* stored = &photograph.temperatures[std::size_t(temperatureIndex(x, top))];
+            std::array<float, band> column;
+            for (std::size_t y = 0; y < band; ++y)
+                column[y] = shown(stored[y], conversion);
+            for (std::size_t y = 0; y < band; ++y)
+                values[(std::size_t(top) + y) * std::size_t(columns) + std::size_t(x)] = column[y];
         }
     }
     return values;
 }
 
-QByteArray exported(const Photograph& photograph, bool raw, const ExportOptions& options)
+Outcome PhotographExporter::run(const QString& photographPath, const QString& targetPath)
 {
-    if (options.format == ExportFormat::Png)
-        return pngOf(photograph, options.startValue, options.endValue);
-
-    const ShownUnit unit = shownUnit(options.unit, photograph.parameters.unit, raw);
-    std::vector<float> values = shownRows(photograph, unit.conversion);
-    if (options.format == ExportFormat::Npy)
-        return npyOf(values);
-    if (options.format == ExportFormat::Tiff)
-        return tiffOf(std::move(values), unit, photograph.parameters);
-    return csvOf(values, unit, options);
-}
-
-Outcome exportPhotograph(PhotographReader& reader, const QString& photographPath,
-                         const QString& targetPath, const ExportOptions& options)
-{
-    if (!options.overwrite && QFileInfo(targetPath).exists())
+    if (!m_options.overwrite && QFileInfo(targetPath).exists())
         return {Problem::AlreadyThere, {}};
-    const Outcome reading = reader.read(photographPath, options.modelIndex);
+    const Outcome reading = m_reader.read(photographPath, m_options.modelIndex);
     if (!reading.isGood())
         return reading;
-    return writeWholeFile(targetPath, exported(reader.photograph(), reader.isRaw(), options),
-                          options.overwrite);
+    return writeWholeFile(targetPath, exported(m_reader, m_options), m_options.overwrite);
 }
 
 } // namespace analysis

@@ -46,12 +46,20 @@ struct ExportOptions
 /// precision number that the cursor read-out of the analysis window rounds to one decimal.
 std::vector<float> shownRows(const Photograph& photograph, Conversion conversion);
 
-/// The bytes of the exported file. `raw`: temperatures came from a raw image.
-QByteArray exported(const Photograph& photograph, bool raw, const ExportOptions& options);
+/// Writes photographs as files, one after another, all with the same options. A few megabytes; one
+/// for each thread.
+class PhotographExporter
+{
+public:
+    explicit PhotographExporter(const ExportOptions& options) : m_options(options) {}
 
-/// Reads one photograph and writes one file, complete or absent. The target's folder must exist.
-/// `reader` is only borrowed: keep one for each thread.
-Outcome exportPhotograph(PhotographReader& reader, const QString& photographPath,
-                         const QString& targetPath, const ExportOptions& options);
+    /// Reads one photograph and writes one file, complete or absent. The target's folder must
+    /// exist.
+    Outcome run(const QString& photographPath, const QString& targetPath);
+
+private:
+    ExportOptions m_options;
+    PhotographReader m_reader;
+};
 
 } // namespace analysis

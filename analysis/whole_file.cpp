@@ -21,10 +21,25 @@ fs::path native(const QString& path)
 QString nameAside(const QString& path)
 {
     static std::atomic<int> counter{0};
-    return QStringLiteral("%1/.thermadesk-%2-%3.part")
-        .arg(QFileInfo(path).path())
-        .arg(QCoreApplication::applicationPid())
-        .arg(counter++);
+    return QFileInfo(path).path() + QStringLiteral("/.thermadesk-%1-%2.part")
+                                        .arg(QCoreApplication::applicationPid())
+                                        .arg(counter++);
+}
+
+/// Writes and closes. Returns the system's reason when that fails, which may be as late as on
+/// closing.
+QString writeAll(QFile& file, const QByteArray& bytes)
+{
+    // A disk that is filling up takes a part of it first and tells the reason the next time.
+    qint64 written = 0;
+    while (written < bytes.size()) {
+        const qint64 count = file.write(bytes.constData() + written, bytes.size() - written);
+        if (count <= 0)
+            return file.errorString();
+        written += count;
+    }
+    file.close();
+    return file.error() == QFile::NoError ? QString() : file.errorString();
 }
 
 /// Gives a file a second name, if that is free. Where a file system has no such names, looking
@@ -51,12 +66,10 @@ Outcome writeWholeFile(const QString& path, const QByteArray& bytes, bool overwr
     QFile aside(nameAside(path));
     if (!aside.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
         return {Problem::CannotWrite, aside.errorString()};
-    const bool isWritten = aside.write(bytes) == bytes.size();
-    const QString reason = aside.errorString();
-    aside.close();
-    if (!isWritten) {
+    const QString failure = writeAll(aside, bytes);
+    if (!failure.isEmpty()) {
         aside.remove();
-        return {Problem::CannotWrite, reason};
+        return {Problem::CannotWrite, failure};
     }
 
     std::error_code error;

@@ -8,8 +8,7 @@
 using analysis::ExportFormat;
 using analysis::ExportOptions;
 using analysis::Outcome;
-using analysis::PhotographReader;
-using analysis::Problem;
+using analysis::PhotographExporter;
 using analysis::UnitChoice;
 
 namespace tools {
@@ -124,11 +123,12 @@ int exportCommand(const QStringList& arguments)
         return status::someFailed;
     photographs.writesFiles = true;
     photographs.makeWork = [&]() -> Work {
-        const auto reader = std::make_shared<PhotographReader>();
-        return [&, reader](int index) -> Result {
-            const Outcome outcome = exportPhotograph(
-                *reader, photographs.entries[std::size_t(index)].path, targets->at(index), options);
-            return {{}, targetReason(outcome, targets->at(index))};
+        const auto exporter = std::make_shared<PhotographExporter>(options);
+        return [&, exporter](int index) -> Result {
+            const QString& target = targets->at(index);
+            const Outcome outcome =
+                exporter->run(photographs.entries[std::size_t(index)].path, target);
+            return {{}, targetReason(outcome, target)};
         };
     };
     return run(photographs);

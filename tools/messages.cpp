@@ -44,7 +44,7 @@ QString reason(const Outcome& outcome)
         return QStringLiteral("neither layout has the machine ID of a known imager (%1)")
             .arg(outcome.detail);
     case Problem::AlreadyThere:
-        return QStringLiteral("already there (--force replaces it)");
+        return QStringLiteral("is already there (--force replaces it)");
     case Problem::CannotWrite:
         return QStringLiteral("cannot be written: ") + outcome.detail;
     }

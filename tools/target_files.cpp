@@ -55,6 +55,7 @@ std::optional<QStringList> prepareTargets(const CommandLine& line, const QString
     }
     const QSet<QString> photographs = photographsWithSuffix(entries, suffix);
     QHash<QString, QString> photographOf;
+    QSet<QString> made{QString()};
     QStringList targets;
     for (Entry& entry : entries) {
         const QDir folder(entry.subfolder.isEmpty() ? output
@@ -66,12 +67,15 @@ std::optional<QStringList> prepareTargets(const CommandLine& line, const QString
         const auto earlier = photographOf.constFind(target);
         if (earlier != photographOf.constEnd())
             entry.failure = QStringLiteral("%1 is made of %2 already").arg(target, *earlier);
-        else if (photographs.contains(QFileInfo(target).canonicalFilePath()))
+        else if (!photographs.isEmpty() &&
+                 photographs.contains(QFileInfo(target).canonicalFilePath()))
             entry.failure = QStringLiteral("%1 is a photograph itself").arg(target);
-        else if (!folder.mkpath(QStringLiteral(".")))
+        else if (!made.contains(entry.subfolder) && !folder.mkpath(QStringLiteral(".")))
             entry.failure = QStringLiteral("%1: this folder cannot be made").arg(folder.path());
-        else
+        else {
+            made.insert(entry.subfolder);
             photographOf.insert(target, entry.path);
+        }
     }
     return targets;
 }

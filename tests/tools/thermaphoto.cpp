@@ -1,0 +1,114 @@
+#include "tests/tools/thermaphoto.h"
+
+#include <QDirIterator>
+#include <QJsonDocument>
+
+namespace testing {
+namespace {
+
+Ended ended(QProcess& process)
+{
+    constexpr int patience = 120000; // ms; only a hanging program takes it
+    if (!process.waitForFinished(patience)) {
+        process.kill();
+        process.waitForFinished();
+    }
+    const bool isNormal = process.exitStatus() == QProcess::NormalExit;
+    return {isNormal ? process.exitCode() : -1, process.readAllStandardOutput(),
+            process.readAllStandardError()};
+}
+
+} // namespace
+
+QList<QByteArray> Ended::errorLines() const
+{
+    QList<QByteArray> lines = errors.split('\n');
+    lines.removeAll({});
+    return lines;
+}
+
+QJsonArray Ended::json() const
+{
+    return QJsonDocument::fromJson(output).array();
+}
+
+QProcessEnvironment bareEnvironment()
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "LANG"})
+        environment.remove(QLatin1String(variable));
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
+    environment.insert(QStringLiteral("thermaphoto"), QStringLiteral(THERMAPHOTO));
+    return environment;
+}
+
+Ended thermaphoto(const QStringList& arguments, const QString& folder)
+{
+    QProcess process;
+    process.setProcessEnvironment(bareEnvironment());
+    process.setWorkingDirectory(folder);
+    process.start(QStringLiteral(THERMAPHOTO), arguments);
+    return ended(process);
+}
+
+Ended shell(const QString& command, const QString& folder)
+{
+    QProcess process;
+    process.setProcessEnvironment(bareEnvironment());
+    process.setWorkingDirectory(folder);
+    process.start(QStringLiteral("sh"), {QStringLiteral("-c"), command});
+    return ended(process);
+}
+
+QString Folder::write(const QString& name, const QByteArray& bytes) const
+{
+    const QString path = m_folder.filePath(name);
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        qFatal("cannot write %s", qPrintable(path));
+    return path;
+}
+
+QByteArray Folder::read(const QString& name) const
+{
+    QFile file(m_folder.filePath(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QStringList Folder::files() const
+{
+    QStringList names;
+    QDirIterator file(path(), QDir::Files | QDir::Hidden | QDir::System,
+                      QDirIterator::Subdirectories);
+    while (file.hasNext())
+        names.append(QDir(path()).relativeFilePath(file.next()));
+    names.sort();
+    return names;
+}
+
+QByteArray Sample::bytes() const
+{
+    const simulator::Scene scene(simulator::SceneKind::Window, 7);
+    return simulator::photograph(scene.field(3, scene.usualHotSpot()), settings);
+}
+
+const std::vector<Sample>& samples()
+{
+    static const auto of = [](int modelIndex, bool raw, bool fahrenheit, quint32 machineId) {
+        simulator::PhotographSettings settings;
+        settings.modelIndex = modelIndex;
+        settings.raw = raw;
+        settings.fahrenheit = fahrenheit;
+        settings.machineId = machineId;
+        return settings;
+    };
+    static const std::vector<Sample> all{
+        {"layout 0, gray, C", of(0, false, false, 5)}, {"layout 0, gray, F", of(0, false, true, 6)},
+        {"layout 0, raw, C", of(0, true, false, 5)},   {"layout 0, raw, F", of(0, true, true, 5)},
+        {"layout 1, gray, C", of(1, false, false, 6)}, {"layout 1, gray, F", of(1, false, true, 5)},
+        {"layout 1, raw, C", of(1, true, false, 5)},   {"layout 1, raw, F", of(1, true, true, 6)}};
+    return all;
+}
+
+} // namespace testing
