@@ -11,8 +11,9 @@ namespace tools {
 /// What became of one photograph.
 struct Result
 {
-    QByteArray output; ///< for the standard output
-    QString failure;   ///< a line for the error output; empty when all went well
+    QByteArray output;      ///< for the standard output
+    QString failure;        ///< a line for the error output; empty when all went well
+    bool isLeftOut = false; ///< nothing was done
 };
 
 using Work = std::function<Result(int index)>;

@@ -33,10 +33,14 @@ int run(const PhotographRun& photographs)
     const auto makeWork = [&]() -> Work {
         return [&entries, work = photographs.makeWork()](int index) {
             const Entry& entry = entries[std::size_t(index)];
+            if (platform::isInterrupted())
+                return Result{{}, {}, true};
             return entry.failure.isEmpty() ? work(index) : Result{{}, entry.failure};
         };
     };
     const auto deliver = [&](int index, const Result& result) {
+        if (result.isLeftOut)
+            return false;
         if (result.failure.isEmpty()) {
             canPrint =
                 canPrint && (good == 0 || print(photographs.between)) && print(result.output);

@@ -1,4 +1,561 @@
-int main()
+#include "tests/analysis/photograph_writer.h"
+#include "tests/support/test_run.h"
+#include "tests/tools/thermaphoto.h"
+
+#include <QtEndian>
+
+#include <cmath>
+#include <cstring>
+
+using testing::Ended;
+using testing::Folder;
+using testing::Shot;
+using testing::thermaphoto;
+
+namespace {
+
+constexpr int columns = 240;
+constexpr int rows = 320;
+
+/// A gray value of the sloping photograph: no two neighbours alike, and not symmetric in any way.
+int grayAt(int x, int y)
 {
-    return 0;
+    return (3 * x + 7 * y) % 241;
 }
+
+/// 20.0 at gray 0, 44.0 at gray 240.
+Shot slope(int model = 0, int unit = 0)
+{
+    Shot shot;
+    shot.model = model;
+    shot.gray = grayAt;
+    shot.maximum10 = 440;
+    shot.minimum10 = 200;
+    shot.grayMaximum = 240;
+    shot.grayMinimum = 0;
+    shot.unit = unit;
+    return shot;
+}
+
+/// The temperature that the imager means by a gray value of it, to the last bit.
+float stored(int gray)
+{
+    const float ratio = (240.0F - float(gray)) / 240.0F;
+    return float(44.0 - double(ratio) * 24.0);
+}
+
+QString option(const char* name, const QString& value)
+{
+    return QStringLiteral("--%1=%2").arg(QLatin1String(name), value);
+}
+
+/// One photograph "a.bmp" exported into the same folder.
+class Exported : public Folder
+{
+public:
+    Exported(const QByteArray& photograph, const QString& format, const QStringList& options = {})
+    {
+        write(QStringLiteral("a.bmp"), photograph);
+        ended = thermaphoto(QStringList{QStringLiteral("export"), option("format", format),
+                                        QStringLiteral("a.bmp")} +
+                                options,
+                            path());
+        file = read(QStringLiteral("a.") + format);
+    }
+
+    QList<QByteArray> cells(int row, char separator = ',') const
+    {
+        return file.split('\n').value(row).split(separator);
+    }
+
+    Ended ended;
+    QByteArray file;
+};
+
+std::vector<float> floatsAt(const QByteArray& bytes, int offset)
+{
+    std::vector<float> values(columns * rows);
+    if (bytes.size() >= offset + columns * rows * 4)
+        qFromLittleEndian<float>(bytes.constData() + offset, columns * rows, values.data());
+    return values;
+}
+
+constexpr int npyHeader = 128;
+
+int u16(const QByteArray& bytes, int offset)
+{
+    return qFromLittleEndian<quint16>(bytes.constData() + offset);
+}
+
+int u32(const QByteArray& bytes, int offset)
+{
+    return int(qFromLittleEndian<quint32>(bytes.constData() + offset));
+}
+
+/// The value, or the place of the values, of a tag in the first directory of a TIFF file.
+int tiffTag(const QByteArray& tiff, int tag)
+{
+    const int directory = u32(tiff, 4);
+    for (int i = 0; i < u16(tiff, directory); ++i) {
+        const int entry = directory + 2 + 12 * i;
+        constexpr int shortType = 3;
+        if (u16(tiff, entry) == tag)
+            return u16(tiff, entry + 2) == shortType ? u16(tiff, entry + 8) : u32(tiff, entry + 8);
+    }
+    return -1;
+}
+
+} // namespace
+
+/// Temperatures and pictures as files for other programs.
+class ExportTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void asSeen_data();
+    void asSeen();
+    void units_data();
+    void units();
+    void csvIsExact();
+    void csvDecimals_data();
+    void csvDecimals();
+    void csvSeparators_data();
+    void csvSeparators();
+    void csvHeader();
+    void csvOfNonsense();
+    void npyHeaderIsNumPys();
+    void tiffTags();
+    void tiffReadByOthers();
+    void png_data();
+    void png();
+    void existingFilesStay();
+    void forceReplaces();
+    void aFolderInTheWay();
+    void folderIsMade();
+    void folderThatCannotBeMade();
+    void subfoldersAreKept();
+    void sameNameTwice();
+    void neverOverAPhotograph();
+    void fullDisk();
+    void failedPhotographLeavesNothing();
+};
+
+void ExportTest::asSeen_data()
+{
+    QTest::addColumn<int>("model");
+    QTest::newRow("layout 0") << 0;
+    QTest::newRow("layout 1") << 1;
+}
+
+/// All number formats hold the same matrix: row after row from the top, each from left to right.
+void ExportTest::asSeen()
+{
+    QFETCH(int, model);
+    const QByteArray photograph = photographBytes(slope(model));
+    const Exported npy(photograph, QStringLiteral("npy"));
+    const Exported tiff(photograph, QStringLiteral("tiff"));
+    const Exported csv(photograph, QStringLiteral("csv"));
+    QCOMPARE(npy.ended.status, 0);
+    QCOMPARE(npy.ended.output + npy.ended.errors, QByteArray());
+    QCOMPARE(npy.file.size(), npyHeader + columns * rows * 4);
+    const std::vector<float> fromNpy = floatsAt(npy.file, npyHeader);
+    const std::vector<float> fromTiff = floatsAt(tiff.file, tiffTag(tiff.file, 273));
+    const QList<QByteArray> lines = csv.file.split('\n');
+    QCOMPARE(lines.size(), rows + 1);
+    QCOMPARE(lines.last(), QByteArray());
+    for (int y = 0; y < rows; ++y) {
+        const QList<QByteArray> cells = lines[y].split(',');
+        QCOMPARE(cells.size(), columns);
+        for (int x = 0; x < columns; ++x) {
+            const float expected = 10.0F * stored(grayAt(x, y)) / 10.0F;
+            QVERIFY(std::abs(double(expected) - 20 - 0.1 * grayAt(x, y)) < 1e-5);
+            const auto place = std::size_t(y * columns + x);
+            QVERIFY(fromNpy[place] == expected);
+            QVERIFY(fromTiff[place] == expected);
+            QVERIFY(cells[x].toFloat() == expected);
+        }
+    }
+}
+
+void ExportTest::units_data()
+{
+    QTest::addColumn<int>("fileUnit");
+    QTest::addColumn<QString>("unit");
+    QTest::addColumn<float>("scale");
+    QTest::addColumn<float>("offset");
+    QTest::addColumn<bool>("raw");
+    QTest::newRow("C file as it is") << 0 << "file" << 10.0F << 0.0F << false;
+    QTest::newRow("C file in C") << 0 << "C" << 10.0F << 0.0F << false;
+    QTest::newRow("C file in F") << 0 << "F" << 5.556F << 32.0F << false;
+    QTest::newRow("F file as it is") << 1 << "file" << 10.0F << 0.0F << false;
+    QTest::newRow("F file in C") << 1 << "C" << 18.0F << -17.78F << false;
+    QTest::newRow("F file in F") << 1 << "F" << 10.0F << 0.0F << false;
+    // A raw image is in °C; the photograph that carries it opens in its own unit all the same.
+    QTest::newRow("raw, C file as it is") << 0 << "file" << 10.0F << 0.0F << true;
+    QTest::newRow("raw, F file as it is") << 1 << "file" << 5.556F << 32.0F << true;
+    QTest::newRow("raw, F file in C") << 1 << "C" << 10.0F << 0.0F << true;
+    QTest::newRow("raw, F file in F") << 1 << "F" << 5.556F << 32.0F << true;
+}
+
+void ExportTest::units()
+{
+    QFETCH(int, fileUnit);
+    QFETCH(QString, unit);
+    QFETCH(float, scale);
+    QFETCH(float, offset);
+    QFETCH(bool, raw);
+    Shot shot = slope(0, fileUnit);
+    if (raw)
+        shot.raw = [](int row, int column) {
+            return 4700 + row + column;
+        };
+    const Exported npy(photographBytes(shot), QStringLiteral("npy"), {option("unit", unit)});
+    const std::vector<float> values = floatsAt(npy.file, npyHeader);
+    for (const auto& [x, y] : {std::pair{0, 0}, {239, 0}, {17, 200}, {239, 319}}) {
+        const float temperature =
+            raw ? float((4700 + 4 * y / 5 + 4 * x / 5) * 0.0625 - 273.15) : stored(grayAt(x, y));
+        const float expected = 10.0F * temperature / scale + offset;
+        QVERIFY(values[std::size_t(y * columns + x)] == expected);
+    }
+    const bool isFahrenheit = scale == 5.556F || (fileUnit == 1 && scale == 10.0F && !raw);
+    const Exported tiff(photographBytes(shot), QStringLiteral("tiff"), {option("unit", unit)});
+    QVERIFY(tiff.file.contains(isFahrenheit ? "unit=F" : "unit=C"));
+}
+
+/// Nine digits: what is read back is the very number, and no digit is made up.
+void ExportTest::csvIsExact()
+{
+    const Exported csv(photographBytes(slope()), QStringLiteral("csv"),
+                       {option("unit", QStringLiteral("F"))});
+    int different = 0;
+    for (int x = 0; x < columns; ++x) {
+        const float expected = 10.0F * stored(grayAt(x, 5)) / 5.556F + 32.0F;
+        char text[32];
+        std::snprintf(text, sizeof text, "%.9g", double(expected));
+        QCOMPARE(csv.cells(5)[x], QByteArray(text));
+        different += int(std::strlen(text) >= 9);
+    }
+    QVERIFY(different > 100);
+}
+
+void ExportTest::csvDecimals_data()
+{
+    QTest::addColumn<QString>("decimals");
+    QTest::addColumn<QByteArray>("tie");
+    QTest::addColumn<QByteArray>("negative");
+    QTest::newRow("none") << "0" << QByteArray("30") << QByteArray("-0");
+    // As the windows round: halves away from zero, and the sign of a small number stays.
+    QTest::newRow("one") << "1" << QByteArray("30.3") << QByteArray("-0.0");
+    QTest::newRow("two") << "2" << QByteArray("30.25") << QByteArray("-0.03");
+    QTest::newRow("nine") << "9" << QByteArray("30.250000000") << QByteArray("-0.031250000");
+}
+
+void ExportTest::csvDecimals()
+{
+    QFETCH(QString, decimals);
+    Shot shot;
+    shot.maximum10 = 400;
+    shot.minimum10 = 205;
+    shot.grayMaximum = 200;
+    shot.grayMinimum = 0;
+    shot.gray = [](int, int) {
+        return 100;
+    }; // half way from 40 to 20.5: 30.25
+    const QStringList options{option("decimals", decimals)};
+    QTEST(Exported(photographBytes(shot), QStringLiteral("csv"), options).cells(0)[0], "tie");
+
+    shot.maximum10 = 0;
+    shot.minimum10 = -10;
+    shot.grayMaximum = 32;
+    shot.gray = [](int, int) {
+        return 31;
+    }; // a 32nd of the way from 0 to −1: −0.03125
+    QTEST(Exported(photographBytes(shot), QStringLiteral("csv"), options).cells(0)[0], "negative");
+}
+
+void ExportTest::csvSeparators_data()
+{
+    QTest::addColumn<QString>("given");
+    QTest::addColumn<char>("separator");
+    QTest::newRow("semicolon") << ";" << ';';
+    QTest::newRow("blank") << " " << ' ';
+    QTest::newRow("tab itself") << "\t" << '\t';
+    QTest::newRow("tab by name") << "tab" << '\t';
+    QTest::newRow("tab escaped") << "\\t" << '\t';
+}
+
+void ExportTest::csvSeparators()
+{
+    QFETCH(QString, given);
+    QFETCH(char, separator);
+    const Exported csv(photographBytes(slope()), QStringLiteral("csv"),
+                       {QStringLiteral("--separator"), given});
+    QCOMPARE(csv.cells(0, separator).size(), columns);
+    QCOMPARE(csv.cells(0, separator)[0].toDouble(), 20.0);
+}
+
+void ExportTest::csvHeader()
+{
+    const QByteArray photograph = photographBytes(slope());
+    const Exported plain(photograph, QStringLiteral("csv"));
+    const Exported titled(photograph, QStringLiteral("csv"), {QStringLiteral("--header")});
+    QCOMPARE(titled.file, "# unit=C columns=240 rows=320\n" + plain.file);
+    const Exported inF(photograph, QStringLiteral("csv"),
+                       {QStringLiteral("--header"), option("unit", QStringLiteral("F"))});
+    QVERIFY(inF.file.startsWith("# unit=F columns=240 rows=320\n"));
+}
+
+/// Without a gray span there are no temperatures, only what a division by nothing gives.
+void ExportTest::csvOfNonsense()
+{
+    Shot shot = slope();
+    shot.grayMinimum = shot.grayMaximum = 100;
+    shot.gray = [](int x, int) {
+        return 99 + x % 3;
+    };
+    for (const QStringList& options : {QStringList(), {option("decimals", QStringLiteral("1"))}}) {
+        const Exported csv(photographBytes(shot), QStringLiteral("csv"), options);
+        QCOMPARE(csv.ended.status, 0);
+        QVERIFY(csv.file.startsWith("-inf,nan,inf,-inf,"));
+        QVERIFY(!csv.file.contains("-nan"));
+    }
+}
+
+void ExportTest::npyHeaderIsNumPys()
+{
+    const Exported npy(photographBytes(slope()), QStringLiteral("npy"));
+    QCOMPARE(npy.file.left(8), QByteArray("\x93NUMPY\x01\x00", 8));
+    QCOMPARE(u16(npy.file, 8), npyHeader - 10);
+    const QByteArray description = npy.file.mid(10, npyHeader - 10);
+    QCOMPARE(description.trimmed(),
+             QByteArray("{'descr': '<f4', 'fortran_order': False, 'shape': (320, 240), }"));
+    QVERIFY(description.endsWith('\n'));
+}
+
+void ExportTest::tiffTags()
+{
+    Shot shot = slope();
+    shot.emissivity100 = 7;
+    const Exported exported(photographBytes(shot), QStringLiteral("tiff"),
+                            {option("unit", QStringLiteral("F"))});
+    const QByteArray& tiff = exported.file;
+    QVERIFY(tiff.startsWith(QByteArray("II*\0", 4)));
+    QCOMPARE(tiffTag(tiff, 256), columns);
+    QCOMPARE(tiffTag(tiff, 257), rows);
+    QCOMPARE(tiffTag(tiff, 258), 32); // bits
+    QCOMPARE(tiffTag(tiff, 259), 1);  // not compressed
+    QCOMPARE(tiffTag(tiff, 262), 1);  // the least is black
+    QCOMPARE(tiffTag(tiff, 277), 1);  // samples
+    QCOMPARE(tiffTag(tiff, 339), 3);  // floating point
+    QCOMPARE(QByteArray(tiff.constData() + tiffTag(tiff, 270)),
+             QByteArray("unit=F emissivity=0.07"));
+}
+
+/// ImageMagick, in the build whose pixels are floating point, reads the same matrix.
+void ExportTest::tiffReadByOthers()
+{
+    const Exported tiff(photographBytes(slope()), QStringLiteral("tiff"));
+    const Ended converted =
+        testing::shell(QStringLiteral("convert-im6.q16hdri a.tiff -depth 32 "
+                                      "-define quantum:format=floating-point gray:a.gray"),
+                       tiff.path());
+    QCOMPARE(converted.errors, QByteArray());
+    QCOMPARE(converted.status, 0);
+    const QByteArray gray = tiff.read(QStringLiteral("a.gray"));
+    QCOMPARE(gray.size(), columns * rows * 4);
+    const std::vector<float> values = floatsAt(gray, 0);
+    for (int i = 0; i < columns * rows; ++i) {
+        const float expected = stored(grayAt(i % columns, i / columns));
+        QVERIFY(std::abs(values[std::size_t(i)] - expected) < 1e-4F);
+    }
+}
+
+void ExportTest::png_data()
+{
+    QTest::addColumn<QStringList>("option");
+    QTest::addColumn<int>("hottest"); ///< palette entry for gray 255, 100 and 0
+    QTest::addColumn<int>("middle");
+    QTest::addColumn<int>("coldest");
+    const auto span = [](const char* value) {
+        return QStringList{option("span", QLatin1String(value))};
+    };
+    QTest::newRow("by itself") << QStringList() << 255 << 100 << 0;
+    QTest::newRow("whole") << span("0:255") << 255 << 100 << 0;
+    QTest::newRow("narrowed") << span("55:205") << 200 << 100 << 50;
+    QTest::newRow("above the middle") << span("0:55") << 255 << 200 << 200;
+    QTest::newRow("crossed") << span("205:55") << 50 << 50 << 200;
+}
+
+void ExportTest::png()
+{
+    QFETCH(QStringList, option);
+    QFETCH(int, hottest);
+    QFETCH(int, middle);
+    QFETCH(int, coldest);
+    Shot shot;
+    shot.gray = [](int x, int y) {
+        return y == 0 ? 255 : x == 239 ? 100 : 0;
+    };
+    // Every channel tells the entry.
+    shot.palette = [](int v) {
+        return (v >> 3) << 11 | (255 - v) >> 2 << 5 | (v ^ 0xA0) >> 3;
+    };
+    const Exported exported(photographBytes(shot), QStringLiteral("png"), option);
+    QCOMPARE(exported.ended.status, 0);
+    QImage image;
+    QVERIFY(image.loadFromData(exported.file, "png"));
+    QCOMPARE(image.size(), QSize(columns, rows));
+    const auto colour = [](int v) {
+        return qRgb(v & 0xF8, (255 - v) & 0xFC, (v ^ 0xA0) & 0xF8);
+    };
+    QCOMPARE(image.pixel(0, 0), colour(hottest));
+    QCOMPARE(image.pixel(239, 0), colour(hottest));
+    QCOMPARE(image.pixel(239, 319), colour(middle));
+    QCOMPARE(image.pixel(0, 319), colour(coldest));
+}
+
+void ExportTest::existingFilesStay()
+{
+    const Folder folder;
+    folder.write(QStringLiteral("1.bmp"), photographBytes(slope()));
+    folder.write(QStringLiteral("2.bmp"), photographBytes(slope()));
+    folder.write(QStringLiteral("1.csv"), "mine");
+    const Ended ended = thermaphoto({"export", "--format", "csv", "."}, folder.path());
+    QCOMPARE(ended.status, 1);
+    QCOMPARE(ended.errorLines().size(), 1);
+    QVERIFY(ended.errors.contains("1.csv"));
+    QCOMPARE(folder.read(QStringLiteral("1.csv")), QByteArray("mine"));
+    QCOMPARE(folder.files(), (QStringList{"1.bmp", "1.csv", "2.bmp", "2.csv"}));
+}
+
+void ExportTest::forceReplaces()
+{
+    const Folder folder;
+    folder.write(QStringLiteral("1.bmp"), photographBytes(slope()));
+    folder.write(QStringLiteral("1.csv"), "mine");
+    QCOMPARE(thermaphoto({"export", "--format", "csv", "--force", "1.bmp"}, folder.path()).status,
+             0);
+    QVERIFY(folder.read(QStringLiteral("1.csv")).startsWith("20,"));
+    QCOMPARE(folder.files(), (QStringList{"1.bmp", "1.csv"}));
+}
+
+void ExportTest::aFolderInTheWay()
+{
+    const Folder folder;
+    folder.write(QStringLiteral("1.bmp"), photographBytes(slope()));
+    folder.write(QStringLiteral("1.csv/mine"), "mine");
+    const Ended ended =
+        thermaphoto({"export", "--format", "csv", "--force", "1.bmp"}, folder.path());
+    QCOMPARE(ended.status, 1);
+    QCOMPARE(ended.errorLines().size(), 1);
+    QCOMPARE(folder.files(), (QStringList{"1.bmp", "1.csv/mine"}));
+}
+
+void ExportTest::folderIsMade()
+{
+    const Folder folder;
+    folder.write(QStringLiteral("1.bmp"), photographBytes(slope()));
+    const QString output = QStringLiteral("out 100%1/über/d");
+    QCOMPARE(
+        thermaphoto({"export", "--format", "npy", "-o", output, "1.bmp"}, folder.path()).status, 0);
+    QCOMPARE(folder.files(), (QStringList{"1.bmp", output + "/1.npy"}));
+}
+
+void ExportTest::folderThatCannotBeMade()
+{
+    const Folder folder;
+    folder.write(QStringLiteral("1.bmp"), photographBytes(slope()));
+    folder.write(QStringLiteral("file"), "mine");
+    const Ended ended =
+        thermaphoto({"export", "--format", "npy", "-o", "file/x", "1.bmp"}, folder.path());
+    QCOMPARE(ended.status, 1);
+    QCOMPARE(ended.errorLines().size(), 1);
+    QVERIFY(ended.errors.contains("file/x"));
+    QCOMPARE(folder.files(), (QStringList{"1.bmp", "file"}));
+}
+
+void ExportTest::subfoldersAreKept()
+{
+    const Folder folder;
+    for (const char* name : {"in/1.bmp", "in/b/1.bmp", "in/a/c/1.bmp"})
+        folder.write(QLatin1String(name), photographBytes(slope()));
+    QCOMPARE(
+        thermaphoto({"export", "--format", "npy", "-o", "out", "-r", "in/"}, folder.path()).status,
+        0);
+    QCOMPARE(folder.files().filter(QStringLiteral("out/")),
+             (QStringList{"out/1.npy", "out/a/c/1.npy", "out/b/1.npy"}));
+}
+
+/// Two photographs whose files would have the same name: the first gets it, also with --force.
+void ExportTest::sameNameTwice()
+{
+    const Folder folder;
+    folder.write(QStringLiteral("a/1.bmp"), photographBytes(slope()));
+    folder.write(QStringLiteral("b/1.bmp"), photographBytes(slope(0, 1)));
+    folder.write(QStringLiteral("b/2.bmp"), photographBytes(slope()));
+    const Ended ended =
+        thermaphoto({"export", "--format", "csv", "--force", "--header", "a", "b"}, folder.path());
+    QCOMPARE(ended.status, 1);
+    QCOMPARE(ended.errorLines().size(), 1);
+    QVERIFY(ended.errors.contains("b/1.bmp"));
+    QVERIFY(ended.errors.contains("a/1.bmp"));
+    QVERIFY(folder.read(QStringLiteral("1.csv")).startsWith("# unit=C"));
+    QVERIFY(folder.files().contains(QStringLiteral("2.csv")));
+}
+
+void ExportTest::neverOverAPhotograph()
+{
+    const Folder folder;
+    const QByteArray photograph = photographBytes(slope());
+    folder.write(QStringLiteral("1.bmp"), photograph);
+    folder.write(QStringLiteral("1.png"), photograph);
+    const Ended ended =
+        thermaphoto({"export", "--format", "png", "--force", "1.bmp", "1.png"}, folder.path());
+    QCOMPARE(ended.status, 1);
+    QCOMPARE(ended.errorLines().size(), 1);
+    QCOMPARE(folder.read(QStringLiteral("1.png")), photograph);
+    QVERIFY(folder.read(QStringLiteral("1.png.png")).startsWith("\x89PNG"));
+}
+
+/// No file may grow beyond 150 KB here: what is written first fits, the rest does not.
+void ExportTest::fullDisk()
+{
+    const Folder folder;
+    folder.write(QStringLiteral("1.bmp"), photographBytes(slope()));
+    folder.write(QStringLiteral("2.bmp"), photographBytes(slope()));
+    folder.write(QStringLiteral("out/1.npy"), "mine");
+    const Ended ended = testing::shell(
+        QStringLiteral("trap '' XFSZ; ulimit -f 300; "
+                       "exec \"$thermaphoto\" export --format npy --force -o out 1.bmp 2.bmp"),
+        folder.path());
+    QCOMPARE(ended.status, 1);
+    QCOMPARE(ended.errorLines().size(), 2);
+    QVERIFY(ended.errorLines()[0].contains("out/1.npy cannot be written: File too large"));
+    QCOMPARE(folder.read(QStringLiteral("out/1.npy")), QByteArray("mine"));
+    QCOMPARE(folder.files(), (QStringList{"1.bmp", "2.bmp", "out/1.npy"}));
+}
+
+void ExportTest::failedPhotographLeavesNothing()
+{
+    const Folder folder;
+    folder.write(QStringLiteral("1.bmp"), photographBytes(slope()).left(300000));
+    Shot foreign = slope();
+    foreign.machineId = 7;
+    folder.write(QStringLiteral("2.bmp"), photographBytes(foreign));
+    folder.write(QStringLiteral("3.bmp"), photographBytes(slope()));
+    const Ended ended = thermaphoto(
+        {"export", "--format", "tiff", "-o", "out", "--layout", "0", "."}, folder.path());
+    QCOMPARE(ended.status, 1);
+    QCOMPARE(ended.errorLines().size(), 2);
+    QVERIFY(ended.errorLines()[0].contains("too short"));
+    QVERIFY(ended.errorLines()[1].contains("machine ID 7"));
+    QCOMPARE(folder.files().filter(QStringLiteral("out/")), QStringList{"out/3.tiff"});
+}
+
+int main(int argc, char** argv)
+{
+    return testing::run<ExportTest>(argc, argv);
+}
+
+#include "export_test.moc"

@@ -1,4 +1,442 @@
-int main()
+#include "tests/analysis/photograph_writer.h"
+#include "tests/support/test_run.h"
+#include "tests/tools/thermaphoto.h"
+
+#include <QJsonObject>
+
+#include <csignal>
+#include <sys/stat.h>
+
+using testing::Ended;
+using testing::Folder;
+using testing::Shot;
+using testing::thermaphoto;
+
+namespace {
+
+QByteArray photograph()
 {
-    return 0;
+    Shot shot;
+    shot.gray = [](int x, int y) {
+        return (x * y) % 256;
+    };
+    return photographBytes(shot);
 }
+
+QStringList filesOf(const Ended& ended)
+{
+    QStringList files;
+    for (const QJsonValue& value : ended.json())
+        files.append(value[QStringLiteral("file")].toString());
+    return files;
+}
+
+/// Whether a process still waits for a signal, as the system tells.
+bool catches(qint64 process, int signal)
+{
+    QFile status(QStringLiteral("/proc/%1/status").arg(process));
+    if (!status.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray text = status.readAll();
+    const QByteArray mask = text.mid(text.indexOf("SigCgt:") + 7, 20).trimmed().left(16);
+    return (mask.toULongLong(nullptr, 16) >> (signal - 1) & 1) != 0;
+}
+
+} // namespace
+
+/// The program as a program: arguments, files it looks for, what it says and how it ends.
+class RunTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void usage_data();
+    void usage();
+    void help_data();
+    void help();
+    void version();
+    void linksNoWidgets();
+    void folders();
+    void recursive();
+    void linkedFoldersAreNotFollowed();
+    void folderWithoutPhotographs();
+    void missing();
+    void oddNames_data();
+    void oddNames();
+    void longestName();
+    void nameThatIsNoText();
+    void anyNumberOfJobs_data();
+    void anyNumberOfJobs();
+    void outputToFullDisk();
+    void pipeClosedEarly();
+    void errorPipeClosedEarly();
+    void progressBar();
+    void interrupted_data();
+    void interrupted();
+};
+
+void RunTest::usage_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    const auto row = [](const char* name, const char* arguments) {
+        QTest::newRow(name) << QString::fromUtf8(arguments).split(QLatin1Char(' '),
+                                                                  Qt::SkipEmptyParts);
+    };
+    row("nothing", "");
+    row("unknown command", "paint a.bmp");
+    row("no photograph", "info");
+    row("unknown option", "info --colour a.bmp");
+    row("layout 2", "info --layout 2 a.bmp");
+    row("no jobs", "info --jobs 0 a.bmp");
+    row("half a job", "info --jobs 1.5 a.bmp");
+    row("export without format", "export a.bmp");
+    row("unknown format", "export --format bmp a.bmp");
+    row("unknown unit", "export --format csv --unit K a.bmp");
+    row("too many decimals", "export --format csv --decimals 10 a.bmp");
+    row("fewer than no decimals", "export --format csv --decimals=-1 a.bmp");
+    row("point between numbers", "export --format csv --separator . a.bmp");
+    row("digit between numbers", "export --format csv --separator 1 a.bmp");
+    row("two separators", "export --format csv --separator ;; a.bmp");
+    row("decimals of a TIFF", "export --format tiff --decimals 1 a.bmp");
+    row("header of a NumPy file", "export --format npy --header a.bmp");
+    row("span of numbers", "export --format csv --span 0:255 a.bmp");
+    row("half a span", "export --format png --span 10 a.bmp");
+    row("three ends", "export --format png --span 1:2:3 a.bmp");
+    row("span off the bar", "export --format png --span 0:256 a.bmp");
+    row("tools missing", "measure a.bmp");
+    row("tools not there", "measure --tools nowhere.json a.bmp");
+    row("measure unit", "measure --tools tools.json --unit K a.bmp");
+    row("measure format", "measure --tools tools.json --format xml a.bmp");
+}
+
+void RunTest::usage()
+{
+    QFETCH(QStringList, arguments);
+    const Folder folder;
+    folder.write(QStringLiteral("a.bmp"), photograph());
+    folder.write(QStringLiteral("tools.json"), "{}");
+    const Ended ended = thermaphoto(arguments, folder.path());
+    QCOMPARE(ended.status, 2);
+    QCOMPARE(ended.output, QByteArray());
+    QCOMPARE(ended.errorLines().size(), 1);
+    QVERIFY(ended.errors.startsWith("thermaphoto: "));
+    QCOMPARE(folder.files(), (QStringList{"a.bmp", "tools.json"}));
+}
+
+void RunTest::help_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("mentions");
+    QTest::newRow("program") << QStringList("--help") << QByteArray("measure");
+    QTest::newRow("short") << QStringList("-h") << QByteArray("export");
+    QTest::newRow("info") << QStringList{"info", "--help"} << QByteArray("--json");
+    QTest::newRow("export") << QStringList{"export", "-h"} << QByteArray("--span");
+    QTest::newRow("measure") << QStringList{"measure", "--help"} << QByteArray("--tools");
+}
+
+void RunTest::help()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QByteArray, mentions);
+    const Ended ended = thermaphoto(arguments);
+    QCOMPARE(ended.status, 0);
+    QVERIFY(ended.output.contains("Usage: "));
+    QVERIFY(ended.output.contains(mentions));
+    QCOMPARE(ended.errors, QByteArray());
+}
+
+void RunTest::version()
+{
+    const Ended ended = thermaphoto({"--version"});
+    QCOMPARE(ended.status, 0);
+    QVERIFY(ended.output.startsWith("thermaphoto "));
+    QCOMPARE(ended.output.split('.').size(), 3);
+}
+
+/// Reading, measuring and exporting must do without: there is no display where scheduled jobs run.
+void RunTest::linksNoWidgets()
+{
+    const Ended ended = testing::shell(QStringLiteral("ldd \"$thermaphoto\""), {});
+    QCOMPARE(ended.status, 0);
+    QVERIFY(ended.output.contains("libQt5Core"));
+    QVERIFY(!ended.output.contains("libQt5Widgets"));
+}
+
+/// What the browser lists, in its order: "*.bmp" in any letter case, capitals first.
+void RunTest::folders()
+{
+    const Folder folder;
+    for (const char* name : {"c.bmp", "B.BMP", "a.Bmp", ".hidden.bmp", "a.txt", "bmp", "sub/d.bmp"})
+        folder.write(QLatin1String(name), photograph());
+    QDir(folder.path()).mkdir(QStringLiteral("folder.bmp"));
+    const Ended ended = thermaphoto({"info", "--json", "."}, folder.path());
+    QCOMPARE(ended.errors, QByteArray());
+    QCOMPARE(filesOf(ended), (QStringList{"./B.BMP", "./a.Bmp", "./c.bmp"}));
+}
+
+void RunTest::recursive()
+{
+    const Folder folder;
+    for (const char* name : {"z.bmp", "b/2.bmp", "b/1.bmp", "a/x/3.bmp", ".hidden/4.bmp"})
+        folder.write(QLatin1String(name), photograph());
+    const QStringList expected{"z.bmp", "a/x/3.bmp", "b/1.bmp", "b/2.bmp"};
+    for (const char* option : {"--recursive", "-r"}) {
+        const Ended ended =
+            thermaphoto({"info", "--json", option, folder.path() + '/'}, folder.path());
+        QStringList files = filesOf(ended);
+        files.replaceInStrings(folder.path() + '/', QString());
+        QCOMPARE(files, expected);
+        QCOMPARE(ended.status, 0);
+    }
+}
+
+void RunTest::linkedFoldersAreNotFollowed()
+{
+    const Folder folder;
+    folder.write(QStringLiteral("a/1.bmp"), photograph());
+    QVERIFY(QFile::link(folder.path(), folder / QStringLiteral("a/up")));
+    QVERIFY(QFile::link(folder / QStringLiteral("a/1.bmp"), folder / QStringLiteral("2.bmp")));
+    const Ended ended = thermaphoto({"info", "--json", "-r", "."}, folder.path());
+    QCOMPARE(filesOf(ended), (QStringList{"./2.bmp", "./a/1.bmp"}));
+}
+
+void RunTest::folderWithoutPhotographs()
+{
+    const Folder folder;
+    folder.write(QStringLiteral("sub/1.bmp"), photograph());
+    const Ended ended = thermaphoto({"info", "--json", "."}, folder.path());
+    QCOMPARE(ended.status, 1);
+    QCOMPARE(ended.output, QByteArray("[]\n"));
+    QCOMPARE(ended.errorLines().size(), 1);
+    QVERIFY(ended.errors.contains("no photographs"));
+}
+
+void RunTest::missing()
+{
+    const Folder folder;
+    folder.write(QStringLiteral("1.bmp"), photograph());
+    const Ended ended =
+        thermaphoto({"info", "--json", "nowhere", "1.bmp", "gone.bmp"}, folder.path());
+    QCOMPARE(ended.status, 1);
+    QCOMPARE(filesOf(ended), QStringList("1.bmp"));
+    QCOMPARE(ended.errors,
+             QByteArray("thermaphoto: nowhere: cannot be read: No such file or directory\n"
+                        "thermaphoto: gone.bmp: cannot be read: No such file or directory\n"));
+}
+
+void RunTest::oddNames_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char* name :
+         {"with blanks .bmp", "热像 №1 — üß.bmp", "%1 %2 %%.bmp", "'quoted\" $HOME `x`.bmp",
+          "a\nb.bmp", "-o.bmp", "*.bmp", "back\\slash.bmp", "no suffix", "two.dots.bmp", "😀.bmp"})
+        QTest::newRow(name) << QString::fromUtf8(name);
+}
+
+/// Named, or found in a folder: always this file, and one line if it fails.
+void RunTest::oddNames()
+{
+    QFETCH(QString, name);
+    const Folder folder;
+    folder.write(QStringLiteral("in/") + name, photograph());
+    const QString in = folder / QStringLiteral("in");
+    const Ended named = thermaphoto({"info", "--json", "--", name}, in);
+    QCOMPARE(named.status, 0);
+    QCOMPARE(filesOf(named), QStringList(name));
+
+    QString base = name;
+    base.remove(QStringLiteral(".bmp"));
+    const QString out = folder / QStringLiteral("out");
+    QCOMPARE(thermaphoto({"export", "--format", "npy", "-o", out, "--", name}, in).status, 0);
+    QCOMPARE(QDir(out).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+             QStringList(base + QStringLiteral(".npy")));
+    if (name.endsWith(QStringLiteral(".bmp")))
+        QCOMPARE(filesOf(thermaphoto({"info", "--json", "."}, in)), QStringList("./" + name));
+
+    folder.write(QStringLiteral("in/") + name, "broken");
+    const Ended broken = thermaphoto({"info", "--", name}, in);
+    QCOMPARE(broken.status, 1);
+    QCOMPARE(broken.errors.count('\n'), 1);
+}
+
+/// 255 bytes are the most a name can have; the file that is made is one longer.
+void RunTest::longestName()
+{
+    const Folder folder;
+    const QString base(251, QLatin1Char('x'));
+    folder.write(base + QStringLiteral(".bmp"), photograph());
+    QCOMPARE(thermaphoto({"export", "--format", "csv", "."}, folder.path()).status, 0);
+    const Ended tooLong = thermaphoto({"export", "--format", "tiff", "."}, folder.path());
+    QCOMPARE(tooLong.status, 1);
+    QVERIFY(tooLong.errors.contains("File name too long"));
+    QCOMPARE(folder.files(), (QStringList{base + ".bmp", base + ".csv"}));
+}
+
+/// Old disks have names in other encodings. They are not passed over in silence.
+void RunTest::nameThatIsNoText()
+{
+    const Folder folder;
+    folder.write(QStringLiteral("1.bmp"), photograph());
+    QCOMPARE(
+        testing::shell(QStringLiteral("cp 1.bmp \"$(printf '\\344\\366.bmp')\""), folder.path())
+            .status,
+        0);
+    const Ended ended = thermaphoto({"info", "--json", "."}, folder.path());
+    QCOMPARE(ended.status, 1);
+    QCOMPARE(filesOf(ended), QStringList("./1.bmp"));
+    QCOMPARE(ended.errorLines().size(), 1);
+    QVERIFY(ended.errors.contains("its name is not in UTF-8"));
+    testing::shell(QStringLiteral("rm ?[!.]*.bmp"), folder.path()); // Qt cannot
+}
+
+void RunTest::anyNumberOfJobs_data()
+{
+    QTest::addColumn<QStringList>("command");
+    QTest::newRow("info") << QStringList{"info", "--json"};
+    QTest::newRow("measure") << QStringList{"measure", "--tools", "tools.json"};
+    QTest::newRow("export") << QStringList{"export", "--format", "csv", "--force", "-o", "out"};
+}
+
+/// Same bytes in the same order from one, some and more jobs than photographs, errors included.
+void RunTest::anyNumberOfJobs()
+{
+    QFETCH(QStringList, command);
+    const Folder folder;
+    folder.write(QStringLiteral("tools.json"), R"({"points": [[1, 2]], "circles": [[99, 99, 9]]})");
+    for (int i = 0; i < 40; ++i) {
+        const testing::Sample& sample = testing::samples()[std::size_t(i) % 8];
+        folder.write(QStringLiteral("in/%1.bmp").arg(i),
+                     i % 9 == 4 ? QByteArray("broken") : sample.bytes());
+    }
+    const auto run = [&](const char* jobs) {
+        Ended ended = thermaphoto(command + QStringList{"in", "--jobs", jobs}, folder.path());
+        for (const QString& file : folder.files().filter(QStringLiteral("out/")))
+            ended.output += file.toUtf8() + folder.read(file);
+        return ended;
+    };
+    const Ended one = run("1");
+    QCOMPARE(one.status, 1);
+    QCOMPARE(one.errorLines().size(), 4);
+    for (const char* jobs : {"2", "7", "100"}) {
+        const Ended many = run(jobs);
+        QCOMPARE(many.status, 1);
+        QVERIFY(many.output == one.output);
+        QCOMPARE(many.errors, one.errors);
+    }
+}
+
+void RunTest::outputToFullDisk()
+{
+    const Folder folder;
+    folder.write(QStringLiteral("1.bmp"), photograph());
+    for (const char* command : {"info 1.bmp", "info --json 1.bmp", "--help", "--version"}) {
+        const Ended ended = testing::shell(
+            QStringLiteral("\"$thermaphoto\" %1 > /dev/full").arg(QLatin1String(command)),
+            folder.path());
+        QCOMPARE(ended.status, 1);
+    }
+    const Ended ended =
+        testing::shell(QStringLiteral("\"$thermaphoto\" info 1.bmp > /dev/full"), folder.path());
+    QVERIFY(ended.errors.contains("No space left on device"));
+}
+
+/// Whoever reads has read enough: no more work, no complaint.
+void RunTest::pipeClosedEarly()
+{
+    const Folder folder;
+    folder.write(QStringLiteral("1.bmp"), photograph());
+    // Far more output than a pipe holds.
+    const Ended ended =
+        testing::shell(QStringLiteral("\"$thermaphoto\" info --json $(yes 1.bmp | head -n 1000) | "
+                                      "head -c 1"),
+                       folder.path());
+    QCOMPARE(ended.status, 0);
+    QCOMPARE(ended.output, QByteArray("["));
+    QCOMPARE(ended.errors, QByteArray());
+}
+
+/// Nobody reads the errors, but the files are to be written.
+void RunTest::errorPipeClosedEarly()
+{
+    const Folder folder;
+    for (int i = 0; i < 20; ++i)
+        folder.write(QStringLiteral("%1.bmp").arg(i), i % 2 == 0 ? photograph() : "broken");
+    const Ended ended = testing::shell(
+        QStringLiteral("\"$thermaphoto\" export --format npy -o out . 2>&1 | true"), folder.path());
+    QCOMPARE(ended.status, 0);
+    const QStringList files = folder.files().filter(QStringLiteral("out/"));
+    QCOMPARE(files.size(), 10);
+    QCOMPARE(files.filter(QStringLiteral(".npy")).size(), 10);
+}
+
+/// On a terminal a bar that leaves nothing behind; elsewhere none.
+void RunTest::progressBar()
+{
+    const Folder folder;
+    for (int i = 0; i < 3; ++i)
+        folder.write(QStringLiteral("%1.bmp").arg(i), photograph());
+    const QString command = QStringLiteral("\"$thermaphoto\" export --format npy --force .");
+    const Ended piped = testing::shell(command, folder.path());
+    QCOMPARE(piped.output + piped.errors, QByteArray());
+
+    const Ended onTerminal = testing::shell(
+        QStringLiteral("script --quiet --return --command '%1' /dev/null").arg(command),
+        folder.path());
+    QCOMPARE(onTerminal.status, 0);
+    QVERIFY(onTerminal.output.startsWith("\r[##########--------------------] 1/3"));
+    QVERIFY(onTerminal.output.endsWith("\r\x1b[K"));
+
+    const Ended listing =
+        testing::shell(QStringLiteral("script --quiet --return --command "
+                                      "'\"$thermaphoto\" info --json .' /dev/null"),
+                       folder.path());
+    QVERIFY(listing.output.startsWith('['));
+    QVERIFY(!listing.output.contains("###"));
+}
+
+void RunTest::interrupted_data()
+{
+    QTest::addColumn<int>("signal");
+    QTest::newRow("Ctrl-C") << SIGINT;
+    QTest::newRow("asked to end") << SIGTERM;
+    QTest::newRow("terminal closed") << SIGHUP;
+}
+
+/// The second photograph keeps the program waiting until the request is there: then what was begun
+/// is finished, nothing else is, and no file is half there.
+void RunTest::interrupted()
+{
+    QFETCH(int, signal);
+    const Folder folder;
+    folder.write(QStringLiteral("in/1.bmp"), photograph());
+    const QString slow = folder / QStringLiteral("in/2.bmp");
+    QCOMPARE(mkfifo(slow.toUtf8().constData(), 0600), 0);
+    folder.write(QStringLiteral("in/3.bmp"), photograph());
+
+    QProcess process;
+    process.setProcessEnvironment(testing::bareEnvironment());
+    process.setWorkingDirectory(folder.path());
+    process.start(QStringLiteral(THERMAPHOTO), {"export", "--format", "png", "--jobs", "1", "-o",
+                                                "out", "in/1.bmp", "in/2.bmp", "in"});
+    QTRY_VERIFY(QFile::exists(folder / QStringLiteral("out/1.png")));
+    // Opening the writing end waits for the reading end: the program is there now.
+    QFile writer(slow);
+    QVERIFY(writer.open(QIODevice::WriteOnly));
+    QVERIFY(catches(process.processId(), signal));
+    QCOMPARE(kill(pid_t(process.processId()), signal), 0);
+    QTRY_VERIFY(!catches(process.processId(), signal)); // the second one would end it at once
+    writer.close();
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(process.exitStatus(), QProcess::CrashExit);
+    QCOMPARE(process.exitCode(), signal);
+    QVERIFY(process.readAllStandardError().contains("interrupted after 2 of "));
+    QCOMPARE(folder.files().filter(QStringLiteral("out/")), QStringList("out/1.png"));
+    QVERIFY(folder.read(QStringLiteral("out/1.png")).endsWith("IEND\xAE\x42\x60\x82"));
+}
+
+int main(int argc, char** argv)
+{
+    return testing::run<RunTest>(argc, argv);
+}
+
+#include "run_test.moc"
