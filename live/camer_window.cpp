@@ -290,8 +290,9 @@ void camer_window::closeEvent(QCloseEvent* event)
 
 bool camer_window::eventFilter(QObject* watched, QEvent* event)
 {
-    // The picture lies in no layout: there, each new pixmap would have the whole page laid out and
-    // painted anew, 25 times a second.
+    // A frame paints its picture and the read-outs that changed, nothing else. So the picture lies
+    // in no layout (each new pixmap would have the whole page laid out and painted), the read-outs
+    // have fixed sizes, and opaque areas lie under both.
     if (ui && watched == ui->pictureArea && event->type() == QEvent::Resize)
         ui->label_17->resize(ui->pictureArea->size());
     return QWidget::eventFilter(watched, event);
