@@ -54,8 +54,8 @@ struct Avx2
 private:
     static void storeTails(uchar* p, uchar* q, __m128i r)
     {
-        _mm_storel_pd(reinterpret_cast<double*>(p + 16), _mm_castsi128_pd(r));
-        _mm_storeh_pd(reinterpret_cast<double*>(q + 16), _mm_castsi128_pd(r));
+        _mm_storel_epi64(reinterpret_cast<__m128i*>(p + 16), r);
+        _mm_storeh_pi(reinterpret_cast<__m64*>(q + 16), _mm_castsi128_ps(r));
     }
 };
 
