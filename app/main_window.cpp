@@ -114,12 +114,13 @@ void MainWindow::Action_camer()
     if (!ui)
         return;
     m_deviceState = device_poll::liveCamera;
+    // A camera serves one page at a time: the one before lets go of it first, wherever it is shown.
+    if (m_liveWindow)
+        endPage(m_liveWindow);
     auto page = std::make_unique<camer_window>();
     page->setAlarmFolder(m_alarmFolder);
     page->refreshHistory();
     clearModeArea();
-    if (m_liveWindow)
-        endPage(m_liveWindow); // full screen, so not in the mode area
     m_liveWindow = page.get();
     page->setOwner(this);
     qDebug().noquote() << QStringLiteral("按下了投屏按键------MainWindow::Action_camer");

@@ -181,6 +181,20 @@ private slots:
         QTRY_VERIFY(window.liveWindow()->findChild<QLabel*>(QStringLiteral("label_17"))->pixmap());
     }
 
+    void twoImagersEndInOneLivePage()
+    {
+        MainWindow window;
+        window.show();
+        simulator::CameraIdentity second = simulator::imagerIdentity();
+        second.deviceName += QStringLiteral("-2");
+        camera().plug();
+        camera().plug(second);
+        window.timeout_connect();
+        QCOMPARE(modeArea(window)->count(), 1);
+        QTRY_VERIFY(camera().deliver(QByteArray(live::frameBytes, '\x80')));
+        QTRY_VERIFY(window.liveWindow()->findChild<QLabel*>(QStringLiteral("label_17"))->pixmap());
+    }
+
     void otherCamerasAreNotTheImager_data()
     {
         QTest::addColumn<QString>("deviceName");
