@@ -376,7 +376,7 @@ void paintReport(const Report& report, QPagedPaintDevice& device)
 bool writeReport(const Report& report, const QString& path)
 {
     QSaveFile file(path);
-    if (path.isEmpty() || !file.open(QIODevice::WriteOnly))
+    if (!file.open(QIODevice::WriteOnly))
         return false;
     QByteArray pdf;
     QString written;
