@@ -2,6 +2,7 @@
 
 #include <QBuffer>
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QFontMetrics>
 #include <QHash>
 #include <QPagedPaintDevice>
@@ -375,8 +376,10 @@ void paintReport(const Report& report, QPagedPaintDevice& device)
 
 bool writeReport(const Report& report, const QString& path)
 {
+    // Putting a file in place would replace a pipe or a device by it.
+    const QFileInfo target(path);
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
+    if ((target.exists() && !target.isFile()) || !file.open(QIODevice::WriteOnly))
         return false;
     QByteArray pdf;
     QString written;

@@ -64,8 +64,8 @@ void paintReport(const Report& report, QPagedPaintDevice& device);
 ///
 /// The file is made beside its final place and moved there when it is whole. Until then, and when
 /// anything fails, a file that stands at `path` stays as it is and nothing else is left. False when
-/// the path cannot be written (empty, a folder, no permission, disk full); the question whether it
-/// can be opened comes before any painting.
+/// the path cannot be written (empty, a folder or device, no permission, disk full); the question
+/// whether it can be opened comes before any painting.
 bool writeReport(const Report& report, const QString& path);
 
 } // namespace analysis

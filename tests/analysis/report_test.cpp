@@ -12,6 +12,7 @@
 #include <csignal>
 #include <memory>
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 using analysis::Report;
 
@@ -210,7 +211,8 @@ void putFile(const QString& path, const QByteArray& bytes)
 
 QStringList filesIn(const QString& folder)
 {
-    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System |
+                                  QDir::NoDotAndDotDot);
 }
 
 /// While it lives no file of this process can grow beyond a few kilobytes, as on a full disk.
@@ -723,6 +725,23 @@ private slots:
         QDir::setCurrent(before);
         QCOMPARE(filesIn(m_folder->path()), QStringList());
         QCOMPARE(log.messages(), QStringList());
+    }
+
+    void onlyFilesAreReplaced()
+    {
+        const QString pipe = m_folder->filePath("pipe.pdf");
+        QCOMPARE(mkfifo(qPrintable(pipe), 0600), 0);
+        QVERIFY(!analysis::writeReport(testing::sampleReport("CH", 0, 4), pipe));
+        QVERIFY(QFileInfo::exists(pipe) && !QFileInfo(pipe).isFile());
+
+        const QString file = m_folder->filePath("file.pdf");
+        const QString link = m_folder->filePath("link.pdf");
+        putFile(file, "older");
+        QVERIFY(QFile::link(file, link));
+        QVERIFY(analysis::writeReport(testing::sampleReport("CH", 0, 4), link));
+        QVERIFY(QFileInfo(link).isSymLink());
+        QCOMPARE(testing::pdfInfo(file, "Pages"), QString("2"));
+        QCOMPARE(filesIn(m_folder->path()).size(), 3);
     }
 
     void aFullDiskLeavesWhatWasThere()
