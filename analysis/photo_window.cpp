@@ -151,7 +151,7 @@ bool photo_window::findImageFolder()
         return true;
     // The list was made anew; the row in use is marked again, which changes nothing.
     ui->listWidget->setCurrentRow(driveIndex);
-    const QString root = roots.at(driveIndex);
+    const QString& root = roots.at(driveIndex);
     const QStringList names =
         QDir(root).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Unsorted);
     qDebug().noquote() << QStringLiteral("所含文件夹:") << names;
