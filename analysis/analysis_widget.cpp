@@ -10,7 +10,6 @@
 #include "ui_analysis_widget.h"
 
 #include <QColorDialog>
-#include <QDateTime>
 #include <QDebug>
 #include <QDesktopServices>
 #include <QFileDialog>
@@ -35,13 +34,6 @@ enum Tool
 };
 
 const QString loadTag = QStringLiteral("---------Anlyxix-set_Image_addr");
-
-/// File systems that do not keep the time of creation give the last change of the entry.
-QDateTime creationTime(const QFileInfo& file)
-{
-    const QDateTime birth = file.birthTime();
-    return birth.isValid() ? birth : file.metadataChangeTime();
-}
 
 QPixmap fitted(const QImage& image, const QSize& size)
 {
@@ -103,9 +95,8 @@ void Analysis_Widget::prepareTables()
 bool Analysis_Widget::set_Image_addr(const QString& imagePath, int modelIndex)
 {
     displayUnitState = 0;
-    const QFileInfo file(imagePath);
-    fileName = file.fileName();
-    created = creationTime(file).toString(QStringLiteral("yyyy/MM/dd HH:mm"));
+    fileName = QFileInfo(imagePath).fileName();
+    created = createdText(imagePath);
     path = imagePath;
     qDebug().noquote() << path << loadTag;
 
@@ -228,16 +219,13 @@ void Analysis_Widget::updat_Tool_Temp()
     const std::vector<ToolRow> rows =
         toolRows({label.pointList, label.lineList, label.rectList, label.circleList},
                  photograph.temperatures, conversion);
-    const std::array<QString, 4> kinds{tr("点"), tr("线"), tr("矩形"), tr("圆")};
 
     QTableWidget& table = *ui->tableWidget;
     table.setRowCount(0);
     table.setRowCount(int(rows.size()));
     for (int row = 0; row < table.rowCount(); ++row) {
-        const ToolRow& tool = rows[std::size_t(row)];
         int column = 0;
-        for (const QString& text :
-             {tool.name, kinds[std::size_t(tool.kind)], tool.high, tool.low, tool.average}) {
+        for (const QString& text : toolCells(rows[std::size_t(row)])) {
             auto* item = new QTableWidgetItem(text);
             item->setTextAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
             table.setItem(row, column++, item);

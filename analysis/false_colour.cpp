@@ -33,4 +33,16 @@ void mapColours(const cv::Mat& gray, const Palette& lookup, cv::Mat& colours)
     cv::applyColorMap(gray, colours, table);
 }
 
+QImage falseColourPicture(const Photograph& photograph, int startValue, int endValue)
+{
+    // OpenCV wants to be able to write to what it only reads here.
+    const cv::Mat gray(format::rows, format::columns, CV_8UC1,
+                       const_cast<uchar*>(photograph.gray.data()));
+    QImage picture(format::columns, format::rows, QImage::Format_RGB888);
+    cv::Mat colours(format::rows, format::columns, CV_8UC3, picture.bits(),
+                    std::size_t(picture.bytesPerLine()));
+    mapColours(gray, lookupFor(photograph.palette, startValue, endValue), colours);
+    return picture;
+}
+
 } // namespace analysis

@@ -21,4 +21,8 @@ QImage colourStrip(const Palette& palette);
 /// the order red, green, blue).
 void mapColours(const cv::Mat& gray, const Palette& lookup, cv::Mat& colours);
 
+/// A photograph's gray picture as the analysis window shows it with the markers at these values:
+/// 240 × 320, Format_RGB888.
+QImage falseColourPicture(const Photograph& photograph, int startValue, int endValue);
+
 } // namespace analysis

@@ -1,10 +1,21 @@
 #include "analysis/information.h"
 
+#include <QDateTime>
+#include <QFileInfo>
+
 namespace analysis {
 
 QString kilobytes(qint64 bytes)
 {
     return oneDecimal(double(bytes) * 0.0009765625);
+}
+
+QString createdText(const QString& path)
+{
+    const QFileInfo file(path);
+    const QDateTime birth = file.birthTime();
+    return (birth.isValid() ? birth : file.metadataChangeTime())
+        .toString(QStringLiteral("yyyy/MM/dd HH:mm"));
 }
 
 std::array<QString, informationRows> informationTexts(const QString& fileName,

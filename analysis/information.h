@@ -29,6 +29,10 @@ constexpr int informationRows = 10;
 /// and gives "-0.0".
 QString kilobytes(qint64 bytes);
 
+/// When a file was made, "yyyy/MM/dd HH:mm" in local time; where the file system does not keep
+/// that, the last change of its entry.
+QString createdText(const QString& path);
+
 /// The values of the information table. `unitIndex` is what the unit selector shows; `conversion`
 /// applies to the four temperatures.
 std::array<QString, informationRows> informationTexts(const QString& fileName,

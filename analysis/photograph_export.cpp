@@ -181,13 +181,8 @@ QByteArray tiffOf(std::vector<float>& values, const ShownUnit& unit, const Param
 
 QByteArray pngOf(const Photograph& photograph, int startValue, int endValue)
 {
-    // OpenCV wants to be able to write to what it only reads here.
-    const cv::Mat gray(rows, columns, CV_8UC1, const_cast<uchar*>(photograph.gray.data()));
-    cv::Mat colours;
-    mapColours(gray, lookupFor(photograph.palette, startValue, endValue), colours);
-    const QImage picture(colours.data, columns, rows, int(colours.step), QImage::Format_RGB888);
     QBuffer buffer;
-    picture.save(&buffer, "png");
+    falseColourPicture(photograph, startValue, endValue).save(&buffer, "png");
     return buffer.data();
 }
 

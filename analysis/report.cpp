@@ -374,13 +374,8 @@ void paintReport(const Report& report, QPagedPaintDevice& device)
     Sheets(report, device).paint();
 }
 
-bool writeReport(const Report& report, const QString& path)
+QByteArray reportPdf(const Report& report)
 {
-    // Putting a file in place would replace a pipe or a device by it.
-    const QFileInfo target(path);
-    QSaveFile file(path);
-    if ((target.exists() && !target.isFile()) || !file.open(QIODevice::WriteOnly))
-        return false;
     QByteArray pdf;
     QString written;
     {
@@ -398,6 +393,17 @@ bool writeReport(const Report& report, const QString& path)
         written = sheets.drawnText();
     }
     nameGlyphsAsWritten(pdf, written, reportFont(textSize, QFont::Normal, report.language));
+    return pdf;
+}
+
+bool writeReport(const Report& report, const QString& path)
+{
+    // Putting a file in place would replace a pipe or a device by it.
+    const QFileInfo target(path);
+    QSaveFile file(path);
+    if ((target.exists() && !target.isFile()) || !file.open(QIODevice::WriteOnly))
+        return false;
+    const QByteArray pdf = reportPdf(report);
     return file.write(pdf) == pdf.size() && file.commit();
 }
 

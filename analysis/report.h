@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/information.h"
+#include "analysis/tool_statistics.h"
 #include "analysis/units.h"
 
 #include <QImage>
@@ -19,9 +20,6 @@ class QPagedPaintDevice;
 /// on y. Captions are translated in the context of the analysis window, by the translators that the
 /// application has installed. Fonts need a QGuiApplication, nothing here needs a widget.
 namespace analysis {
-
-/// One line of the tool table: name, type, high, low, average.
-using ToolCells = std::array<QString, 5>;
 
 /// Everything a report shows. Texts are final: converted, formatted, translated.
 struct Report
@@ -59,8 +57,11 @@ QImage reportCanvas(const Report& report);
 /// Paints all pages. The device is A4 at 1200 dots per inch, with margins of 10 points.
 void paintReport(const Report& report, QPagedPaintDevice& device);
 
-/// Writes the report as a PDF file with embedded fonts. The text stays searchable, characters that
-/// share their shape with others included.
+/// The report as the bytes of a PDF file with embedded fonts. The text stays searchable, characters
+/// that share their shape with others included.
+QByteArray reportPdf(const Report& report);
+
+/// Writes the report as a PDF file.
 ///
 /// The file is made beside its final place and moved there when it is whole. Until then, and when
 /// anything fails, a file that stands at `path` stays as it is and nothing else is left. False when

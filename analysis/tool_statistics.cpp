@@ -1,5 +1,7 @@
 #include "analysis/tool_statistics.h"
 
+#include <QCoreApplication>
+
 #include <cmath>
 #include <numeric>
 
@@ -386,6 +388,16 @@ std::vector<ToolRow> toolRows(const ToolLists& tools, const Temperatures& temper
     append(tools.rects, ToolKind::Rect);
     append(tools.circles, ToolKind::Circle);
     return table;
+}
+
+ToolCells toolCells(const ToolRow& row)
+{
+    static constexpr std::array<const char*, 4> types{
+        QT_TRANSLATE_NOOP("Analysis_Widget", "点"), QT_TRANSLATE_NOOP("Analysis_Widget", "线"),
+        QT_TRANSLATE_NOOP("Analysis_Widget", "矩形"), QT_TRANSLATE_NOOP("Analysis_Widget", "圆")};
+    const QString type =
+        QCoreApplication::translate("Analysis_Widget", types[std::size_t(row.kind)]);
+    return {row.name, type, row.high, row.low, row.average};
 }
 
 } // namespace analysis

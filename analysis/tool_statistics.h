@@ -7,6 +7,7 @@
 #include <QString>
 #include <QVector>
 
+#include <array>
 #include <vector>
 
 namespace analysis {
@@ -65,5 +66,10 @@ std::vector<AreaStatistics> measureAreas(const ToolLists& tools, const Temperatu
 /// outside the picture takes the nearest pixel inside.
 std::vector<ToolRow> toolRows(const ToolLists& tools, const Temperatures& temperatures,
                               Conversion conversion);
+
+/// The row's texts: name, type, high, low, average. The type is translated in the context of the
+/// analysis window.
+using ToolCells = std::array<QString, 5>;
+ToolCells toolCells(const ToolRow& row);
 
 } // namespace analysis

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QStringList>
+
+#include <memory>
 
 /// The commands of thermaphoto. Each takes all arguments of the program (its own name, then the
 /// command's) and returns what the program ends with.
@@ -9,5 +12,11 @@ namespace tools {
 int infoCommand(const QStringList& arguments);
 int exportCommand(const QStringList& arguments);
 int measureCommand(const QStringList& arguments);
+
+/// Needs a drawingApplication().
+int reportCommand(const QStringList& arguments);
+
+/// The application object that can draw tools and texts, without a display.
+std::unique_ptr<QCoreApplication> drawingApplication(int& argc, char** argv);
 
 } // namespace tools

@@ -8,11 +8,11 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-using overlay::Marker;
 using analysis::Outcome;
 using analysis::Parameters;
 using analysis::PhotographReader;
 using analysis::Problem;
+using overlay::Marker;
 
 namespace tools {
 namespace {

@@ -5,6 +5,8 @@
 #include <QCoreApplication>
 #include <QTextCodec>
 
+#include <cstring>
+
 namespace {
 
 using Command = int (*)(const QStringList& arguments);
@@ -17,6 +19,7 @@ constexpr struct
     {"info", tools::infoCommand},
     {"export", tools::exportCommand},
     {"measure", tools::measureCommand},
+    {"report", tools::reportCommand},
 };
 
 constexpr const char* help =
@@ -27,6 +30,7 @@ constexpr const char* help =
     "  info      tell what stands in photographs\n"
     "  export    write temperatures (CSV, TIFF, NumPy) or pictures (PNG)\n"
     "  measure   measure photographs, all with the same tools\n"
+    "  report    write a PDF report of each photograph\n"
     "\n"
     "Options:\n"
     "  -h, --help     show this help; thermaphoto COMMAND --help tells more\n"
@@ -47,7 +51,12 @@ int main(int argc, char** argv)
     // File names are UTF-8 whatever the locale says: scheduled jobs run in one that knows ASCII
     // only.
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
-    const QCoreApplication application(argc, argv);
+    // What windows and Qt note for developers is not for whoever reads the error output.
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+    const bool draws = argc > 1 && std::strcmp(argv[1], "report") == 0;
+    const std::unique_ptr<QCoreApplication> application =
+        draws ? tools::drawingApplication(argc, argv)
+              : std::make_unique<QCoreApplication>(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     const QString first = arguments.value(1);
 

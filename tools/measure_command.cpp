@@ -1,9 +1,8 @@
 #include "analysis/photograph_reader.h"
-#include "tools/command_line.h"
 #include "tools/commands.h"
+#include "tools/measuring_options.h"
 #include "tools/messages.h"
 #include "tools/photograph_run.h"
-#include "tools/tool_file.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -108,14 +107,11 @@ int measureCommand(const QStringList& arguments)
 {
     CommandLine line(QStringLiteral("measure"),
                      QStringLiteral("Measures photographs, all with the same tools."));
-    line.add(
-        {QStringLiteral("tools")},
+    addMeasuringOptions(
+        line,
         QStringLiteral("The tools: {\"points\": [[x, y], …], \"lines\": [[x1, y1, x2, y2], …], "
-                       "\"rectangles\": [[x1, y1, x2, y2], …], \"circles\": [[cx, cy, r], …]}."),
-        QStringLiteral("FILE.json"));
-    line.add({QStringLiteral("unit")},
-             QStringLiteral("Unit of the temperatures. Default: the photograph's own."),
-             QStringLiteral("C|F"), QStringLiteral("file"));
+                       "\"rectangles\": [[x1, y1, x2, y2], …], \"circles\": [[cx, cy, r], "
+                       "…]}."));
     line.add({QStringLiteral("format")}, QStringLiteral("How to print the tables. Default: table."),
              QStringLiteral("csv|json|table"), QStringLiteral("table"));
     if (!line.parse(arguments))
@@ -124,21 +120,12 @@ int measureCommand(const QStringList& arguments)
     PhotographRun photographs;
     photographs.jobs = line.jobs();
     const std::optional<int> modelIndex = line.modelIndex();
-    const auto unit =
-        line.choice<UnitChoice>(QStringLiteral("unit"), {{"C", UnitChoice::Celsius},
-                                                         {"F", UnitChoice::Fahrenheit},
-                                                         {"file", UnitChoice::AsStored}});
+    const UnitChoice unit = readUnit(line);
     const auto write = line.choice<Writer>(QStringLiteral("format"),
                                            {{"csv", csv}, {"json", json}, {"table", table}});
-    ToolSet tools;
     if (!line.isSet(QStringLiteral("tools")))
         line.refuse(QStringLiteral("--tools is missing"));
-    else {
-        const QString file = line.value(QStringLiteral("tools"));
-        const QString wrong = readToolFile(file, tools);
-        if (!wrong.isEmpty())
-            line.refuse(file + QStringLiteral(": ") + wrong);
-    }
+    const ToolSet tools = readTools(line);
     if (!line.isGood())
         return line.status();
 

@@ -106,6 +106,8 @@ void RunTest::usage_data()
     row("tools missing", "measure a.bmp");
     row("tools not there", "measure --tools nowhere.json a.bmp");
     row("measure unit", "measure --tools tools.json --unit K a.bmp");
+    row("report without folder", "report a.bmp");
+    row("report language", "report --language en -o out a.bmp");
     row("measure format", "measure --tools tools.json --format xml a.bmp");
 }
 
@@ -132,6 +134,7 @@ void RunTest::help_data()
     QTest::newRow("info") << QStringList{"info", "--help"} << QByteArray("--json");
     QTest::newRow("export") << QStringList{"export", "-h"} << QByteArray("--span");
     QTest::newRow("measure") << QStringList{"measure", "--help"} << QByteArray("--tools");
+    QTest::newRow("report") << QStringList{"report", "--help"} << QByteArray("--language");
 }
 
 void RunTest::help()
@@ -153,10 +156,15 @@ void RunTest::version()
     QCOMPARE(ended.output.split('.').size(), 3);
 }
 
-/// Reading, measuring and exporting must do without: there is no display where scheduled jobs run.
+/// A program of everything but the reports: it links, it runs, and the system loads no widgets.
 void RunTest::linksNoWidgets()
 {
-    const Ended ended = testing::shell(QStringLiteral("ldd \"$thermaphoto\""), {});
+    const Folder folder;
+    folder.write(QStringLiteral("a.bmp"), photograph());
+    const Ended info = testing::shell(QStringLiteral(WITHOUT_WIDGETS " info a.bmp"), folder.path());
+    QCOMPARE(info.status, 0);
+    QVERIFY(info.output.startsWith("a.bmp\n"));
+    const Ended ended = testing::shell(QStringLiteral("ldd " WITHOUT_WIDGETS), {});
     QCOMPARE(ended.status, 0);
     QVERIFY(ended.output.contains("libQt5Core"));
     QVERIFY(!ended.output.contains("libQt5Widgets"));

@@ -1,0 +1,32 @@
+#include "analysis/photograph_report.h"
+
+#include "analysis/false_colour.h"
+
+#include <QFileInfo>
+
+namespace analysis {
+
+Report photographReport(const QString& path, const PhotographReader& reader, UnitChoice unit,
+                        const ToolLists& tools, const QImage& overlay, const QString& language)
+{
+    const Photograph& photograph = reader.photograph();
+    const Parameters& parameters = photograph.parameters;
+    const ShownUnit shown = shownUnit(unit, parameters.unit, reader.isRaw());
+    Report report;
+    report.information =
+        informationTexts(QFileInfo(path).fileName(), createdText(path), reader.readCount(),
+                         parameters, photograph.mean, shown.index, shown.conversion);
+    report.picture = falseColourPicture(photograph, 0, format::paletteEntries - 1);
+    report.overlay = overlay;
+    report.colourStrip = colourStrip(photograph.palette);
+    report.maximum10 = parameters.maximum10;
+    report.minimum10 = parameters.minimum10;
+    report.conversion = shown.conversion;
+    report.unitIndex = shown.index;
+    for (const ToolRow& row : toolRows(tools, photograph.temperatures, shown.conversion))
+        report.tools.push_back(toolCells(row));
+    report.language = language;
+    return report;
+}
+
+} // namespace analysis

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "analysis/photograph_reader.h"
+#include "analysis/report.h"
+#include "analysis/tool_statistics.h"
+
+namespace analysis {
+
+/// The report of a photograph that no window shows: as the save button of a window would write it
+/// that has just opened the photograph and was switched to `unit`, the colour bar untouched.
+/// `overlay` are the drawn tools, as reportOverlay() gives them. `language` is the code of the
+/// installed translators.
+Report photographReport(const QString& path, const PhotographReader& reader, UnitChoice unit,
+                        const ToolLists& tools, const QImage& overlay, const QString& language);
+
+} // namespace analysis

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "analysis/photograph_reader.h"
+#include "tools/command_line.h"
+#include "tools/tool_file.h"
+
+/// What commands that measure are asked for: --tools and --unit.
+namespace tools {
+
+void addMeasuringOptions(CommandLine& line, const QString& toolsDescription);
+
+/// Without --unit, the photograph's own.
+analysis::UnitChoice readUnit(CommandLine& line);
+
+/// No tools without --tools. A file that cannot be read or makes no sense is bad usage.
+ToolSet readTools(CommandLine& line);
+
+} // namespace tools

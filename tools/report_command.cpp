@@ -1,0 +1,153 @@
+#include "analysis/photograph_report.h"
+#include "analysis/report_overlay.h"
+#include "analysis/whole_file.h"
+#include "config/configuration_record.h"
+#include "overlay/my_label.h"
+#include "resources/resources.h"
+#include "tools/commands.h"
+#include "tools/measuring_options.h"
+#include "tools/messages.h"
+#include "tools/photograph_run.h"
+#include "tools/target_files.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QTranslator>
+
+#include <thread>
+
+using analysis::Outcome;
+using analysis::PhotographReader;
+using analysis::Problem;
+using analysis::UnitChoice;
+
+namespace tools {
+namespace {
+
+/// Draws tools and markers over photographs. A widget does that, so it lives in the application's
+/// thread and is asked from the others.
+class OverlayPainter
+{
+public:
+    explicit OverlayPainter(const ToolSet& tools)
+    {
+        m_label.pointList = tools.points;
+        m_label.lineList = tools.lines;
+        m_label.rectList = tools.rects;
+        m_label.circleList = tools.circles;
+        m_label.resize(620, 800); // any will do; a report has a size of its own
+    }
+
+    /// Any thread but the application's, which must be running its event loop.
+    QImage draw(const analysis::Photograph& photograph)
+    {
+        QImage overlay;
+        const auto drawHere = [&] {
+            m_label.markerA = photograph.markerA;
+            m_label.markerB = photograph.markerB;
+            m_label.markerC = photograph.markerC;
+            const QSize picture(analysis::format::columns, analysis::format::rows);
+            overlay = analysis::reportOverlay(m_label, picture);
+        };
+        QMetaObject::invokeMethod(&m_label, drawHere, Qt::BlockingQueuedConnection);
+        return overlay;
+    }
+
+private:
+    MyLabel m_label;
+};
+
+/// The language that the windows speak.
+QString configuredLanguage()
+{
+    if (!config::exists())
+        return QStringLiteral("EN");
+    const QString language = config::read().language;
+    const QStringList translated{QStringLiteral("EN"), QStringLiteral("RU"), QStringLiteral("KO")};
+    return translated.contains(language) ? language : QStringLiteral("CH");
+}
+
+Outcome writeReport(const QString& target, const analysis::Report& report, bool overwrite)
+{
+    return analysis::writeWholeFile(target, reportPdf(report), overwrite);
+}
+
+} // namespace
+
+std::unique_ptr<QCoreApplication> drawingApplication(int& argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    return std::make_unique<QApplication>(argc, argv);
+}
+
+int reportCommand(const QStringList& arguments)
+{
+    CommandLine line(QStringLiteral("report"),
+                     QStringLiteral("Writes a PDF report of each photograph, as the save button of "
+                                    "its window does."));
+    addMeasuringOptions(line, QStringLiteral("Measure and draw these tools; see thermaphoto "
+                                             "measure --help."));
+    line.add({QStringLiteral("language")},
+             QStringLiteral("Language of the report. Default: the one that ThermaDesk is set to."),
+             QStringLiteral("CH|EN|RU|KO"), configuredLanguage());
+    addTargetOptions(line);
+    if (!line.parse(arguments))
+        return line.status();
+
+    PhotographRun photographs;
+    photographs.jobs = line.jobs();
+    photographs.writesFiles = true;
+    const std::optional<int> modelIndex = line.modelIndex();
+    const UnitChoice unit = readUnit(line);
+    const bool overwrite = line.isSet(QStringLiteral("force"));
+    const auto language =
+        line.choice<QString>(QStringLiteral("language"), {{"CH", QStringLiteral("CH")},
+                                                          {"EN", QStringLiteral("EN")},
+                                                          {"RU", QStringLiteral("RU")},
+                                                          {"KO", QStringLiteral("KO")}});
+    if (!line.isSet(QStringLiteral("output")))
+        line.refuse(QStringLiteral("--output is missing"));
+    const ToolSet tools = readTools(line);
+    if (!line.isGood())
+        return line.status();
+
+    photographs.entries = listPhotographs(line.paths(), line.isRecursive());
+    const std::optional<QStringList> targets =
+        prepareTargets(line, QStringLiteral("pdf"), photographs.entries);
+    if (!targets)
+        return status::someFailed;
+
+    resources::load();
+    QTranslator translator;
+    if (translator.load(QStringLiteral(":/Demo_%1.qm").arg(language)))
+        QCoreApplication::installTranslator(&translator);
+    OverlayPainter painter(tools);
+    photographs.makeWork = [&]() -> Work {
+        const auto reader = std::make_shared<PhotographReader>();
+        return [&, reader](int index) -> Result {
+            const QString& path = photographs.entries[std::size_t(index)].path;
+            const QString& target = targets->at(index);
+            if (!overwrite && QFileInfo(target).exists())
+                return {{}, targetReason({Problem::AlreadyThere, {}}, target)};
+            const Outcome reading = reader->read(path, modelIndex);
+            if (!reading.isGood())
+                return {{}, reason(reading)};
+            const QImage overlay = painter.draw(reader->photograph());
+            const analysis::Report report =
+                photographReport(path, *reader, unit, tools.lists(), overlay, language);
+            return {{}, targetReason(writeReport(target, report, overwrite), target)};
+        };
+    };
+
+    // The application's thread draws; another one keeps the work going.
+    int status = status::good;
+    std::thread runner([&] {
+        status = run(photographs);
+        QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+    });
+    QApplication::exec();
+    runner.join();
+    return status;
+}
+
+} // namespace tools
