@@ -20,7 +20,7 @@ QString textName(const QString& name)
 QString claimName(const QDir& history, const QString& time)
 {
     for (int number = 1;; ++number) {
-        const QString name = number == 1 ? time : time + QLatin1Char('-') + QString::number(number);
+        QString name = number == 1 ? time : time + QLatin1Char('-') + QString::number(number);
         const bool taken = history.exists(textName(name));
         if (!taken && history.mkdir(name))
             return name;
@@ -57,7 +57,7 @@ QString writeRecord(const QString& historyFolder, const QDateTime& time,
     QDir history;
     if (pictures.size() != recordPictures || historyFolder.isEmpty() || !history.cd(historyFolder))
         return {};
-    const QString name = claimName(history, time.toString(QStringLiteral("yyyyMMddhhmmss")));
+    QString name = claimName(history, time.toString(QStringLiteral("yyyyMMddhhmmss")));
     if (name.isEmpty())
         return {};
 

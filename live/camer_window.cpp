@@ -200,7 +200,7 @@ void camer_window::setOwner(QObject* owner)
 
 // ------------------------------------------------------------------ live picture
 
-void camer_window::display_cap(QImage cap_image)
+void camer_window::display_cap(QImage cap_image) // NOLINT(performance-unnecessary-value-param)
 {
     if (!ui)
         return;
@@ -208,7 +208,7 @@ void camer_window::display_cap(QImage cap_image)
     showScaled(ui->label_17, currentPixmap);
     if (recentFrames.size() >= live::recordPictures)
         recentFrames.removeFirst();
-    recentFrames.append(std::move(cap_image));
+    recentFrames.append(cap_image);
 }
 
 void camer_window::timeout_connect()

@@ -3,6 +3,7 @@
 #include <QtGlobal>
 
 #include <array>
+#include <cstddef>
 
 /// The vector form of the conversion, written once for every width. `Vector` names a register type
 /// and a handful of instructions that work on each 16-byte lane by itself.
@@ -140,8 +141,8 @@ void convertBlock(const uchar* yuyv, uchar* rgb)
 template<typename Vector>
 void convertVectors(const uchar* yuyv, int pixels, uchar* rgb)
 {
-    constexpr int block = 16 * Vector::lanes;
-    for (int pixel = 0; pixel < pixels; pixel += block) {
+    constexpr std::ptrdiff_t block = 16 * Vector::lanes;
+    for (std::ptrdiff_t pixel = 0; pixel < pixels; pixel += block) {
         convertBlock<Vector>(yuyv, rgb);
         yuyv += 2 * block;
         rgb += 3 * block;

@@ -1,5 +1,7 @@
 #include "live/colour_kernels.h"
 
+#include <cstddef>
+
 namespace live {
 namespace {
 
@@ -19,13 +21,14 @@ constexpr uchar clamped(int value)
 
 void convertPlain(const uchar* yuyv, int pixels, uchar* rgb)
 {
-    for (const uchar* const end = yuyv + pixels * 2; yuyv != end; yuyv += 4, rgb += 6) {
+    for (const uchar* const end = yuyv + 2 * std::ptrdiff_t(pixels); yuyv != end;
+         yuyv += 4, rgb += 6) {
         const int u = yuyv[1] - 128;
         const int v = yuyv[3] - 128;
         const int red = wholePart(1'370'705 * v);
         const int green = wholePart(-698'001 * v - 337'633 * u);
         const int blue = wholePart(1'732'446 * u);
-        for (int pixel = 0; pixel < 2; ++pixel) {
+        for (std::ptrdiff_t pixel = 0; pixel < 2; ++pixel) {
             const int luma = yuyv[2 * pixel];
             rgb[3 * pixel] = clamped(luma + red);
             rgb[3 * pixel + 1] = clamped(luma + green);

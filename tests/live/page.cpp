@@ -35,7 +35,7 @@ void configure(const QString& language, const QString& alarmFolder)
 
 QString makeFolder(const QString& name)
 {
-    const QString path = profile().home() + QLatin1Char('/') + name;
+    QString path = profile().home() + QLatin1Char('/') + name;
     QDir(path).removeRecursively();
     QDir().mkpath(path);
     return path;
