@@ -44,6 +44,11 @@ Profile::Profile()
 
 void Profile::reset()
 {
+    // Windows takes no hint from HOME unless its documents folder is set to %HOME%\Documents, as
+    // packaging/windows/wine-prefix does: better no test than one that empties a user's folder.
+    if (config::documentsPath() != home() + QStringLiteral("/Documents"))
+        qFatal(
+            "The documents folder lies outside the throw-away home folder: refusing to empty it");
     QDir documents(config::documentsPath());
     documents.removeRecursively();
     documents.mkpath(QStringLiteral("."));
