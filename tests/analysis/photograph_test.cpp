@@ -521,10 +521,12 @@ private slots:
         const QString folder = home + QStringLiteral("/folder.bmp");
         QVERIFY(QDir().mkpath(folder));
         QCOMPARE(buffer.read(folder), -1);
-        const QString dangling = home + QStringLiteral("/dangling.bmp");
-        QFile::remove(dangling);
-        QVERIFY(QFile::link(home + QStringLiteral("/nowhere"), dangling));
-        QCOMPARE(buffer.read(dangling), -1);
+        if (QSysInfo::kernelType() != QLatin1String("winnt")) { // where a link is an ordinary file
+            const QString dangling = home + QStringLiteral("/dangling.bmp");
+            QFile::remove(dangling);
+            QVERIFY(QFile::link(home + QStringLiteral("/nowhere"), dangling));
+            QCOMPARE(buffer.read(dangling), -1);
+        }
         QVERIFY(std::all_of(buffer.bytes(), buffer.bytes() + FileBuffer::size,
                             [](uchar byte) { return byte == 0; }));
     }
@@ -533,8 +535,10 @@ private slots:
     {
         QTest::addColumn<QString>("name");
         for (const char* name : {"热像.bmp", "Снимок №1.bmp", "사진.bmp", "a#b.bmp", "100%.bmp",
-                                 "%41.bmp", "blank .bmp ", " .bmp", "a?b&c.bmp"})
+                                 "%41.bmp", "blank .bmp ", " .bmp", "a&b.bmp"})
             QTest::newRow(name) << QString::fromUtf8(name);
+        if (QSysInfo::kernelType() != QLatin1String("winnt")) // where no name may hold them
+            QTest::newRow("a?b\\c.bmp") << QStringLiteral("a?b\\c.bmp");
     }
     void unusualFileNames()
     {

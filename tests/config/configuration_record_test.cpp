@@ -26,6 +26,12 @@ QByteArray asWindowsStoresThem(QByteArray bytes)
     return bytes.replace("\n", "\r\n");
 }
 
+/// The bytes as text mode stores them here.
+QByteArray asThisSystemStoresThem(const QByteArray& bytes)
+{
+    return QSysInfo::kernelType() == QLatin1String("winnt") ? asWindowsStoresThem(bytes) : bytes;
+}
+
 void putFile(const QByteArray& bytes)
 {
     QDir().mkpath(config::folderPath());
@@ -135,7 +141,7 @@ private slots:
         QVERIFY(!config::exists());
     }
 
-    void readsWhatWindowsWrote_data()
+    void exchangesRecordsWithOtherSystems_data()
     {
         QTest::addColumn<QString>("folder");
         QTest::newRow("line feed inside a code unit") << QStringLiteral("C:/\u0A05\u010A");
@@ -144,13 +150,20 @@ private slots:
         QTest::newRow("261 units") << QString(261 - 7, QLatin1Char('x'));
         QTest::newRow("Cyrillic") << QStringLiteral("C:/Пользователи/тревоги");
         QTest::newRow("Korean") << QStringLiteral("C:/경보");
+        QTest::newRow("back-slashes") << QStringLiteral("D:\\тревоги\\\u0A05");
     }
-    void readsWhatWindowsWrote()
+    void exchangesRecordsWithOtherSystems()
     {
         QFETCH(QString, folder);
-        putFile(asWindowsStoresThem(serialised(QStringLiteral("000,RU,") + folder)));
-        QCOMPARE(config::read().language, QStringLiteral("RU"));
-        QCOMPARE(config::read().alarmFolder, folder);
+        const QByteArray bytes = serialised(QStringLiteral("000,RU,") + folder);
+        for (const QByteArray& file : {bytes, asWindowsStoresThem(bytes)}) {
+            putFile(file);
+            QCOMPARE(config::read().language, QStringLiteral("RU"));
+            QCOMPARE(config::read().alarmFolder, folder);
+        }
+        putFile(serialised(QStringLiteral("000,RU,")));
+        config::replaceAlarmFolder(folder);
+        QCOMPARE(fileBytes(), asThisSystemStoresThem(bytes));
     }
 
     void aCarriageReturnByteDoesNotSurvive()
