@@ -85,12 +85,17 @@ void Analysis_Widget::prepareTables()
     tools->setSelectionMode(QAbstractItemView::SingleSelection);
     tools->setSelectionBehavior(QAbstractItemView::SelectRows);
     tools->setColumnWidth(0, 50);
-    tools->setColumnWidth(1, 88);
+    int kindWidth = 70;
+    for (const ToolKind kind :
+         {ToolKind::Point, ToolKind::Line, ToolKind::Rect, ToolKind::Circle}) {
+        const QString text = toolCells({{}, kind, {}, {}, {}})[1];
+        kindWidth = std::max(kindWidth, tools->fontMetrics().horizontalAdvance(text) + 12);
+    }
+    tools->setColumnWidth(1, kindWidth);
     tools->verticalHeader()->setDefaultSectionSize(tools->fontMetrics().height() + 8);
 }
 
-// --- reading a photograph
-// --------------------------------------------------------------------------
+// --- reading a photograph ----------------------------------------------------------------------
 
 bool Analysis_Widget::set_Image_addr(const QString& imagePath, int modelIndex)
 {
@@ -155,8 +160,7 @@ void Analysis_Widget::showGrayImage()
     m_mapped = false;
 }
 
-// --- showing it
-// ------------------------------------------------------------------------------------
+// --- showing it --------------------------------------------------------------------------------
 
 void Analysis_Widget::paintEvent(QPaintEvent* event)
 {
@@ -244,8 +248,7 @@ void Analysis_Widget::on_comboBox_currentIndexChanged(int index)
     showScale();
 }
 
-// --- tools
-// -----------------------------------------------------------------------------------------
+// --- tools -------------------------------------------------------------------------------------
 
 void Analysis_Widget::selectTool(int tool)
 {

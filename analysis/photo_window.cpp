@@ -45,8 +45,12 @@ enum Column
     SizeColumn
 };
 
+/// Without the second rule, the name of a selected photograph other than the current one would be
+/// white on white.
 const QString listSheet = QStringLiteral(
     "QListWidget::item{\nbackground-color: rgb(255, 255, 255);padding:0;border-radius: 8px;\n}"
+    "QListWidget::item::selected{\ncolor: rgb(255, 255, 255);background-color: rgb(91, 91, "
+    "91);border-radius: 8px;\n}"
     "QListWidget::item::hover{\nbackground-color: rgb(91, 91, 91);\ncolor: rgb(255, 255, "
     "255);padding:8;border-radius: 8px;\n}"
     "QListWidget::item::Focus{\ncolor: rgb(255, 255, 255);background-color:  rgb(50, 50, "
@@ -126,8 +130,7 @@ void photo_window::applyRussianTabs()
                        "QTabBar::tab:selected {background-color:#303030;}"));
 }
 
-// --- drives and folders
-// ----------------------------------------------------------------------------
+// --- drives and folders ------------------------------------------------------------------------
 
 QStringList photo_window::listDrives()
 {
@@ -206,8 +209,7 @@ void photo_window::on_pushButton_clicked()
     findImageFolder();
 }
 
-// --- photographs
-// -----------------------------------------------------------------------------------
+// --- photographs -------------------------------------------------------------------------------
 
 void photo_window::get_image_information()
 {
@@ -362,8 +364,7 @@ void photo_window::open(const QString& name)
     ui->verticalLayout_5->addWidget(analysis.release());
 }
 
-// --- thumbnails
-// ------------------------------------------------------------------------------------
+// --- thumbnails --------------------------------------------------------------------------------
 
 QPixmap photo_window::roundedThumbnail(const QPixmap& picture, const QSize& size, int radius)
 {

@@ -312,6 +312,22 @@ private slots:
         QVERIFY(photo_window::roundedThumbnail(QPixmap(), QSize(195, 195), 15).isNull());
     }
 
+    void selectedNamesAreLegible()
+    {
+        addPhotographs(addDrive(QStringLiteral("disk")), names(3));
+        openWindow();
+        list()->setCurrentRow(1);
+        list()->item(2)->setSelected(true);
+        const QImage shown = list()->viewport()->grab().toImage();
+        const auto ground = [&](int row) {
+            const QRect place = list()->visualItemRect(list()->item(row));
+            return shown.pixelColor(place.left() + 6, place.center().y());
+        };
+        QCOMPARE(ground(0), QColor(Qt::white));
+        QVERIFY(ground(1).lightness() < 128); // names of selected photographs are white
+        QVERIFY(ground(2).lightness() < 128);
+    }
+
     void memoryDoesNotGrowWithThePhotographs()
     {
         const QString root = addDrive(QStringLiteral("disk"));
