@@ -80,6 +80,7 @@ void inOrder(int count, int jobs, const std::function<Work()>& makeWork,
         return;
     Queue queue(count, jobs * aheadOfEach);
     std::vector<std::thread> threads;
+    threads.reserve(std::size_t(jobs));
     for (int i = 0; i < jobs; ++i) {
         threads.emplace_back([&queue, work = makeWork()] {
             while (const std::optional<int> index = queue.take())

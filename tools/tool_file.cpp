@@ -98,7 +98,7 @@ QString readKind(const QJsonObject& object, QLatin1String key, int count, QVecto
     const QJsonValue list = object.value(key);
     if (!list.isArray() && !list.isUndefined())
         return QStringLiteral("\"%1\" is not a list").arg(key);
-    for (const QJsonValue& value : list.toArray()) {
+    for (const QJsonValue value : list.toArray()) {
         const QString where = QStringLiteral("\"%1\", number %2 ").arg(key).arg(tools.size() + 1);
         Numbers numbers{};
         if (!readNumbers(value, count, numbers))
