@@ -6,12 +6,17 @@
 #include "simulator/tour/walk.h"
 
 #include <QComboBox>
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTableWidget>
+#include <QUrl>
 
 #include <algorithm>
+#include <cstdio>
 
 namespace tour {
 namespace {
@@ -140,6 +145,45 @@ bool narrowTheSpan(Walk& walk)
            walk.shoot(QStringLiteral("span"));
 }
 
+/// Takes the place of the desktop's viewer.
+class Viewer : public QObject
+{
+    Q_OBJECT
+
+public:
+    Viewer() { QDesktopServices::setUrlHandler(QStringLiteral("file"), this, "open"); }
+    ~Viewer() override { QDesktopServices::unsetUrlHandler(QStringLiteral("file")); }
+    QString opened;
+
+public slots:
+    void open(const QUrl& url) { opened = url.toLocalFile(); }
+};
+
+bool writeAReport(Walk& walk)
+{
+    const QString path = QFileInfo(walk.pathOf(QStringLiteral("report.pdf"))).absoluteFilePath();
+    const auto nameTheFile = [&](QDialog& dialog) {
+        auto& name = find<QLineEdit>(dialog, "fileNameEdit");
+        name.setText(path);
+        return walk.shoot(QStringLiteral("report-name")) && walk.press(&name, Qt::Key_Return);
+    };
+    const auto takeNotice = [&](QDialog& dialog) {
+        return walk.shoot(QStringLiteral("report-written")) &&
+               walk.click(dialog.findChild<QPushButton*>());
+    };
+    const Viewer viewer;
+    if (!walk.answerDialogs(
+            QStringLiteral("the report is named and its completion told"),
+            [&] { return walk.click(&find<QPushButton>(analysisOf(walk), "pushButton")); },
+            {nameTheFile, takeNotice}))
+        return false;
+    if (!walk.await(QStringLiteral("the report is there and opened"),
+                    [&] { return viewer.opened == path && QFileInfo(path).size() > 0; }))
+        return false;
+    std::puts(qPrintable(walk.pathOf(QStringLiteral("report.pdf"))));
+    return true;
+}
+
 bool changeBackToTheCamera(Walk& walk)
 {
     walk.imager().setDiskPlugged(false);
@@ -158,7 +202,10 @@ std::vector<Step> diskSteps()
             {"place a tool of each kind", placeTools},
             {"change the unit", changeTheUnit},
             {"narrow the colour bar's span", narrowTheSpan},
+            {"write a report", writeAReport},
             {"change back to the camera", changeBackToTheCamera}};
 }
 
 } // namespace tour
+
+#include "disk_steps.moc"

@@ -1,5 +1,6 @@
 #include "simulator/tour/walk.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QDir>
 #include <QGuiApplication>
@@ -10,6 +11,7 @@
 #include <QScreen>
 #include <QStyleOptionButton>
 #include <QTest>
+#include <QTimer>
 
 #include <cstdio>
 #include <utility>
@@ -126,6 +128,35 @@ bool Walk::chooseEntry(int menu, int entry)
     return await(QStringLiteral("the menu closes"), [opened] { return !opened->isVisible(); });
 }
 
+bool Walk::answerDialogs(const QString& what, const std::function<bool()>& open,
+                         const std::vector<std::function<bool(QDialog&)>>& answers)
+{
+    std::size_t answered = 0;
+    bool isAnswering = false;
+    bool isGood = true;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&] {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (isAnswering || dialog == nullptr || !dialog->isVisible())
+            return;
+        isAnswering = true;
+        isGood = isGood && answered < answers.size() && answers[answered](*dialog);
+        ++answered;
+        if (!isGood)
+            dialog->reject();
+        isAnswering = false;
+    });
+    timer.start(glance);
+    const bool isDone = open() && isGood && answered == answers.size();
+    m_lastWait = what;
+    return isDone;
+}
+
+QString Walk::pathOf(const QString& name) const
+{
+    return QStringLiteral("%1/%2-%3").arg(m_folder, m_language, name);
+}
+
 bool Walk::shoot(const QString& name)
 {
     QTest::qWait(glance);
@@ -135,10 +166,8 @@ bool Walk::shoot(const QString& name)
             shown |= widget->frameGeometry();
     QScreen* screen = QGuiApplication::primaryScreen();
     shown &= screen->geometry();
-    const QString path = QStringLiteral("%1/%2-%3-%4.png")
-                             .arg(m_folder, m_language)
-                             .arg(++m_pictures, 2, 10, QLatin1Char('0'))
-                             .arg(name);
+    const QString path =
+        pathOf(QStringLiteral("%1-%2.png").arg(++m_pictures, 2, 10, QLatin1Char('0')).arg(name));
     m_lastWait = QStringLiteral("%1 is written").arg(path);
     const QPixmap picture =
         screen->grabWindow(0, shown.x(), shown.y(), shown.width(), shown.height());

@@ -4,6 +4,7 @@
 #include "simulator/control_panel.h"
 #include "simulator/simulated_imager.h"
 
+#include <QDialog>
 #include <QString>
 
 #include <functional>
@@ -47,6 +48,14 @@ public:
     bool openMenu(int menu);
     /// Clicks on an entry of an open menu; it must be enabled.
     bool chooseEntry(int menu, int entry);
+
+    /// Does what opens modal dialogs and returns only when they are gone; answers them in turn as
+    /// they come up. False when an answer does not succeed or a dialog does not come.
+    bool answerDialogs(const QString& what, const std::function<bool()>& open,
+                       const std::vector<std::function<bool(QDialog&)>>& answers);
+
+    /// Where a file of this tour goes: "FOLDER/EN-NAME".
+    QString pathOf(const QString& name) const;
 
     /// Keeps a picture of all windows as they are on the screen, "EN-03-full-screen.png", and
     /// prints its path.
