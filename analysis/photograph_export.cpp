@@ -11,8 +11,6 @@
 #include <charconv>
 #include <cmath>
 #include <cstring>
-#include <new>
-#include <tiffio.h>
 
 namespace analysis {
 namespace {
@@ -94,6 +92,13 @@ QByteArray csvOf(const std::vector<float>& values, const ShownUnit& unit,
     return csv;
 }
 
+template<typename T>
+void appendNumber(QByteArray& bytes, T number)
+{
+    const T littleEndian = qToLittleEndian(number);
+    bytes.append(reinterpret_cast<const char*>(&littleEndian), int(sizeof littleEndian));
+}
+
 QByteArray npyOf(const std::vector<float>& values)
 {
     // Length field, description and its line end fill up to a multiple of 64 bytes.
@@ -104,79 +109,71 @@ QByteArray npyOf(const std::vector<float>& values)
     QByteArray description("{'descr': '<f4', 'fortran_order': False, 'shape': (320, 240), }");
     const auto length = quint16(headerSize - npy.size() - 2);
     description = description.leftJustified(length - 1, ' ') + '\n';
-    npy += char(length & 0xFF);
-    npy += char(length >> 8);
+    appendNumber(npy, length);
     npy += description;
     npy.resize(headerSize + grayBytes * int(sizeof(float)));
     qToLittleEndian<float>(values.data(), grayBytes, npy.data() + headerSize);
     return npy;
 }
 
-/// libtiff's window on a QBuffer.
-namespace memory {
+/// A baseline TIFF with everything in its plainest form: a header, the values as one strip, texts,
+/// one directory. All numbers are little-endian.
+QByteArray tiffOf(const std::vector<float>& values, const ShownUnit& unit,
+                  const Parameters& parameters)
+{
+    const QByteArray description =
+        "unit=" + unit.letter().toLatin1() +
+        " emissivity=" + QByteArray::number(parameters.emissivity100 / 100.0, 'f', 2) + '\0';
+    const QByteArray software("ThermaDesk\0", 11);
+    constexpr int strip = 8;
+    constexpr int stripBytes = grayBytes * int(sizeof(float));
+    constexpr int descriptionPlace = strip + stripBytes;
+    const int softwarePlace = descriptionPlace + description.size();
+    const int textsEnd = softwarePlace + software.size();
+    const int directory = textsEnd + textsEnd % 2; // begins at an even byte
 
-QBuffer& buffer(thandle_t handle)
-{
-    return *static_cast<QBuffer*>(handle);
-}
-tmsize_t read(thandle_t handle, void* bytes, tmsize_t size)
-{
-    return tmsize_t(buffer(handle).read(static_cast<char*>(bytes), size));
-}
-tmsize_t write(thandle_t handle, void* bytes, tmsize_t size)
-{
-    return tmsize_t(buffer(handle).write(static_cast<const char*>(bytes), size));
-}
-toff_t size(thandle_t handle)
-{
-    return toff_t(buffer(handle).size());
-}
-toff_t seek(thandle_t handle, toff_t offset, int from)
-{
-    const qint64 base = from == SEEK_CUR   ? buffer(handle).pos()
-                        : from == SEEK_END ? buffer(handle).size()
-                                           : 0;
-    buffer(handle).seek(base + qint64(offset));
-    return toff_t(buffer(handle).pos());
-}
-int close(thandle_t)
-{
-    return 0;
-}
-
-} // namespace memory
-
-QByteArray tiffOf(std::vector<float>& values, const ShownUnit& unit, const Parameters& parameters)
-{
-    QByteArray bytes;
-    bytes.reserve(grayBytes * int(sizeof(float)) + 4096);
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::ReadWrite);
-    struct Close
+    enum Type : quint16
     {
-        void operator()(TIFF* tiff) const { TIFFClose(tiff); }
+        Text = 2,
+        Short = 3,
+        Long = 4
     };
-    std::unique_ptr<TIFF, Close> tiff(TIFFClientOpen("temperatures", "wl", &buffer, memory::read,
-                                                     memory::write, memory::seek, memory::close,
-                                                     memory::size, nullptr, nullptr));
-    if (!tiff)
-        throw std::bad_alloc();
-    const QByteArray description = "unit=" + unit.letter().toLatin1() + " emissivity=" +
-                                   QByteArray::number(parameters.emissivity100 / 100.0, 'f', 2);
-    TIFFSetField(tiff.get(), TIFFTAG_IMAGEWIDTH, quint32(columns));
-    TIFFSetField(tiff.get(), TIFFTAG_IMAGELENGTH, quint32(rows));
-    TIFFSetField(tiff.get(), TIFFTAG_SAMPLESPERPIXEL, 1);
-    TIFFSetField(tiff.get(), TIFFTAG_BITSPERSAMPLE, 32);
-    TIFFSetField(tiff.get(), TIFFTAG_SAMPLEFORMAT, SAMPLEFORMAT_IEEEFP);
-    TIFFSetField(tiff.get(), TIFFTAG_PHOTOMETRIC, PHOTOMETRIC_MINISBLACK);
-    TIFFSetField(tiff.get(), TIFFTAG_COMPRESSION, COMPRESSION_NONE);
-    TIFFSetField(tiff.get(), TIFFTAG_PLANARCONFIG, PLANARCONFIG_CONTIG);
-    TIFFSetField(tiff.get(), TIFFTAG_ROWSPERSTRIP, quint32(rows));
-    TIFFSetField(tiff.get(), TIFFTAG_IMAGEDESCRIPTION, description.constData());
-    TIFFSetField(tiff.get(), TIFFTAG_SOFTWARE, "ThermaDesk");
-    TIFFWriteEncodedStrip(tiff.get(), 0, values.data(), tmsize_t(values.size() * sizeof(float)));
-    tiff.reset();
-    return bytes;
+    struct Entry
+    {
+        quint16 tag;
+        Type type;
+        int count;
+        int value; ///< or the place of a text
+    };
+    const Entry entries[]{{256, Long, 1, columns},
+                          {257, Long, 1, rows},
+                          {258, Short, 1, 32}, // bits a sample
+                          {259, Short, 1, 1},  // not compressed
+                          {262, Short, 1, 1},  // the least value is black
+                          {270, Text, description.size(), descriptionPlace},
+                          {273, Long, 1, strip},
+                          {277, Short, 1, 1},   // sample a pixel
+                          {278, Long, 1, rows}, // in the strip
+                          {279, Long, 1, stripBytes},
+                          {305, Text, software.size(), softwarePlace},
+                          {339, Short, 1, 3}}; // floating point
+
+    QByteArray tiff("II*\0", 4);
+    tiff.reserve(directory + 200);
+    appendNumber(tiff, quint32(directory));
+    tiff.resize(descriptionPlace);
+    qToLittleEndian<float>(values.data(), grayBytes, tiff.data() + strip);
+    tiff += description + software;
+    tiff.resize(directory);
+    appendNumber(tiff, quint16(std::size(entries)));
+    for (const Entry& entry : entries) {
+        appendNumber(tiff, entry.tag);
+        appendNumber(tiff, quint16(entry.type));
+        appendNumber(tiff, quint32(entry.count));
+        appendNumber(tiff, quint32(entry.value));
+    }
+    appendNumber(tiff, quint32(0)); // no further directory
+    return tiff;
 }
 
 QByteArray pngOf(const Photograph& photograph, int startValue, int endValue)
@@ -193,7 +190,7 @@ QByteArray exported(const PhotographReader& reader, const ExportOptions& options
         return pngOf(photograph, options.startValue, options.endValue);
 
     const ShownUnit unit = shownUnit(options.unit, photograph.parameters.unit, reader.isRaw());
-    std::vector<float> values = shownRows(photograph, unit.conversion);
+    const std::vector<float> values = shownRows(photograph, unit.conversion);
     if (options.format == ExportFormat::Npy)
         return npyOf(values);
     if (options.format == ExportFormat::Tiff)

@@ -17,6 +17,11 @@ fs::path native(const QString& path)
     return fs::u8path(path.toUtf8().constData());
 }
 
+QString textOf(const std::error_code& error)
+{
+    return QString::fromLocal8Bit(error.message().c_str());
+}
+
 /// A short name, whatever the length of the file's own, that no other thread or program uses.
 QString nameAside(const QString& path)
 {
@@ -63,6 +68,10 @@ std::error_code moveToFreeName(const fs::path& from, const fs::path& to)
 
 Outcome writeWholeFile(const QString& path, const QByteArray& bytes, bool overwrite)
 {
+    // Taking the name of a pipe or a device would remove it.
+    const QFileInfo target(path);
+    if (overwrite && target.exists() && !target.isFile())
+        return {Problem::CannotWrite, textOf(std::make_error_code(std::errc::file_exists))};
     QFile aside(nameAside(path));
     if (!aside.open(QIODevice::WriteOnly | QIODevice::NewOnly | QIODevice::Unbuffered))
         return {Problem::CannotWrite, aside.errorString()};
@@ -82,7 +91,7 @@ Outcome writeWholeFile(const QString& path, const QByteArray& bytes, bool overwr
     aside.remove();
     if (error == std::errc::file_exists)
         return {Problem::AlreadyThere, {}};
-    return {Problem::CannotWrite, QString::fromLocal8Bit(error.message().c_str())};
+    return {Problem::CannotWrite, textOf(error)};
 }
 
 } // namespace analysis

@@ -19,4 +19,8 @@ bool isInterrupted();
 /// Ends the program as the request that came would have ended it.
 [[noreturn]] void endAsInterrupted();
 
+/// The platform plugin for Qt programs that draw but show nothing. On Linux the one that needs no
+/// display; Windows always has one.
+const char* invisiblePlatform();
+
 } // namespace platform

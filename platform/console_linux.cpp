@@ -40,6 +40,11 @@ bool isInterrupted()
     return request != 0;
 }
 
+const char* invisiblePlatform()
+{
+    return "offscreen";
+}
+
 void endAsInterrupted()
 {
     std::signal(request, SIG_DFL);

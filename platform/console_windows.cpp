@@ -35,6 +35,11 @@ bool isInterrupted()
     return request != 0;
 }
 
+const char* invisiblePlatform()
+{
+    return "windows";
+}
+
 void endAsInterrupted()
 {
     constexpr int endedByControlC = static_cast<int>(0xC000013AU);

@@ -3,6 +3,7 @@
 #include "analysis/whole_file.h"
 #include "config/configuration_record.h"
 #include "overlay/my_label.h"
+#include "platform/console.h"
 #include "resources/resources.h"
 #include "tools/commands.h"
 #include "tools/measuring_options.h"
@@ -76,7 +77,7 @@ Outcome writeReport(const QString& target, const analysis::Report& report, bool 
 
 std::unique_ptr<QCoreApplication> drawingApplication(int& argc, char** argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QPA_PLATFORM", platform::invisiblePlatform());
     return std::make_unique<QApplication>(argc, argv);
 }
 

@@ -2,6 +2,8 @@
 #include "tests/support/test_run.h"
 #include "tests/tools/thermaphoto.h"
 
+#include <atomic>
+#include <sys/stat.h>
 #include <thread>
 
 using analysis::Outcome;
@@ -60,6 +62,16 @@ private slots:
         const QString path = folder.write("a", "mine");
         QVERIFY(writeWholeFile(path, "content", true).isGood());
         QCOMPARE(folder.read("a"), QByteArray("content"));
+        QCOMPARE(folder.files(), QStringList("a"));
+    }
+
+    void pipeStays()
+    {
+        const Folder folder;
+        const QString path = folder / "a";
+        QCOMPARE(mkfifo(path.toUtf8().constData(), 0600), 0);
+        QCOMPARE(writeWholeFile(path, "content", true).problem, Problem::CannotWrite);
+        QVERIFY(!QFileInfo(path).isFile());
         QCOMPARE(folder.files(), QStringList("a"));
     }
 
