@@ -95,8 +95,6 @@ void Analysis_Widget::prepareTables()
     tools->verticalHeader()->setDefaultSectionSize(tools->fontMetrics().height() + 8);
 }
 
-// --- reading a photograph ----------------------------------------------------------------------
-
 bool Analysis_Widget::set_Image_addr(const QString& imagePath, int modelIndex)
 {
     displayUnitState = 0;
@@ -159,8 +157,6 @@ void Analysis_Widget::showGrayImage()
     ui->label->setPixmap(fitted(grayImage, ui->label->size()));
     m_mapped = false;
 }
-
-// --- showing it --------------------------------------------------------------------------------
 
 void Analysis_Widget::paintEvent(QPaintEvent* event)
 {
@@ -247,8 +243,6 @@ void Analysis_Widget::on_comboBox_currentIndexChanged(int index)
     updat_Tool_Temp();
     showScale();
 }
-
-// --- tools -------------------------------------------------------------------------------------
 
 void Analysis_Widget::selectTool(int tool)
 {

@@ -198,8 +198,6 @@ void camer_window::setOwner(QObject* owner)
     connect(this, SIGNAL(dis()), owner, SLOT(Action_Disconnect()));
 }
 
-// ------------------------------------------------------------------ live picture
-
 void camer_window::display_cap(QImage cap_image) // NOLINT(performance-unnecessary-value-param)
 {
     if (!ui)
@@ -297,8 +295,6 @@ bool camer_window::eventFilter(QObject* watched, QEvent* event)
         ui->label_17->resize(ui->pictureArea->size());
     return QWidget::eventFilter(watched, event);
 }
-
-// ------------------------------------------------------------------ alarm
 
 void camer_window::updat_temp(float maxTem, float warn, float fsl)
 {
@@ -417,8 +413,6 @@ void camer_window::saveAlarmRecord()
     if (!name.isEmpty())
         refreshHistory();
 }
-
-// ------------------------------------------------------------------ history
 
 void camer_window::refreshHistory()
 {

@@ -56,8 +56,6 @@ QString photographFile(int variant)
     return path;
 }
 
-// --- opening -----------------------------------------------------------------------------------
-
 /// The analysis window and the size of its picture in the main window's usual size.
 class Opened
 {
@@ -123,8 +121,6 @@ void openingFloor(benchmark::State& state)
     }
 }
 
-// --- without a window --------------------------------------------------------------------------
-
 void readAndMeasured(benchmark::State& state)
 {
     const QString files[] = {photographFile(0), photographFile(1)};
@@ -142,8 +138,6 @@ void readAndMeasured(benchmark::State& state)
     }
     state.SetItemsProcessed(state.iterations());
 }
-
-// --- tools -------------------------------------------------------------------------------------
 
 /// 25 tools of each kind, anywhere and of any size, or as large as the picture.
 void placeTools(MyLabel& label, bool largest)
@@ -191,8 +185,6 @@ void toolTable(benchmark::State& state)
     for (auto _ : state)
         window.updat_Tool_Temp();
 }
-
-// --- listing -----------------------------------------------------------------------------------
 
 /// A disk of so many photographs: hard links to a hundred files, so that their content fits.
 QString diskOf(int photographs)

@@ -241,8 +241,6 @@ private slots:
         QCOMPARE(Analysis_Widget().configurationField, QStringLiteral("RU"));
     }
 
-    // --- loading -------------------------------------------------------------------------------
-
     void aPhotographFillsTheInformationTable()
     {
         Shot shot;
@@ -384,8 +382,6 @@ private slots:
         QCOMPARE(information(0), name);
     }
 
-    // --- units ---------------------------------------------------------------------------------
-
     void thereAndBackShowsTheSameValues()
     {
         QVERIFY(load(flat(255, 250)));
@@ -491,8 +487,6 @@ private slots:
         QVERIFY(changed > log.messages().indexOf(QStringLiteral("单位: 1")));
         QVERIFY(changed < log.messages().indexOf(QStringLiteral("Max温度: 900")));
     }
-
-    // --- read-out and tool table -----------------------------------------------------------------
 
     void theReadOutFollowsTheCursor()
     {
@@ -612,8 +606,6 @@ private slots:
         emit table.itemEntered(table.item(1, 1));
         QTRY_VERIFY(!QToolTip::isVisible());
     }
-
-    // --- tool buttons ------------------------------------------------------------------------
 
     void toolButtons_data()
     {
@@ -743,8 +735,6 @@ private slots:
         click("pushButton_4");
         QVERIFY(!window);
     }
-
-    // --- the picture -------------------------------------------------------------------------
 
     void theGrayPictureIsSetWhenLoaded()
     {

@@ -468,8 +468,6 @@ private slots:
         QVERIFY(analysis::nearestTemperature(t, 239, -100000) == 20.0F);
     }
 
-    // --- files -------------------------------------------------------------------------------
-
     void aNewBufferIsZero()
     {
         const FileBuffer buffer;
@@ -546,8 +544,6 @@ private slots:
         FileBuffer buffer;
         QCOMPARE(buffer.read(file(name, "abc")), 3);
     }
-
-    // --- damaged photographs -----------------------------------------------------------------
 
     void cutPhotographs_data()
     {

@@ -65,8 +65,6 @@ CircleTool circle(int cx, int cy, int radius)
     return tool;
 }
 
-// --- the rules as they read, pixel by pixel ----------------------------------------------------
-
 bool covers(const LineTool& t, int x, int y)
 {
     if (t.x1 == t.x2 && t.y1 == t.y2)
