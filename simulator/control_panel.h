@@ -23,8 +23,9 @@ public:
     explicit ControlPanel(SimulatedImager& imager, QWidget* parent = nullptr);
     ~ControlPanel() override;
 
-    /// Shows a window in the middle of its screen and the panel to its right; a window that leaves no
-    /// room becomes smaller. Where even that is not enough, the panel stands over its right edge.
+    /// Shows a window in the middle of its screen and the panel to its right; a window that leaves
+    /// no room becomes smaller. Where even that is not enough, the panel stands over its right
+    /// edge.
     void showBeside(QWidget& window);
 
 private:
