@@ -107,6 +107,7 @@ private slots:
     void everyKind_data();
     void everyKind();
     void noTools();
+    void separatorsInNames_data();
     void separatorsInNames();
     void otherPhotographsGoOn();
     void wrongTools_data();
@@ -249,18 +250,30 @@ void MeasureTest::noTools()
              QByteArray("file,unit,name,type,high,low,average\n"));
 }
 
+void MeasureTest::separatorsInNames_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("field");
+    QTest::newRow("blank") << "a b.bmp" << QByteArray("a b.bmp");
+    QTest::newRow("comma") << "a,b.bmp" << QByteArray(R"("a,b.bmp")");
+    QTest::newRow("quote") << "a\"b.bmp" << QByteArray(R"("a""b.bmp")");
+    QTest::newRow("line end") << "a\nb.bmp" << QByteArray("\"a\nb.bmp\"");
+}
+
 /// A spreadsheet finds the name again whatever is in it.
 void MeasureTest::separatorsInNames()
 {
+    QFETCH(QString, name);
+    QFETCH(QByteArray, field);
     const Folder folder;
-    folder.write(QStringLiteral("a, \"b\".bmp"), acrossBytes());
+    folder.write(name, acrossBytes());
     folder.write(QStringLiteral("tools.json"), R"({"points": [[100, 50]]})");
-    const Ended ended = thermaphoto({measure, QStringLiteral("--tools"),
-                                     QStringLiteral("tools.json"), QStringLiteral("--format"),
-                                     QStringLiteral("csv"), QStringLiteral("a, \"b\".bmp")},
-                                    folder.path());
-    QCOMPARE(ended.output.split('\n').value(1),
-             QByteArray(R"("a, ""b"".bmp",C,P0,point,30.0,30.0,30.0)"));
+    const Ended ended =
+        thermaphoto({measure, QStringLiteral("--tools"), QStringLiteral("tools.json"),
+                     QStringLiteral("--format"), QStringLiteral("csv"), name},
+                    folder.path());
+    QCOMPARE(ended.output,
+             "file,unit,name,type,high,low,average\n" + field + ",C,P0,point,30.0,30.0,30.0\n");
 }
 
 void MeasureTest::otherPhotographsGoOn()

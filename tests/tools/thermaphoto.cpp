@@ -38,6 +38,8 @@ QProcessEnvironment bareEnvironment()
     for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "LANG"})
         environment.remove(QLatin1String(variable));
     environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
+    environment.insert(QStringLiteral("LSAN_OPTIONS"),
+                       QStringLiteral("print_suppressions=0:suppressions=" QT_LEAKS));
     environment.insert(QStringLiteral("thermaphoto"), QStringLiteral(THERMAPHOTO));
     return environment;
 }
