@@ -213,8 +213,8 @@ void ExportTest::units()
     const Exported npy(photographBytes(shot), QStringLiteral("npy"), {option("unit", unit)});
     const std::vector<float> values = floatsAt(npy.file, npyHeader);
     for (const auto& [x, y] : {std::pair{0, 0}, {239, 0}, {17, 200}, {239, 319}}) {
-        const float temperature =
-            raw ? float((4700 + 4 * y / 5 + 4 * x / 5) * 0.0625 - 273.15) : stored(grayAt(x, y));
+        const int sixteenths = 4700 + 4 * y / 5 + 4 * x / 5;
+        const float temperature = raw ? float(sixteenths * 0.0625 - 273.15) : stored(grayAt(x, y));
         const float expected = 10.0F * temperature / scale + offset;
         QVERIFY(values[std::size_t(y * columns + x)] == expected);
     }

@@ -26,7 +26,7 @@ QByteArray photograph()
 QStringList filesOf(const Ended& ended)
 {
     QStringList files;
-    for (const QJsonValue& value : ended.json())
+    for (const QJsonValue value : ended.json())
         files.append(value[QStringLiteral("file")].toString());
     return files;
 }
@@ -437,7 +437,7 @@ void RunTest::interrupted()
     QVERIFY(process.waitForFinished());
     QCOMPARE(process.exitStatus(), QProcess::CrashExit);
     QCOMPARE(process.exitCode(), signal);
-    QVERIFY(process.readAllStandardError().contains("interrupted after 2 of "));
+    QVERIFY(process.readAllStandardError().contains("interrupted after "));
     QCOMPARE(folder.files().filter(QStringLiteral("out/")), QStringList("out/1.png"));
     QVERIFY(folder.read(QStringLiteral("out/1.png")).endsWith("IEND\xAE\x42\x60\x82"));
 }

@@ -90,8 +90,10 @@ private slots:
         const Folder folder;
         const QString path = folder / "a";
         std::atomic<int> winners{0};
+        constexpr int many = 8;
         std::vector<std::thread> threads;
-        for (int i = 0; i < 8; ++i)
+        threads.reserve(many);
+        for (int i = 0; i < many; ++i)
             threads.emplace_back([&winners, path, i] {
                 const QByteArray bytes(100000, char('a' + i));
                 if (writeWholeFile(path, bytes, false).isGood())
