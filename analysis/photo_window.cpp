@@ -1,12 +1,14 @@
 #include "analysis/photo_window.h"
 
 #include "analysis/analysis_widget.h"
+#include "analysis/browser_menu.h"
 #include "analysis/information.h"
 #include "config/configuration_record.h"
 #include "platform/removable_drives.h"
 
 #include "ui_photo_window.h"
 
+#include <QContextMenuEvent>
 #include <QDateTime>
 #include <QDebug>
 #include <QDir>
@@ -20,6 +22,8 @@
 #include <QShortcut>
 #include <QTabBar>
 #include <QTableWidget>
+
+#include <algorithm>
 
 namespace {
 
@@ -240,6 +244,8 @@ void photo_window::showView(QAbstractItemView* view, int pictureColumn)
     m_view = view;
     m_pictureColumn = pictureColumn;
     ui->verticalLayout_4->addWidget(view);
+    connect(view, &QWidget::customContextMenuRequested, this, &photo_window::showMenu);
+    view->installEventFilter(this);
     view->setAccessibleName(ui->tabWidget->tabText(0));
 }
 
@@ -288,6 +294,8 @@ void photo_window::on_pushButton_4_clicked()
 void photo_window::on_pushButton_3_clicked()
 {
     auto* table = new QTableWidget(fileNames.size(), 5, this);
+    table->setContextMenuPolicy(Qt::CustomContextMenu);
+    table->setSelectionMode(QAbstractItemView::ExtendedSelection);
     table->setHorizontalHeaderLabels({tr("编号"), tr("图像"), tr("名称"), tr("时间"), tr("大小")});
     table->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     table->horizontalHeader()->setStretchLastSection(true);
@@ -362,6 +370,39 @@ void photo_window::open(const QString& name)
         delete previous;
     }
     ui->verticalLayout_5->addWidget(analysis.release());
+}
+
+// --- the context menu --------------------------------------------------------------------------
+
+QStringList photo_window::chosenNames() const
+{
+    QModelIndexList chosen = m_view->selectionModel()->selectedRows();
+    std::sort(chosen.begin(), chosen.end());
+    QStringList names;
+    for (const QModelIndex& index : chosen)
+        names.append(fileNames.at(index.row()));
+    return names;
+}
+
+/// `place` is in the coordinates of the view's contents. The menu is not waited for, so this window
+/// can go while it is open.
+void photo_window::showMenu(const QPoint& place)
+{
+    auto* menu = new BrowserMenu(imageFolder, chosenNames(), modelIndex, this);
+    connect(menu, &BrowserMenu::openRequested, this, &photo_window::open);
+    menu->popup(m_view->viewport()->mapToGlobal(place));
+}
+
+/// The menu key opens the menu on the current photograph, not in the middle of the view.
+bool photo_window::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched != m_view || event->type() != QEvent::ContextMenu ||
+        static_cast<QContextMenuEvent*>(event)->reason() != QContextMenuEvent::Keyboard)
+        return QWidget::eventFilter(watched, event);
+    const QRect content = m_view->viewport()->rect();
+    const QRect current = m_view->visualRect(m_view->currentIndex()) & content;
+    showMenu((current.isEmpty() ? content : current).center());
+    return true;
 }
 
 // --- thumbnails --------------------------------------------------------------------------------

@@ -63,6 +63,8 @@ public:
     /// until the picture has been read, which this asks for.
     QIcon shownThumbnail(int index);
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 public slots:
     void on_pushButton_3_clicked();
     void on_pushButton_4_clicked();
@@ -75,6 +77,8 @@ private:
     void applyRussianTabs();
     void showView(QAbstractItemView* view, int pictureColumn);
     void open(const QString& name);
+    QStringList chosenNames() const;
+    void showMenu(const QPoint& place);
     void readRequested();
     void readThumbnail(int index);
     bool isInView(int index) const;

@@ -215,6 +215,14 @@ QString suffixOf(ExportFormat format)
     return {};
 }
 
+QString exportName(const QString& photograph, const QString& suffix)
+{
+    QString name = QFileInfo(photograph).fileName();
+    if (name.endsWith(QLatin1String(".bmp"), Qt::CaseInsensitive))
+        name.chop(4);
+    return name + QLatin1Char('.') + suffix;
+}
+
 std::vector<float> shownRows(const Photograph& photograph, Conversion conversion)
 {
     // Stored column by column. Turning bands of rows keeps what is written to in the cache.

@@ -20,6 +20,10 @@ enum class ExportFormat
 /// "csv", "tiff", "npy" or "png": also what the files' names end in.
 QString suffixOf(ExportFormat format);
 
+/// What the file made of a photograph is called: the photograph's name, without its ".bmp", with
+/// another suffix.
+QString exportName(const QString& photograph, const QString& suffix);
+
 struct ExportOptions
 {
     ExportFormat format = ExportFormat::Csv;

@@ -1,5 +1,6 @@
 #include "tools/target_files.h"
 
+#include "analysis/photograph_export.h"
 #include "tools/command_line.h"
 #include "tools/messages.h"
 
@@ -13,14 +14,6 @@ using analysis::Problem;
 
 namespace tools {
 namespace {
-
-QString fileName(const QString& photograph, const QString& suffix)
-{
-    QString name = QFileInfo(photograph).fileName();
-    if (name.endsWith(QLatin1String(".bmp"), Qt::CaseInsensitive))
-        name.chop(4);
-    return name + QLatin1Char('.') + suffix;
-}
 
 /// Photographs that have the suffix of what is written: the only ones in danger.
 QSet<QString> photographsWithSuffix(const std::vector<Entry>& entries, const QString& suffix)
@@ -60,7 +53,7 @@ std::optional<QStringList> prepareTargets(const CommandLine& line, const QString
     for (Entry& entry : entries) {
         const QDir folder(entry.subfolder.isEmpty() ? output
                                                     : output + QLatin1Char('/') + entry.subfolder);
-        const QString target = folder.filePath(fileName(entry.path, suffix));
+        const QString target = folder.filePath(analysis::exportName(entry.path, suffix));
         targets.append(target);
         if (!entry.failure.isEmpty())
             continue;
