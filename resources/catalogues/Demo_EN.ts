@@ -153,6 +153,49 @@
     </message>
 </context>
 <context>
+    <name>BrowserMenu</name>
+    <message>
+        <source>打开</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>导出温度 (CSV)...</source>
+        <translation>Export temperatures (CSV)...</translation>
+    </message>
+    <message>
+        <source>导出温度 (TIFF)...</source>
+        <translation>Export temperatures (TIFF)...</translation>
+    </message>
+    <message>
+        <source>导出图片 (PNG)...</source>
+        <translation>Export pictures (PNG)...</translation>
+    </message>
+    <message>
+        <source>导出报告 (PDF)...</source>
+        <translation>Export reports (PDF)...</translation>
+    </message>
+    <message>
+        <source>复制到文件夹...</source>
+        <translation>Copy to a folder...</translation>
+    </message>
+    <message>
+        <source>在文件管理器中显示</source>
+        <translation>Show in the file manager</translation>
+    </message>
+    <message>
+        <source>选择一个目录</source>
+        <translation>Select a folder</translation>
+    </message>
+    <message>
+        <source>警告</source>
+        <translation>Warning</translation>
+    </message>
+    <message>
+        <source>无法打开文件夹“%1”。</source>
+        <translation>The folder “%1” cannot be opened.</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Therma Desk</source>
@@ -215,6 +258,77 @@
     <message>
         <source>色标</source>
         <translation>Colour bar</translation>
+    </message>
+</context>
+<context>
+    <name>SelectionJob</name>
+    <message>
+        <source>正在写入文件</source>
+        <translation>Writing files</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>Notice</translation>
+    </message>
+    <message numerus="yes">
+        <source>已在文件夹“%1”中写入 %n 个文件。</source>
+        <translation>
+            <numerusform>%n file was written to the folder “%1”.</numerusform>
+            <numerusform>%n files were written to the folder “%1”.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>没有写入任何文件。</source>
+        <translation>No file was written.</translation>
+    </message>
+    <message numerus="yes">
+        <source>操作已取消，还有 %n 张照片未处理。</source>
+        <translation>
+            <numerusform>Cancelled; %n photograph was left out.</numerusform>
+            <numerusform>Cancelled; %n photographs were left out.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 张照片未能处理：</source>
+        <translation>
+            <numerusform>%n photograph failed:</numerusform>
+            <numerusform>%n photographs failed:</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>另有 %n 张，见详细信息。</source>
+        <translation>
+            <numerusform>and %n more, see the details.</numerusform>
+            <numerusform>and %n more, see the details.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>无法读取（%1）</source>
+        <translation>cannot be read (%1)</translation>
+    </message>
+    <message>
+        <source>文件不完整（%1 字节）</source>
+        <translation>the file is incomplete (%1 bytes)</translation>
+    </message>
+    <message>
+        <source>不是受支持设备的照片（机器ID %1）</source>
+        <translation>not a photograph of a supported imager (machine ID %1)</translation>
+    </message>
+    <message>
+        <source>目标文件夹中已有同名文件</source>
+        <translation>a file of this name is already in the folder</translation>
+    </message>
+    <message>
+        <source>无法写入（%1）</source>
+        <translation>cannot be written (%1)</translation>
+    </message>
+    <message>
+        <source>%1：%2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>

@@ -153,6 +153,49 @@
     </message>
 </context>
 <context>
+    <name>BrowserMenu</name>
+    <message>
+        <source>打开</source>
+        <translation>열기</translation>
+    </message>
+    <message>
+        <source>导出温度 (CSV)...</source>
+        <translation>온도 내보내기 (CSV)...</translation>
+    </message>
+    <message>
+        <source>导出温度 (TIFF)...</source>
+        <translation>온도 내보내기 (TIFF)...</translation>
+    </message>
+    <message>
+        <source>导出图片 (PNG)...</source>
+        <translation>이미지 내보내기 (PNG)...</translation>
+    </message>
+    <message>
+        <source>导出报告 (PDF)...</source>
+        <translation>보고서 내보내기 (PDF)...</translation>
+    </message>
+    <message>
+        <source>复制到文件夹...</source>
+        <translation>폴더에 복사...</translation>
+    </message>
+    <message>
+        <source>在文件管理器中显示</source>
+        <translation>파일 관리자에서 보기</translation>
+    </message>
+    <message>
+        <source>选择一个目录</source>
+        <translation>폴더 선택</translation>
+    </message>
+    <message>
+        <source>警告</source>
+        <translation>경고</translation>
+    </message>
+    <message>
+        <source>无法打开文件夹“%1”。</source>
+        <translation>폴더 “%1”을(를) 열 수 없습니다.</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Therma Desk</source>
@@ -215,6 +258,73 @@
     <message>
         <source>色标</source>
         <translation>색상 막대</translation>
+    </message>
+</context>
+<context>
+    <name>SelectionJob</name>
+    <message>
+        <source>正在写入文件</source>
+        <translation>파일 쓰는 중</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>알림</translation>
+    </message>
+    <message numerus="yes">
+        <source>已在文件夹“%1”中写入 %n 个文件。</source>
+        <translation>
+            <numerusform>폴더 “%1”에 파일 %n개를 썼습니다.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>没有写入任何文件。</source>
+        <translation>파일을 하나도 쓰지 않았습니다.</translation>
+    </message>
+    <message numerus="yes">
+        <source>操作已取消，还有 %n 张照片未处理。</source>
+        <translation>
+            <numerusform>취소되었습니다. 사진 %n장이 처리되지 않았습니다.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 张照片未能处理：</source>
+        <translation>
+            <numerusform>사진 %n장을 처리하지 못했습니다:</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>另有 %n 张，见详细信息。</source>
+        <translation>
+            <numerusform>그 밖에 %n장이 있습니다. 자세한 내용을 참조하십시오.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>无法读取（%1）</source>
+        <translation>읽을 수 없음(%1)</translation>
+    </message>
+    <message>
+        <source>文件不完整（%1 字节）</source>
+        <translation>파일이 불완전함(%1바이트)</translation>
+    </message>
+    <message>
+        <source>不是受支持设备的照片（机器ID %1）</source>
+        <translation>지원되지 않는 장비의 사진(기기 ID %1)</translation>
+    </message>
+    <message>
+        <source>目标文件夹中已有同名文件</source>
+        <translation>폴더에 같은 이름의 파일이 이미 있음</translation>
+    </message>
+    <message>
+        <source>无法写入（%1）</source>
+        <translation>쓸 수 없음(%1)</translation>
+    </message>
+    <message>
+        <source>%1：%2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>

@@ -153,6 +153,49 @@
     </message>
 </context>
 <context>
+    <name>BrowserMenu</name>
+    <message>
+        <source>打开</source>
+        <translation>Открыть</translation>
+    </message>
+    <message>
+        <source>导出温度 (CSV)...</source>
+        <translation>Экспорт температур (CSV)...</translation>
+    </message>
+    <message>
+        <source>导出温度 (TIFF)...</source>
+        <translation>Экспорт температур (TIFF)...</translation>
+    </message>
+    <message>
+        <source>导出图片 (PNG)...</source>
+        <translation>Экспорт изображений (PNG)...</translation>
+    </message>
+    <message>
+        <source>导出报告 (PDF)...</source>
+        <translation>Экспорт отчётов (PDF)...</translation>
+    </message>
+    <message>
+        <source>复制到文件夹...</source>
+        <translation>Копировать в папку...</translation>
+    </message>
+    <message>
+        <source>在文件管理器中显示</source>
+        <translation>Показать в файловом менеджере</translation>
+    </message>
+    <message>
+        <source>选择一个目录</source>
+        <translation>Выберите папку</translation>
+    </message>
+    <message>
+        <source>警告</source>
+        <translation>Предупреждение</translation>
+    </message>
+    <message>
+        <source>无法打开文件夹“%1”。</source>
+        <translation>Не удалось открыть папку «%1».</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Therma Desk</source>
@@ -215,6 +258,81 @@
     <message>
         <source>色标</source>
         <translation>Цветовая шкала</translation>
+    </message>
+</context>
+<context>
+    <name>SelectionJob</name>
+    <message>
+        <source>正在写入文件</source>
+        <translation>Запись файлов</translation>
+    </message>
+    <message>
+        <source>取消</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>提示</source>
+        <translation>Уведомление</translation>
+    </message>
+    <message numerus="yes">
+        <source>已在文件夹“%1”中写入 %n 个文件。</source>
+        <translation>
+            <numerusform>В папку «%1» записан %n файл.</numerusform>
+            <numerusform>В папку «%1» записано %n файла.</numerusform>
+            <numerusform>В папку «%1» записано %n файлов.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>没有写入任何文件。</source>
+        <translation>Ни одного файла не записано.</translation>
+    </message>
+    <message numerus="yes">
+        <source>操作已取消，还有 %n 张照片未处理。</source>
+        <translation>
+            <numerusform>Отменено. Не обработан %n снимок.</numerusform>
+            <numerusform>Отменено. Не обработано %n снимка.</numerusform>
+            <numerusform>Отменено. Не обработано %n снимков.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n 张照片未能处理：</source>
+        <translation>
+            <numerusform>Не удалось обработать %n снимок:</numerusform>
+            <numerusform>Не удалось обработать %n снимка:</numerusform>
+            <numerusform>Не удалось обработать %n снимков:</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>另有 %n 张，见详细信息。</source>
+        <translation>
+            <numerusform>и ещё %n снимок, см. подробности.</numerusform>
+            <numerusform>и ещё %n снимка, см. подробности.</numerusform>
+            <numerusform>и ещё %n снимков, см. подробности.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>无法读取（%1）</source>
+        <translation>не удалось прочитать (%1)</translation>
+    </message>
+    <message>
+        <source>文件不完整（%1 字节）</source>
+        <translation>файл неполный (байт: %1)</translation>
+    </message>
+    <message>
+        <source>不是受支持设备的照片（机器ID %1）</source>
+        <translation>снимок неподдерживаемого прибора (ID прибора %1)</translation>
+    </message>
+    <message>
+        <source>目标文件夹中已有同名文件</source>
+        <translation>в папке уже есть файл с таким именем</translation>
+    </message>
+    <message>
+        <source>无法写入（%1）</source>
+        <translation>не удалось записать (%1)</translation>
+    </message>
+    <message>
+        <source>%1：%2</source>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
