@@ -51,6 +51,7 @@ SelectionJob::SelectionJob(const analysis::SelectionOrder& order, QWidget* windo
     setMinimumDuration(patience);
     showNextName();
     connect(this, &QProgressDialog::canceled, this, &SelectionJob::finish);
+    connect(this, &QDialog::rejected, this, &SelectionJob::finish);
     connect(&m_steps, &QTimer::timeout, this, &SelectionJob::step);
     m_steps.start(0);
 }
@@ -74,6 +75,8 @@ void SelectionJob::showNextName()
 
 void SelectionJob::finish()
 {
+    if (!m_steps.isActive())
+        return; // closing the dialog both cancels and rejects
     m_steps.stop();
     hide();
     deleteLater();
