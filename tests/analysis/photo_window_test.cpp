@@ -208,7 +208,7 @@ private slots:
         const QString root = addDrive(QStringLiteral("disk"));
         const QString folder = root + QStringLiteral("DCIM_100/");
         addPhotographs(root, {QStringLiteral("b.bmp"), QStringLiteral("a.bmp"),
-                              QStringLiteral("B.BMP"), QStringLiteral("10.bmp")});
+                              QStringLiteral("C.BMP"), QStringLiteral("10.bmp")});
         for (const char* other : {"a.jpg", "bmp", "a.bmp.txt", "a.bmpx"})
             write(folder + QLatin1String(other), "x");
         QVERIFY(QDir().mkpath(folder + QStringLiteral("folder.bmp")));
@@ -216,7 +216,7 @@ private slots:
         openWindow();
         QCOMPARE(window->imageFolder, root + QStringLiteral("DCIM_100"));
         QCOMPARE(window->modelIndex, 0);
-        const QStringList expected{QStringLiteral("10.bmp"), QStringLiteral("B.BMP"),
+        const QStringList expected{QStringLiteral("10.bmp"), QStringLiteral("C.BMP"),
                                    QStringLiteral("a.bmp"), QStringLiteral("b.bmp")};
         QCOMPARE(window->fileNames, expected);
         QCOMPARE(shownNames(), expected);
@@ -238,7 +238,8 @@ private slots:
     {
         QTest::addColumn<QString>("folder");
         QTest::newRow("none") << QString();
-        QTest::newRow("another case") << QStringLiteral("dcim_100");
+        if (!testing::onWindows()) // where names differ in more than case
+            QTest::newRow("another case") << QStringLiteral("dcim_100");
         QTest::newRow("longer") << QStringLiteral("DCIM_1000");
         QTest::newRow("the other model's") << QStringLiteral("Images");
     }
@@ -333,9 +334,12 @@ private slots:
         const QString root = addDrive(QStringLiteral("disk"));
         addPhotographs(root, {QStringLiteral("0.bmp")});
         const QString folder = root + QStringLiteral("DCIM_100/");
+        const auto multiply = testing::onWindows()
+                                  ? qOverload<const QString&, const QString&>(&QFile::copy)
+                                  : qOverload<const QString&, const QString&>(&QFile::link);
         for (int i = 1; i < 700; ++i)
-            QVERIFY(QFile::link(folder + QStringLiteral("0.bmp"),
-                                folder + QStringLiteral("%1.bmp").arg(i)));
+            QVERIFY(multiply(folder + QStringLiteral("0.bmp"),
+                             folder + QStringLiteral("%1.bmp").arg(i)));
         openWindow();
         QCOMPARE(window->thumbnails.size(), 700);
         for (int i = 0; i < 700; i += 8) {
@@ -745,8 +749,10 @@ private slots:
     {
         QTest::addColumn<QString>("name");
         for (const char* name : {"热像.bmp", "Снимок №1.bmp", "사진.bmp", "a#b.bmp", "100%.bmp",
-                                 "%41.bmp", " blanks .bmp", "a&b.bmp", "?.bmp"})
+                                 "%41.bmp", " blanks .bmp", "a&b.bmp"})
             QTest::newRow(name) << QString::fromUtf8(name);
+        if (!testing::onWindows()) // where no name may hold it
+            QTest::newRow("?.bmp") << QStringLiteral("?.bmp");
     }
     void unusualNames()
     {

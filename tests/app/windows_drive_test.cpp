@@ -66,15 +66,24 @@ private slots:
         QCOMPARE(platform::removableDrives(), QStringList());
     }
 
-    void theMainWindowNoticesTheDisk()
+    void fromTheDiskToTheReport()
     {
         MainWindow window;
         window.show();
         const auto* status = window.findChild<QLabel*>(QStringLiteral("label"));
-        QTRY_COMPARE(window.deviceState(), -1);
+        QCOMPARE(status->text(), QStringLiteral("正在等待连接..."));
         QVERIFY(m_drive.plug(makeDisk()));
         QTRY_COMPARE(status->text(), QStringLiteral("U盘模式"));
-        QCOMPARE(window.browser()->imageFolder, QStringLiteral("F:/DCIM_100"));
+        const photo_window& browser = *window.browser();
+        QCOMPARE(browser.imageFolder, QStringLiteral("F:/DCIM_100"));
+        QCOMPARE(browser.fileNames, QStringList(QStringLiteral("Снимок 热像.bmp")));
+
+        auto* list = browser.findChild<QListWidget*>(QStringLiteral("photographs"));
+        QVERIFY(list);
+        emit list->itemDoubleClicked(list->item(0));
+        auto* analysis = browser.findChild<Analysis_Widget*>();
+        QVERIFY(analysis);
+        QCOMPARE(analysis->path, QStringLiteral("F:/DCIM_100/Снимок 热像.bmp"));
     }
 };
 

@@ -29,7 +29,7 @@ QByteArray asWindowsStoresThem(QByteArray bytes)
 /// The bytes as text mode stores them here.
 QByteArray asThisSystemStoresThem(const QByteArray& bytes)
 {
-    return QSysInfo::kernelType() == QLatin1String("winnt") ? asWindowsStoresThem(bytes) : bytes;
+    return testing::onWindows() ? asWindowsStoresThem(bytes) : bytes;
 }
 
 void putFile(const QByteArray& bytes)

@@ -24,6 +24,12 @@ private:
     QTemporaryDir m_home;
 };
 
+/// True on Windows: where some file names, and links, do not exist.
+inline bool onWindows()
+{
+    return QSysInfo::kernelType() == QLatin1String("winnt");
+}
+
 /// The profile of this test program.
 Profile& profile();
 
