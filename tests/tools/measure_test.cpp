@@ -256,6 +256,8 @@ void MeasureTest::separatorsInNames_data()
     QTest::addColumn<QByteArray>("field");
     QTest::newRow("blank") << "a b.bmp" << QByteArray("a b.bmp");
     QTest::newRow("comma") << "a,b.bmp" << QByteArray(R"("a,b.bmp")");
+    if (testing::onWindows()) // where no name may hold these
+        return;
     QTest::newRow("quote") << "a\"b.bmp" << QByteArray(R"("a""b.bmp")");
     QTest::newRow("line end") << "a\nb.bmp" << QByteArray("\"a\nb.bmp\"");
 }

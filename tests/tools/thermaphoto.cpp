@@ -6,6 +6,12 @@
 namespace testing {
 namespace {
 
+/// Text, whatever ends its lines here.
+QByteArray text(QByteArray bytes)
+{
+    return bytes.replace("\r\n", "\n");
+}
+
 Ended ended(QProcess& process)
 {
     constexpr int patience = 120000; // ms; only a hanging program takes it
@@ -14,8 +20,8 @@ Ended ended(QProcess& process)
         process.waitForFinished();
     }
     const bool isNormal = process.exitStatus() == QProcess::NormalExit;
-    return {isNormal ? process.exitCode() : -1, process.readAllStandardOutput(),
-            process.readAllStandardError()};
+    return {isNormal ? process.exitCode() : -1, text(process.readAllStandardOutput()),
+            text(process.readAllStandardError())};
 }
 
 } // namespace
