@@ -9,6 +9,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QResource>
+#include <QSet>
 #include <QTranslator>
 #include <QXmlStreamReader>
 
@@ -282,19 +283,40 @@ void EmbeddedResourcesTest::catalogueHoldsWhatItsSourceSays()
     QXmlStreamReader source(xml);
     QByteArray context;
     QByteArray text;
+    QByteArray comment;
+    bool isPlural = false;
     int checked = 0;
     while (!source.atEnd()) {
         source.readNext();
         if (!source.isStartElement())
             continue;
-        if (source.name() == QLatin1String("name")) {
+        if (source.name() == QLatin1String("message")) {
+            isPlural = source.attributes().value(QLatin1String("numerus")) == QLatin1String("yes");
+        } else if (source.name() == QLatin1String("name")) {
             context = source.readElementText().toUtf8();
         } else if (source.name() == QLatin1String("source")) {
             text = source.readElementText().toUtf8();
+            comment.clear();
+        } else if (source.name() == QLatin1String("comment")) {
+            comment = source.readElementText().toUtf8();
         } else if (source.name() == QLatin1String("translation")) {
-            QCOMPARE(translator.translate(context.constData(), text.constData()),
-                     source.readElementText());
+            const auto translated = [&](int n) {
+                return translator.translate(context.constData(), text.constData(),
+                                            comment.constData(), n);
+            };
             ++checked;
+            if (!isPlural) {
+                QCOMPARE(translated(-1), source.readElementText());
+                continue;
+            }
+            // Which form belongs to which number is the language's affair; each must be used.
+            QSet<QString> used;
+            for (int n = 0; n <= 100; ++n)
+                used.insert(translated(n));
+            QSet<QString> forms;
+            while (source.readNextStartElement())
+                forms.insert(source.readElementText());
+            QCOMPARE(used, forms);
         }
     }
     QVERIFY2(!source.hasError(), qPrintable(source.errorString()));
