@@ -355,11 +355,13 @@ void photo_window::open(const QString& name)
     auto analysis = std::make_unique<Analysis_Widget>();
     if (!analysis->set_Image_addr(imageFolder + QLatin1Char('/') + name, modelIndex)) {
         // Shown without waiting for it: the drive may go while the message is up, and this window
-        // with it, in the middle of the double click.
+        // with it, in the middle of the double click. A message of this window's own would have it
+        // wait for that double click to end.
         auto* box =
             new QMessageBox(QMessageBox::Information, tr("警告"),
-                            tr("该图片解析失败，请确认型号是否正确!"), QMessageBox::Ok, this);
+                            tr("该图片解析失败，请确认型号是否正确!"), QMessageBox::Ok, window());
         box->setAttribute(Qt::WA_DeleteOnClose);
+        connect(this, &QObject::destroyed, box, &QDialog::reject);
         box->open();
         return;
     }

@@ -589,6 +589,20 @@ private slots:
         QVERIFY(!job());
     }
 
+    /// A box that nobody waits for must not be the page's own: whoever ends a page waits for those.
+    void thePageMayGoWhileAWarningIsUp()
+    {
+        write(name(0), "x");
+        openBrowser();
+        choose({0});
+        entries(*menu()).at(Open)->trigger();
+        QVERIFY(message() && message()->isVisible());
+        QCOMPARE(message()->text(), QStringLiteral("该图片解析失败，请确认型号是否正确!"));
+        QCOMPARE(message()->parentWidget(), frame.get());
+        delete page;
+        QTRY_VERIFY(!message());
+    }
+
     void theWindowMayGoHalfWay()
     {
         startAndStopHalfWay(Csv);
