@@ -1,9 +1,11 @@
 #include "tools/ordered_work.h"
 
+#include <QThread>
+
 #include <condition_variable>
+#include <memory>
 #include <mutex>
 #include <optional>
-#include <thread>
 #include <vector>
 
 namespace tools {
@@ -79,21 +81,24 @@ void inOrder(int count, int jobs, const std::function<Work()>& makeWork,
     if (jobs == 0)
         return;
     Queue queue(count, jobs * aheadOfEach);
-    std::vector<std::thread> threads;
+    // Of Qt's kind, since the work is done with Qt: on Windows any other thread is watched by one
+    // of Qt's own, which may still be ending when the program does.
+    std::vector<std::unique_ptr<QThread>> threads;
     threads.reserve(std::size_t(jobs));
     for (int i = 0; i < jobs; ++i) {
-        threads.emplace_back([&queue, work = makeWork()] {
+        threads.emplace_back(QThread::create([&queue, work = makeWork()] {
             while (const std::optional<int> index = queue.take())
                 queue.put(*index, work(*index));
-        });
+        }));
+        threads.back()->start();
     }
     for (int index = 0; index < count; ++index) {
         if (!deliver(index, queue.next()))
             break;
     }
     queue.stop();
-    for (std::thread& thread : threads)
-        thread.join();
+    for (const auto& thread : threads)
+        thread->wait();
 }
 
 } // namespace tools

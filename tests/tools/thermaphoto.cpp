@@ -6,22 +6,31 @@
 namespace testing {
 namespace {
 
-/// Text, whatever ends its lines here.
-QByteArray text(QByteArray bytes)
+/// What was written to the file, as text, whatever ends its lines here.
+QByteArray text(const QString& path)
 {
-    return bytes.replace("\r\n", "\n");
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll().replace("\r\n", "\n") : QByteArray();
 }
 
-Ended ended(QProcess& process)
+/// Files take what the program says: under Wine the last words in a pipe can get lost.
+Ended run(const QString& program, const QStringList& arguments, const QString& folder)
 {
     constexpr int patience = 120000; // ms; only a hanging program takes it
+    const QTemporaryDir said;
+    QProcess process;
+    process.setProcessEnvironment(bareEnvironment());
+    process.setWorkingDirectory(folder);
+    process.setStandardOutputFile(said.filePath(QStringLiteral("output")));
+    process.setStandardErrorFile(said.filePath(QStringLiteral("errors")));
+    process.start(program, arguments);
     if (!process.waitForFinished(patience)) {
         process.kill();
         process.waitForFinished();
     }
     const bool isNormal = process.exitStatus() == QProcess::NormalExit;
-    return {isNormal ? process.exitCode() : -1, text(process.readAllStandardOutput()),
-            text(process.readAllStandardError())};
+    return {isNormal ? process.exitCode() : -1, text(said.filePath(QStringLiteral("output"))),
+            text(said.filePath(QStringLiteral("errors")))};
 }
 
 } // namespace
@@ -52,20 +61,12 @@ QProcessEnvironment bareEnvironment()
 
 Ended thermaphoto(const QStringList& arguments, const QString& folder)
 {
-    QProcess process;
-    process.setProcessEnvironment(bareEnvironment());
-    process.setWorkingDirectory(folder);
-    process.start(QStringLiteral(THERMAPHOTO), arguments);
-    return ended(process);
+    return run(QStringLiteral(THERMAPHOTO), arguments, folder);
 }
 
 Ended shell(const QString& command, const QString& folder)
 {
-    QProcess process;
-    process.setProcessEnvironment(bareEnvironment());
-    process.setWorkingDirectory(folder);
-    process.start(QStringLiteral("sh"), {QStringLiteral("-c"), command});
-    return ended(process);
+    return run(QStringLiteral("sh"), {QStringLiteral("-c"), command}, folder);
 }
 
 QString Folder::write(const QString& name, const QByteArray& bytes) const
