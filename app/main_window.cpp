@@ -20,6 +20,8 @@
 #include <QMenu>
 #include <QThread>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int pollInterval = 300; // ms
@@ -195,6 +197,7 @@ void MainWindow::timeout_connect()
 {
     if (!ui)
         return;
+    m_outerLoopLevel = std::min(m_outerLoopLevel, QThread::currentThread()->loopLevel());
     std::vector<bool> cameraIsImager;
     const QList<QCameraInfo> cameras = QCameraInfo::availableCameras();
     for (const QCameraInfo& camera : cameras)
@@ -247,9 +250,8 @@ void MainWindow::clearModeArea()
     endPage(page);
 }
 
-/// Deletes a page. A page that has a dialog of its own open is in the middle of one of its
-/// functions, which runs the dialog's event loop: then the dialog is dismissed, and the page goes
-/// as soon as that function has come to its end.
+/// Deletes a page and dismisses its dialogs. A page may be in the middle of one of its functions,
+/// which runs a dialog's event loop; it then goes as soon as that function has come to its end.
 void MainWindow::endPage(QWidget* page)
 {
     if (page == m_liveWindow)
@@ -260,7 +262,8 @@ void MainWindow::endPage(QWidget* page)
         QWidget* modal = QApplication::activeModalWidget();
         return belongsTo(modal, page) ? qobject_cast<QDialog*>(modal) : nullptr;
     };
-    if (!openDialog()) {
+    const int level = QThread::currentThread()->loopLevel();
+    if (!openDialog() || level <= m_outerLoopLevel) {
         delete page;
         return;
     }
@@ -268,7 +271,6 @@ void MainWindow::endPage(QWidget* page)
     page->setParent(this, Qt::Widget);
     while (QDialog* dialog = openDialog())
         dialog->done(QDialog::Rejected);
-    const int level = QThread::currentThread()->loopLevel();
     auto* retry = new QTimer(page);
     connect(retry, &QTimer::timeout, page, [page, level] {
         if (QThread::currentThread()->loopLevel() < level)

@@ -447,6 +447,25 @@ private slots:
         QCOMPARE(list->item(0)->text(), QStringLiteral("20260101120000"));
     }
 
+    void aPageWhoseDialogNobodyWaitsForGoesAtOnce()
+    {
+        MainWindow window;
+        window.show();
+        camera().plug();
+        window.timeout_connect();
+        const QPointer<camer_window> page = window.liveWindow();
+        QPointer<QDialog> dialog = new QDialog(page);
+        dialog->setWindowModality(Qt::ApplicationModal);
+        dialog->show();
+        QTRY_COMPARE(QApplication::activeModalWidget(), dialog.data());
+        camera().unplug();
+        drives.append(makeDrive(QStringLiteral("imager")));
+        window.timeout_connect();
+        QVERIFY(!page);
+        QVERIFY(!dialog);
+        QVERIFY(!QApplication::activeModalWidget());
+    }
+
     void aPageWithAnOpenDialogOutlivesTheDialog()
     {
         MainWindow window;
