@@ -49,8 +49,7 @@ Analysis_Widget::Analysis_Widget(QWidget* parent)
 {
     ui->setupUi(this);
     ui->label->setOwner(this);
-    if (config::exists())
-        configurationField = config::read().language;
+    configurationField = config::read().language;
     prepareTables();
 }
 
@@ -98,8 +97,9 @@ void Analysis_Widget::prepareTables()
 bool Analysis_Widget::set_Image_addr(const QString& imagePath, int modelIndex)
 {
     displayUnitState = 0;
-    fileName = QFileInfo(imagePath).fileName();
-    created = createdText(imagePath);
+    const QFileInfo file(imagePath);
+    fileName = file.fileName();
+    created = createdText(file);
     path = imagePath;
     qDebug().noquote() << path << loadTag;
 

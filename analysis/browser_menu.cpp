@@ -46,8 +46,7 @@ void BrowserMenu::askForFolder(SelectionTask task)
     order.folder = m_folder;
     order.names = m_names;
     order.modelIndex = m_modelIndex;
-    if (config::exists())
-        order.language = config::read().language;
+    order.language = config::read().language;
 
     QWidget* window = parentWidget()->window();
     auto* dialog = new QFileDialog(window, tr("选择一个目录"), config::documentsPath());

@@ -10,9 +10,8 @@ QString kilobytes(qint64 bytes)
     return oneDecimal(double(bytes) * 0.0009765625);
 }
 
-QString createdText(const QString& path)
+QString createdText(const QFileInfo& file)
 {
-    const QFileInfo file(path);
     const QDateTime birth = file.birthTime();
     return (birth.isValid() ? birth : file.metadataChangeTime())
         .toString(QStringLiteral("yyyy/MM/dd HH:mm"));

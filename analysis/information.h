@@ -7,6 +7,8 @@
 
 #include <array>
 
+class QFileInfo;
+
 namespace analysis {
 
 /// The rows of the information table, top to bottom.
@@ -31,7 +33,7 @@ QString kilobytes(qint64 bytes);
 
 /// When a file was made, "yyyy/MM/dd HH:mm" in local time; where the file system does not keep
 /// that, the last change of its entry.
-QString createdText(const QString& path);
+QString createdText(const QFileInfo& file);
 
 /// The values of the information table. `unitIndex` is what the unit selector shows; `conversion`
 /// applies to the four temperatures.

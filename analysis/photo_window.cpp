@@ -9,7 +9,6 @@
 #include "ui_photo_window.h"
 
 #include <QContextMenuEvent>
-#include <QDateTime>
 #include <QDebug>
 #include <QDir>
 #include <QElapsedTimer>
@@ -68,14 +67,6 @@ const QString tableSheet = QStringLiteral(
     "QHeaderView::section{\nborder:1px groove white;color: rgb(255, 255, 255);background-color: "
     "rgb(52, 52, 52);\n}");
 
-/// File systems that do not keep the time of creation give the last change of the entry.
-QString creationText(const QFileInfo& file)
-{
-    const QDateTime birth = file.birthTime();
-    return (birth.isValid() ? birth : file.metadataChangeTime())
-        .toString(QStringLiteral("yyyy/MM/dd HH:mm"));
-}
-
 const QPixmap& emptyThumbnail()
 {
     static const QPixmap empty = [] {
@@ -110,7 +101,7 @@ photo_window::photo_window(QObject* owner, QWidget* parent)
 {
     connect(&m_reading, &QTimer::timeout, this, &photo_window::readRequested);
     ui->setupUi(this);
-    m_russian = config::exists() && config::read().language == QLatin1String("RU");
+    m_russian = config::read().language == QLatin1String("RU");
     if (m_russian)
         applyRussianTabs();
 
@@ -228,7 +219,7 @@ void photo_window::get_image_information()
         files = QDir(imageFolder).entryInfoList({QStringLiteral("*.bmp")}, QDir::Files, QDir::Name);
     for (const QFileInfo& file : files) {
         fileNames.append(file.fileName());
-        fileDates.append(creationText(file));
+        fileDates.append(analysis::createdText(file));
         fileSizes.append(analysis::kilobytes(file.size()));
         thumbnails.append(QPixmap());
     }

@@ -13,9 +13,10 @@ Report photographReport(const QString& path, const PhotographReader& reader, Uni
     const Parameters& parameters = photograph.parameters;
     const ShownUnit shown = shownUnit(unit, parameters.unit, reader.isRaw());
     Report report;
+    const QFileInfo file(path);
     report.information =
-        informationTexts(QFileInfo(path).fileName(), createdText(path), reader.readCount(),
-                         parameters, photograph.mean, shown.index, shown.conversion);
+        informationTexts(file.fileName(), createdText(file), reader.readCount(), parameters,
+                         photograph.mean, shown.index, shown.conversion);
     report.picture = falseColourPicture(photograph, 0, format::paletteEntries - 1);
     report.overlay = overlay;
     report.colourStrip = colourStrip(photograph.palette);

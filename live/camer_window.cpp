@@ -142,7 +142,7 @@ camer_window::~camer_window()
 
 void camer_window::readConfiguration()
 {
-    const config::Record record = config::exists() ? config::read() : config::Record();
+    const config::Record record = config::read();
     languageCode = record.language;
     historyFolder = record.alarmFolder;
     if (languageCode == QLatin1String("RU"))
