@@ -96,8 +96,11 @@ RecordReadings recordReadings(const QString& historyFolder, const QString& name)
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
         return {};
     QByteArray last;
-    while (!file.atEnd())
+    // A disk that fails, or a file that shrinks meanwhile, never gets to the end.
+    for (qint64 before = -1; !file.atEnd() && file.pos() > before;) {
+        before = file.pos();
         last = file.readLine();
+    }
     if (last.endsWith('\n'))
         last.chop(1);
     const QStringList parts = QString::fromUtf8(last).split(QLatin1Char(','));

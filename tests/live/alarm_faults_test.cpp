@@ -183,6 +183,18 @@ private slots:
         QCOMPARE(page.rows("listWidget").size(), 1);
     }
 
+    void aTextThatEndsBeforeItsSizeEnds()
+    {
+        // The kernel says 4096 bytes of this file, and has some few.
+        const QString shorter = QStringLiteral("/sys/devices/system/cpu/online");
+        QVERIFY(QFileInfo(shorter).size() > 1000);
+        const QTemporaryDir folder;
+        QVERIFY(QFile::link(shorter, folder.filePath(QStringLiteral("r.ini"))));
+        const live::RecordReadings readings =
+            live::recordReadings(folder.path(), QStringLiteral("r")); // comes to an end
+        QCOMPARE(readings.threshold, QString());
+    }
+
     void aCommaCutsTheConfiguredFolder()
     {
         const QString whole = testing::makeFolder(QStringLiteral("alarms,cut"));
