@@ -191,7 +191,7 @@ private slots:
 
     void theReportOpensThoughTheWindowIsGone()
     {
-        Answer<QFileDialog> file([this](QFileDialog& dialog) { choose(dialog, "отчёт 报告.pdf"); });
+        Answer<QFileDialog> file([](QFileDialog& dialog) { choose(dialog, "отчёт 报告.pdf"); });
         Answer<QMessageBox> message([this](QMessageBox&) { m_window.reset(); });
         click();
         QVERIFY(message.wasAsked());

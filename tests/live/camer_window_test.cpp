@@ -190,7 +190,7 @@ void CamerWindowTest::signalsAndSlotsInTheirOrder()
         QCOMPARE(method.methodSignature(), expected[i]);
         QCOMPARE(method.methodType(), i < 2 ? QMetaMethod::Signal : QMetaMethod::Slot);
     }
-    const auto names = [&meta](int i) {
+    const auto names = [&](int i) {
         return meta.method(meta.methodOffset() + i).parameterNames();
     };
     QCOMPARE(names(0), QByteArrayList({"sta"}));
