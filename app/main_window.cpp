@@ -132,6 +132,7 @@ void MainWindow::Action_camer()
 
 void MainWindow::Action_chose()
 {
+    dropOldSettingsDialogs();
     m_settingsDialogs.push_back(std::make_unique<seting>());
     m_settingsDialog = m_settingsDialogs.back().get();
     m_settingsDialog->setFolder(m_alarmFolder);
@@ -139,6 +140,21 @@ void MainWindow::Action_chose()
     m_settingsDialog->setWindowTitle(tr("选项"));
     m_settingsDialog->setWindowModality(Qt::ApplicationModal);
     m_settingsDialog->show();
+}
+
+/// The last dialog lives on behind the next one. Those before it are closed and nobody's, except
+/// one that waits for an answer to a dialog of its own.
+void MainWindow::dropOldSettingsDialogs()
+{
+    if (m_settingsDialogs.empty())
+        return;
+    const auto last = m_settingsDialogs.end() - 1;
+    m_settingsDialogs.erase(
+        std::remove_if(m_settingsDialogs.begin(), last,
+                       [](const std::unique_ptr<seting>& dialog) {
+                           return !dialog->isVisible() && !dialog->findChild<QDialog*>();
+                       }),
+        last);
 }
 
 void MainWindow::Action_connect()

@@ -66,6 +66,7 @@ protected:
 private:
     void readConfiguration();
     void buildMenuBar();
+    void dropOldSettingsDialogs();
     void clearModeArea();
     void endPage(QWidget* page);
     void enterMode(int mode, QWidget* page, const QString& status);
@@ -75,7 +76,7 @@ private:
 
     QMenu* m_fileMenu = nullptr; ///< owned by the menu bar; entries 0 and 1 follow the mode
     int m_deviceState = -1;
-    /// Every dialog opened so far; the last one is m_settingsDialog.
+    /// The last one, which is m_settingsDialog, and the one before.
     std::vector<std::unique_ptr<seting>> m_settingsDialogs;
     seting* m_settingsDialog = nullptr;
     /// Deleted with the mode area or by endPage(), whoever comes first.

@@ -15,6 +15,7 @@
 #include <QLayout>
 #include <QListWidget>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QMetaMethod>
 #include <QPushButton>
 
@@ -430,6 +431,42 @@ private slots:
         first->close();
         fileAction(window, 2)->trigger();
         QVERIFY(window.settingsDialog() != first);
+    }
+
+    void oldSettingsDialogsGo()
+    {
+        MainWindow window;
+        QPointer<seting> dialogs[4];
+        for (QPointer<seting>& dialog : dialogs) {
+            fileAction(window, 2)->trigger();
+            dialog = window.settingsDialog();
+            dialog->close();
+        }
+        QVERIFY(!dialogs[0] && !dialogs[1]);
+        QVERIFY(dialogs[2]);
+        QCOMPARE(window.settingsDialog(), dialogs[3].data());
+    }
+
+    void anOldSettingsDialogWaitsForItsAnswer()
+    {
+        MainWindow window;
+        fileAction(window, 2)->trigger();
+        QPointer<seting> waiting = window.settingsDialog();
+        testing::Answer<QMessageBox> answer([&](QMessageBox& box) {
+            for (int i = 0; i < 3; ++i) {
+                fileAction(window, 2)->trigger();
+                window.settingsDialog()->close();
+            }
+            QVERIFY(waiting);
+            box.accept();
+        });
+        QTest::mouseClick(waiting->findChild<QPushButton*>(QStringLiteral("pushButton_2")),
+                          Qt::LeftButton);
+        QVERIFY(answer.wasAsked());
+        QVERIFY(waiting);
+        fileAction(window, 2)->trigger();
+        QVERIFY(!waiting);
+        window.settingsDialog()->close();
     }
 
     void aNewFolderReachesTheLivePage()
