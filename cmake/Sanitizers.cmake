@@ -7,3 +7,7 @@ if(THERMADESK_SANITIZE)
     # The standard library's containers look at what they are asked for.
     add_compile_definitions(_GLIBCXX_ASSERTIONS)
 endif()
+
+if(THERMADESK_FUZZ)
+    add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
