@@ -1,9 +1,14 @@
 /// Makes the seeds of the fuzz targets from what the simulated imager makes: make_seeds FOLDER
 /// writes FOLDER/TARGET/NAME, a few small files for each target.
 
+#include "analysis/photograph_format.h"
+#include "live/live_frame.h"
+#include "simulator/photograph.h"
+
 #include <QDataStream>
 #include <QDir>
 #include <QFile>
+#include <QtEndian>
 
 #include <cstdio>
 #include <cstdlib>
@@ -55,6 +60,129 @@ void addConfigurationRecords(const Seeds& seeds)
     add("null", serialised(QString()));
 }
 
+void addMountedVolumes(const Seeds& seeds)
+{
+    seeds.add("mounted_volumes_fuzz", QStringLiteral("usual"),
+              "22 1 8:1 / / rw,relatime shared:1 - ext4 /dev/sda1 rw\n"
+              "36 22 0:5 / /proc rw - proc proc rw\n"
+              "40 22 8:17 / /media/user/IMAGER rw,nosuid - vfat /dev/sdb1 rw\n");
+    seeds.add("mounted_volumes_fuzz", QStringLiteral("escaped"),
+              "40 22 8:16 / /media/user/MY\\040DISK\\134\\012 rw - vfat /dev/sdb rw\n"
+              "41 22 8:17 / /boot/efi rw - vfat /dev/sdb1 rw\n"
+              "42 22 8:17 / /media/user/two rw - vfat /dev/sdb1 rw\n");
+}
+
+QByteArray word(int value)
+{
+    QByteArray bytes(2, '\0');
+    qToLittleEndian(quint16(value), bytes.data());
+    return bytes;
+}
+
+/// What the imager sees, one scene after the other.
+simulator::Field field(int number)
+{
+    const simulator::Scene scene(simulator::SceneKind(number % 4), unsigned(number));
+    return scene.field(number, scene.usualHotSpot());
+}
+
+void addLiveFrames(const Seeds& seeds)
+{
+    constexpr int row = 160;
+    constexpr int rowBytes = 2 * live::frameColumns;
+    for (int i = 0; i < 4; ++i) {
+        const QByteArray frame =
+            simulator::liveFrame(field(i), simulator::Palette(i % 3), 40.0, 0.95);
+        const QByteArray piece = frame.mid(row * rowBytes, rowBytes);
+        // Whole, one byte short, some bytes long, any size; format YUYV; can be mapped.
+        const QByteArray size = QByteArray(1, char(i)) + QByteArray(3, i == 3 ? '\1' : '\0');
+        const QByteArray kind("\x15\0", 2);
+        seeds.add("live_frame_fuzz", QStringLiteral("frame-%1").arg(i),
+                  QByteArray(1, '\0') + size + kind + frame.mid(live::pictureBytes) + piece);
+        seeds.add("live_frame_fuzz", QStringLiteral("loops-%1").arg(i),
+                  QByteArray(1, '\1') + char(i) + piece);
+    }
+}
+
+/// Alarm records as the inputs tell them, in the order of fuzz/live/alarm_records_fuzz.cpp.
+void addAlarmRecords(const Seeds& seeds)
+{
+    const auto named = [](const QByteArray& name) {
+        return char(name.size()) + name;
+    };
+    const auto sized = [](const QByteArray& bytes) {
+        return word(bytes.size()) + bytes;
+    };
+    const auto entry = [&](int kind, const QByteArray& name, const QByteArray& text) {
+        return QByteArray(1, char(kind)) + named(name) + '\0' + sized(text);
+    };
+    const auto file = [&](const QByteArray& name, int made, const QByteArray& bytes) {
+        return named(name) + char(made) + word(0) + sized(bytes);
+    };
+    const QByteArray noFiles(1, '\0');
+    const QByteArray three(1, '\3');
+    const QByteArray pictures =
+        three + file("F1.JPG", 2, "") + file("Alarm.png", 1, "") + file("L1.bmp", 3, "");
+    const QByteArray record = entry(0, "20260318101502", "36.2,34.0,0.97") + pictures;
+    const QByteArray reads = QByteArray("\0", 1) + named("");
+    const QByteArray writes = QByteArray(1, '\1') + named("36.2,34.0,0.97");
+    const auto add = [&seeds](const char* name, const QByteArray& input) {
+        seeds.add("alarm_records_fuzz", QLatin1String(name), input);
+    };
+    add("record", reads + record);
+    add("second", writes + record);
+    add("others", reads + entry(0, "backup", "") + noFiles + entry(0, "2023", "1,2,3") + noFiles +
+                      entry(0, "20240101120000x", "two\nlines,1\r\n") + noFiles);
+    add("no-folders", reads + entry(5, "20240101120000", "a,b,c") +
+                          entry(6, "20240101120001", ",") + entry(7, "20240101120002", "x"));
+    add("no-pictures", reads + entry(0, "20240101120000", "1,2") + three +
+                           file("empty.png", 0, "") + file("text.jpg", 0, "no picture") +
+                           file("notes.txt", 0, "BM"));
+}
+
+/// A photograph as the inputs tell it, in the order of fuzz/analysis/photograph_input.h. The size
+/// choices there: 0 as made, 2 with a raw image, 5 as short as can be, 6 any.
+QByteArray photographInput(int scene, const simulator::PhotographSettings& settings, int sizeChoice)
+{
+    namespace format = analysis::format;
+    const QByteArray file = simulator::photograph(field(scene), settings);
+    const format::Layout& layout = settings.modelIndex == 1 ? format::modelOne : format::modelZero;
+    constexpr int row = 160;
+    const int from = settings.raw ? format::rawOffset + row * format::rawColumns
+                                  : layout.gray + row * format::columns;
+    const QByteArray piece = file.mid(from, format::columns);
+    return QByteArray(1, char(settings.modelIndex)) + char(sizeChoice) + word(1) + '\1' +
+           file.mid(layout.parameters, 46).leftJustified(46, '\0') + file.left(54) + word(512) +
+           file.mid(layout.palette, 512) + word(piece.size()) + piece;
+}
+
+void addPhotographs(const Seeds& seeds)
+{
+    for (int i = 0; i < 10; ++i) {
+        simulator::PhotographSettings settings;
+        settings.modelIndex = i % 2;
+        settings.raw = i % 4 == 2;
+        settings.fahrenheit = i % 5 == 4;
+        settings.machineId = i == 9 ? 7 : quint32(5 + i / 2 % 2);
+        settings.palette = simulator::Palette(i % 3);
+        const QByteArray input = photographInput(i, settings,
+                                                 settings.raw ? 2
+                                                 : i < 6      ? 0
+                                                 : i < 8      ? 5
+                                                              : 6);
+        const QByteArray colourBar("\x0A\xF0", 2);
+        // The browser, the window with one photograph, and with two, painted or not.
+        const QByteArray way(1, char(i % 3 == 0 ? 0 : i % 3 == 1 ? 1 : 18));
+        const QByteArray name("IR_00012");
+        seeds.add("photo_window_fuzz", QString::number(i),
+                  way + word(120) + word(160) + colourBar + char(name.size()) + name + input +
+                      (i % 3 == 2 ? input : QByteArray()));
+        const QByteArray tools = word(10) + word(20) + word(200) + word(300);
+        seeds.add("photograph_fuzz", QString::number(i),
+                  QByteArray(1, char(1 << i % 5)) + char(i) + colourBar + input + tools);
+    }
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -65,5 +193,9 @@ int main(int argc, char** argv)
     }
     const Seeds seeds{QString::fromLocal8Bit(argv[1])};
     addConfigurationRecords(seeds);
+    addMountedVolumes(seeds);
+    addLiveFrames(seeds);
+    addAlarmRecords(seeds);
+    addPhotographs(seeds);
     return 0;
 }

@@ -96,7 +96,6 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
         QStringList{after.value(0), after.value(1), folder}.join(QLatin1Char(','));
     config::replaceAlarmFolder(folder);
     mustHold(fileBytes() == overwritten(rewritten, second), "the folder is written whole");
-    mustHoldRecord(config::read(),
-                   textIn(overwritten(rewritten, second)).split(QLatin1Char(',')));
+    mustHoldRecord(config::read(), textIn(overwritten(rewritten, second)).split(QLatin1Char(',')));
     return 0;
 }
