@@ -17,6 +17,7 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QTableWidget>
+#include <QTextDocument>
 #include <QToolTip>
 #include <QUrl>
 
@@ -34,6 +35,12 @@ enum Tool
 };
 
 const QString loadTag = QStringLiteral("---------Anlyxix-set_Image_addr");
+
+/// A stranger's file name is no mark-up, which could name other files to be shown.
+QString toolTipOf(const QString& name)
+{
+    return Qt::mightBeRichText(name) ? Qt::convertFromPlainText(name) : name;
+}
 
 QPixmap fitted(const QImage& image, const QSize& size)
 {
@@ -434,7 +441,7 @@ void Analysis_Widget::on_tableWidget_itemClicked(QTableWidgetItem* item)
 void Analysis_Widget::on_tableWidget_2_itemEntered(QTableWidgetItem* item)
 {
     if (item->row() == int(InformationRow::FileName) && item->column() == 1)
-        QToolTip::showText(QCursor::pos(), item->text());
+        QToolTip::showText(QCursor::pos(), toolTipOf(item->text()));
     else
         QToolTip::hideText();
 }

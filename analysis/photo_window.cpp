@@ -4,6 +4,7 @@
 #include "analysis/browser_menu.h"
 #include "analysis/information.h"
 #include "config/configuration_record.h"
+#include "platform/picture_file.h"
 #include "platform/removable_drives.h"
 
 #include "ui_photo_window.h"
@@ -21,6 +22,7 @@
 #include <QShortcut>
 #include <QTabBar>
 #include <QTableWidget>
+#include <QTextDocument>
 
 #include <algorithm>
 
@@ -137,7 +139,8 @@ QStringList photo_window::listDrives()
                          : drive.scaled(32, 32, Qt::KeepAspectRatio, Qt::SmoothTransformation));
     for (const QString& root : roots) {
         auto* item = new QListWidgetItem(icon, root, ui->listWidget);
-        item->setToolTip(root);
+        // A volume's name, which becomes part of this, is no mark-up.
+        item->setToolTip(Qt::mightBeRichText(root) ? Qt::convertFromPlainText(root) : root);
     }
     return roots;
 }
@@ -448,7 +451,8 @@ void photo_window::readRequested()
 
 void photo_window::readThumbnail(int index)
 {
-    const QPixmap picture(imageFolder + QLatin1Char('/') + fileNames.at(index));
+    const QPixmap picture =
+        platform::pictureInFile(imageFolder + QLatin1Char('/') + fileNames.at(index));
     thumbnails[index] = roundedThumbnail(picture, thumbnailSize, thumbnailRadius);
     m_read[index] = true;
     m_kept.enqueue(index);

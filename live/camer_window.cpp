@@ -4,6 +4,7 @@
 #include "live/alarm_records.h"
 #include "live/imager_camera.h"
 #include "live/qt_camera_capture.h"
+#include "platform/picture_file.h"
 
 #include "ui_camer_window.h"
 
@@ -450,7 +451,7 @@ void camer_window::on_listWidget_2_itemClicked(QListWidgetItem* item)
     historyPixmaps.clear();
     ui->listWidget_3->clear();
     for (const QString& path : live::recordPicturePaths(historyFolder, item->text())) {
-        const QPixmap picture(path);
+        const QPixmap picture = platform::pictureInFile(path);
         historyPixmaps.append(picture);
         ui->listWidget_3->addItem(new QListWidgetItem(QIcon(picture), QFileInfo(path).fileName()));
     }

@@ -14,6 +14,7 @@
 #include <QPushButton>
 #include <QSet>
 #include <QTableWidget>
+#include <QTextDocumentFragment>
 #include <QToolTip>
 
 #include <memory>
@@ -605,6 +606,16 @@ private slots:
         QCOMPARE(QToolTip::text(), QStringLiteral("shot.bmp"));
         emit table.itemEntered(table.item(1, 1));
         QTRY_VERIFY(!QToolTip::isVisible());
+    }
+
+    void aFileNameIsNoMarkUp()
+    {
+        const QString name = QStringLiteral("<b>hot</b>.bmp");
+        child<QTableWidget>("tableWidget_2").item(0, 1)->setText(name);
+        show();
+        auto& table = child<QTableWidget>("tableWidget_2");
+        emit table.itemEntered(table.item(0, 1));
+        QCOMPARE(QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText(), name);
     }
 
     void toolButtons_data()

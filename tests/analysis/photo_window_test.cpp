@@ -352,6 +352,19 @@ private slots:
         QTRY_VERIFY(!window->thumbnails.first().isNull());
     }
 
+    void aThumbnailIsNotMadeOfAnEndlessPicture()
+    {
+        const QString root = addDrive(QStringLiteral("disk"));
+        QByteArray bytes = photographBytes(Shot());
+        testing::put(bytes, 18, 16000, 4);
+        testing::put(bytes, 22, 16000, 4);
+        write(root + QStringLiteral("DCIM_100/a.bmp"), bytes);
+        addPhotographs(root, {QStringLiteral("b.bmp")});
+        openWindow();
+        QTRY_VERIFY(!window->thumbnails.at(1).isNull());
+        QVERIFY(window->thumbnails.at(0).isNull());
+    }
+
     void damagedPicturesHaveNoThumbnail()
     {
         const QString root = addDrive(QStringLiteral("disk"));

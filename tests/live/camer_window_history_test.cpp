@@ -64,6 +64,7 @@ private slots:
     void negativeRowShowsTheFirst();
     void shortTexts_data();
     void shortTexts();
+    void textsAreNoMarkUp();
     void recordWithoutPictures();
     void filesThatAreNoPictures();
     void recordDeletedWhileListed();
@@ -241,6 +242,16 @@ void CamerWindowHistoryTest::shortTexts()
     QCOMPARE(readings(page), parts);
 }
 
+void CamerWindowHistoryTest::textsAreNoMarkUp()
+{
+    putRecord(first, "<b>1</b>,<i>2</i>,<s>3</s>", {});
+    const Page page;
+    open(page, first);
+    QCOMPARE(readings(page), QStringList({"<b>1</b>", "<i>2</i>", "<s>3</s>"}));
+    for (const char* label : {"label_12", "label_14", "label_16"})
+        QCOMPARE(page.get<QLabel>(label)->textFormat(), Qt::PlainText);
+}
+
 void CamerWindowHistoryTest::recordWithoutPictures()
 {
     putRecord(first, "1,2,3", {{"a.png", Qt::red}});
@@ -265,13 +276,17 @@ void CamerWindowHistoryTest::filesThatAreNoPictures()
     putRecord(first, "1,2,3", {{"b.png", Qt::green}});
     testing::putFile(path(first + QStringLiteral("/a.png")), "not a picture");
     testing::putFile(path(first + QStringLiteral("/c.jpg")), QByteArray());
+    QImage endless(5000, 5000, QImage::Format_Mono);
+    endless.fill(1);
+    QVERIFY(endless.save(path(first + QStringLiteral("/d.png"))));
     const Page page;
     page->show();
     page.get<QTabWidget>("tabWidget")->setCurrentIndex(1);
     const testing::LogRecorder log;
     open(page, first);
-    QCOMPARE(page.rows("listWidget_3"), QStringList({"a.png", "b.png", "c.jpg"}));
-    QCOMPARE(page->historyPixmaps.size(), 3);
+    QCOMPARE(page.rows("listWidget_3"), QStringList({"a.png", "b.png", "c.jpg", "d.png"}));
+    QCOMPARE(page->historyPixmaps.size(), 4);
+    QVERIFY(page->historyPixmaps.at(3).isNull());
     QCOMPARE(shown(page), QColor(Qt::black));
     page.get<QListWidget>("listWidget_3")->setCurrentRow(1);
     QCOMPARE(shown(page), QColor(Qt::green));
