@@ -85,6 +85,13 @@ private slots:
         QVERIFY(blocker.remove());
     }
 
+    void creationMakesNoDocumentsFolder()
+    {
+        QVERIFY(QDir().rmdir(config::documentsPath()));
+        config::create(QStringLiteral("EN"));
+        QVERIFY(!QFileInfo::exists(config::documentsPath()));
+    }
+
     void exactBytes()
     {
         putFile(QByteArray::fromHex("00000012"
@@ -137,6 +144,18 @@ private slots:
     void replacingWithoutAFileWritesNothing()
     {
         QCOMPARE(config::replaceLanguage(QStringLiteral("KO")), QString());
+        config::replaceAlarmFolder(QStringLiteral("X"));
+        QVERIFY(!config::exists());
+    }
+
+    /// Opening for reading and writing would make one.
+    void whereOnlyTheFileIsMissingNoneIsMade()
+    {
+        QVERIFY(QDir().mkpath(config::folderPath()));
+        QCOMPARE(config::read().language, QString());
+        QVERIFY(!config::exists());
+        QCOMPARE(config::replaceLanguage(QStringLiteral("KO")), QString());
+        QVERIFY(!config::exists());
         config::replaceAlarmFolder(QStringLiteral("X"));
         QVERIFY(!config::exists());
     }
