@@ -73,6 +73,9 @@ private slots:
         QCOMPARE(mountPoints("1 0 8:17 / / rw - ext4 /dev/sdb1 rw\n"
                              "2 1 179:1 / /boot/efi rw - vfat /dev/mmcblk0p1 rw\n"),
                  QStringList());
+        QCOMPARE(mountPoints("1 0 8:17 / /boot rw - ext4 /dev/sdb1 rw\n"), QStringList());
+        QCOMPARE(mountPoints("1 0 8:17 / /bootstick rw - vfat /dev/sdb1 rw\n"),
+                 QStringList(QStringLiteral("/bootstick/")));
     }
 
     void aVolumeMountedTwiceCountsOnce()
