@@ -1,0 +1,123 @@
+// thermaphoto on a folder of photographs, its start included, and the same job done by a script.
+// One iteration is one photograph; the time is processor time.
+#include "bench/child_process.h"
+#include "simulator/photograph.h"
+#include "simulator/scene.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <benchmark/benchmark.h>
+
+namespace {
+
+/// So many that the program's start hardly counts; fewer for the formats that take long.
+int photographs(const QString& format)
+{
+    return format == QLatin1String("csv") || format == QLatin1String("png") ? 20 : 200;
+}
+
+const char* const tools = R"({"points": [[120, 160], [10, 20]], "lines": [[10, 300, 200, 20]],
+    "rectangles": [[30, 60, 100, 100]], "circles": [[150, 200, 40]]})";
+
+void write(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        qFatal("%s cannot be written", qPrintable(path));
+}
+
+/// Folders of photographs, the tools, and an empty folder for what comes out.
+class Folders
+{
+public:
+    Folders()
+    {
+        write(toolFile(), tools);
+        for (const int count : {20, 200})
+            QDir().mkdir(photographFolder(count));
+        for (int i = 0; i < 20; ++i) {
+            const simulator::Scene scene(simulator::SceneKind(i % 4), unsigned(i));
+            const QByteArray bytes =
+                simulator::photograph(scene.field(i, scene.usualHotSpot()), {});
+            const auto name = [](int number) { return QStringLiteral("/IR_%1.bmp").arg(number); };
+            write(photographFolder(20) + name(i), bytes);
+            for (int copy = i; copy < 200; copy += 20)
+                write(photographFolder(200) + name(copy), bytes);
+        }
+    }
+    QString toolFile() const { return m_folder.filePath(QStringLiteral("tools.json")); }
+    QString photographFolder(int count) const
+    {
+        return m_folder.filePath(QString::number(count));
+    }
+    QString emptyOutput() const
+    {
+        QDir output(m_folder.filePath(QStringLiteral("out")));
+        output.removeRecursively();
+        output.mkpath(QStringLiteral("."));
+        return output.path();
+    }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+const Folders& folders()
+{
+    static const Folders instance;
+    return instance;
+}
+
+void thermaphoto(benchmark::State& state, const QString& job)
+{
+    const int count = photographs(job);
+    for ([[maybe_unused]] auto _ : state) {
+        QStringList arguments{QStringLiteral("--jobs"), QStringLiteral("1"),
+                              folders().photographFolder(count)};
+        if (job == QLatin1String("measure"))
+            arguments = QStringList{job, "--format", "json", "--tools", folders().toolFile()} +
+                        arguments;
+        else
+            arguments = QStringList{"export", "--format", job, "-o", folders().emptyOutput()} +
+                        arguments;
+        const bench::ChildProcess ran = bench::run(QStringLiteral(THERMAPHOTO), arguments);
+        if (!ran.succeeded)
+            state.SkipWithError("thermaphoto failed");
+        state.SetIterationTime(ran.processor / count);
+    }
+}
+
+void inNumpy(benchmark::State& state, const QString& job)
+{
+    const int count = photographs(job);
+    for ([[maybe_unused]] auto _ : state) {
+        const bench::ChildProcess script =
+            bench::run(bench::pythonWithNumpy(),
+                       {QStringLiteral(NUMPY_SCRIPT), job, folders().photographFolder(count),
+                        folders().emptyOutput()});
+        if (!script.succeeded)
+            state.SkipWithError("NumPy is not installed");
+        state.SetIterationTime(script.output.trimmed().toDouble() / count);
+    }
+}
+
+void once(benchmark::internal::Benchmark* benchmark)
+{
+    benchmark->Iterations(1)->UseManualTime()->Unit(benchmark::kMicrosecond);
+}
+
+BENCHMARK_CAPTURE(thermaphoto, measure, "measure")->Apply(once);
+BENCHMARK_CAPTURE(thermaphoto, npy, "npy")->Apply(once);
+BENCHMARK_CAPTURE(thermaphoto, tiff, "tiff")->Apply(once);
+BENCHMARK_CAPTURE(thermaphoto, csv, "csv")->Apply(once);
+BENCHMARK_CAPTURE(thermaphoto, png, "png")->Apply(once);
+BENCHMARK_CAPTURE(inNumpy, measure, "measure")->Apply(once);
+BENCHMARK_CAPTURE(inNumpy, npy, "npy")->Apply(once);
+BENCHMARK_CAPTURE(inNumpy, tiff, "tiff")->Apply(once);
+BENCHMARK_CAPTURE(inNumpy, csv, "csv")->Apply(once);
+BENCHMARK_CAPTURE(inNumpy, png, "png")->Apply(once);
+BENCHMARK_CAPTURE(inNumpy, read, "read")->Apply(once); // the files alone
+
+} // namespace
