@@ -47,6 +47,7 @@ int main(int argc, char** argv)
     const QTemporaryDir home;
     moveInto(home);
     startup::setAttributes();
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); // nobody would answer the system's
     QApplication application(argc, argv);
 
     QCommandLineParser parser;
