@@ -8,16 +8,19 @@
 
 #include "ui_camer_window.h"
 
+#include <QBuffer>
 #include <QCamera>
 #include <QCameraInfo>
 #include <QDateTime>
 #include <QDebug>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QKeyEvent>
 #include <QMediaPlayer>
 #include <QMouseEvent>
 #include <QNetworkRequest>
 #include <QPointer>
+#include <QSaveFile>
 #include <QTimer>
 #include <QUrl>
 
@@ -82,6 +85,22 @@ void showScaled(QLabel* label, const QPixmap& picture)
     else
         label->setPixmap(
             picture.scaled(label->size(), Qt::KeepAspectRatio, Qt::SmoothTransformation));
+}
+
+/// The bytes of a picture file; empty when there is no such format.
+QByteArray encoded(const QPixmap& picture, const QByteArray& format)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    return picture.save(&buffer, format.constData()) ? bytes : QByteArray();
+}
+
+/// Leaves the whole file, or what was there before.
+void writeWhole(const QString& path, const QByteArray& bytes)
+{
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size())
+        file.commit();
 }
 
 } // namespace
@@ -236,8 +255,10 @@ void camer_window::on_pushButton_clicked()
     if (accepted) {
         // The name is the user's; one whose suffix names no picture format gets a PNG all the same.
         const QString name = dialog->selectedFiles().value(0);
-        if (!picture.save(name))
-            picture.save(name, "PNG");
+        QByteArray bytes = encoded(picture, QFileInfo(name).suffix().toLatin1());
+        if (bytes.isEmpty())
+            bytes = encoded(picture, "PNG");
+        writeWhole(name, bytes);
     }
     delete dialog;
 }

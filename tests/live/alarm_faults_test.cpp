@@ -1,11 +1,14 @@
 #include "live/alarm_records.h"
 #include "simulator/simulated_camera.h"
 #include "tests/live/page.h"
+#include "tests/support/dialogs.h"
 #include "tests/support/test_run.h"
 
 #include <QDir>
 #include <QFile>
+#include <QFileDialog>
 #include <QListWidget>
+#include <QPushButton>
 
 #include <csignal>
 #include <sys/resource.h>
@@ -183,16 +186,25 @@ private slots:
         QCOMPARE(page.rows("listWidget").size(), 1);
     }
 
-    void aTextThatEndsBeforeItsSizeEnds()
+    void aPictureThatDoesNotFitLeavesWhatWasThere()
     {
-        // The kernel says 4096 bytes of this file, and has some few.
-        const QString shorter = QStringLiteral("/sys/devices/system/cpu/online");
-        QVERIFY(QFileInfo(shorter).size() > 1000);
-        const QTemporaryDir folder;
-        QVERIFY(QFile::link(shorter, folder.filePath(QStringLiteral("r.ini"))));
-        const live::RecordReadings readings =
-            live::recordReadings(folder.path(), QStringLiteral("r")); // comes to an end
-        QCOMPARE(readings.threshold, QString());
+        const Page page;
+        QVERIFY(deliver(true, 300));
+        const QString path = m_folder + QStringLiteral("/cap.png");
+        testing::putFile(path, "before");
+        const testing::Answer<QFileDialog> answer([&path](QFileDialog& dialog) {
+            dialog.selectFile(path);
+            static_cast<QDialog&>(dialog).done(QDialog::Accepted);
+        });
+        {
+            const FullDisk full(diskBytes);
+            page.get<QPushButton>("pushButton")->click();
+        }
+        QVERIFY(answer.wasAsked());
+        QCOMPARE(QDir(m_folder).entryList(everything), QStringList(QStringLiteral("cap.png")));
+        QFile file(path);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), QByteArray("before"));
     }
 
     void aCommaCutsTheConfiguredFolder()
