@@ -22,7 +22,6 @@ struct Rgb
     {
         return a.red == b.red && a.green == b.green && a.blue == b.blue;
     }
-    friend bool operator!=(const Rgb& a, const Rgb& b) { return !(a == b); }
 };
 static_assert(sizeof(Rgb) == 3, "a palette is handed to OpenCV as packed bytes");
 

@@ -656,6 +656,7 @@ private slots:
         QTest::newRow("colour") << 6 << QStringLiteral("pushButton_4");
         QTest::newRow("delete") << 7 << QStringLiteral("pushButton_9");
         QTest::newRow("clear") << 8 << QStringLiteral("pushButton_2");
+        QTest::newRow("save") << 9 << QStringLiteral("pushButton");
         QTest::newRow("too large") << 10 << QStringLiteral("comboBox");
         QTest::newRow("too small") << -2 << QStringLiteral("comboBox");
     }

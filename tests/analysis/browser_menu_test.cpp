@@ -3,6 +3,7 @@
 #include "analysis/photo_window.h"
 #include "analysis/photograph_export.h"
 #include "analysis/selection_job.h"
+#include "config/configuration_record.h"
 #include "platform/removable_drives.h"
 #include "tests/analysis/photograph_writer.h"
 #include "tests/support/test_run.h"
@@ -418,6 +419,22 @@ private slots:
         }
     }
 
+    /// Texts in letters that Latin fonts lack: the font that is embedded tells the languages apart.
+    void reportsInTheConfiguredLanguage()
+    {
+        addPhotographs(2);
+        openBrowser();
+        choose({0});
+        start(Report);
+        QCOMPARE(messageText(), successText(1));
+        config::create(QStringLiteral("EN"));
+        choose({1});
+        start(Report);
+        QCOMPARE(messageText(), successText(1));
+        QVERIFY(contents(target + QStringLiteral("/IMG000.pdf")).contains("CJK"));
+        QVERIFY(!contents(target + QStringLiteral("/IMG001.pdf")).contains("CJK"));
+    }
+
     void copiesKeepBytesAndTime()
     {
         addPhotographs(2);
@@ -475,6 +492,30 @@ private slots:
         QVERIFY(lines.at(4).startsWith(QStringLiteral("IMG004.bmp：无法读取（")));
         QCOMPARE(written(), QStringList({QStringLiteral("IMG000.csv"), QStringLiteral("IMG003.csv"),
                                          QStringLiteral("IMG005.csv")}));
+    }
+
+    void badPhotographsAmongReportsAndCopies_data()
+    {
+        QTest::addColumn<int>("entry");
+        QTest::addColumn<QString>("suffix");
+        QTest::newRow("reports") << int(Report) << QStringLiteral(".pdf");
+        QTest::newRow("copies") << int(Copy) << QStringLiteral(".bmp");
+    }
+    void badPhotographsAmongReportsAndCopies()
+    {
+        QFETCH(int, entry);
+        QFETCH(QString, suffix);
+        addPhotographs(3);
+        openBrowser();
+        QVERIFY(QFile::remove(photograph(name(1))));
+        choose({0, 1, 2});
+        start(Entry(entry));
+        const QStringList lines = messageText().split(QLatin1Char('\n'));
+        QCOMPARE(lines.size(), 3);
+        QCOMPARE(lines.at(0), successText(2));
+        QVERIFY(lines.at(2).startsWith(QStringLiteral("IMG001.bmp：无法读取（")));
+        QCOMPARE(written(), QStringList({QStringLiteral("IMG000") + suffix,
+                                         QStringLiteral("IMG002") + suffix}));
     }
 
     void whatIsThereStays_data()

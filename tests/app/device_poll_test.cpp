@@ -50,6 +50,7 @@ private slots:
         QTest::newRow("disk to camera") << 1 << 2 << imager << 0 << Action::LeaveAndWait << -1;
         QTest::newRow("disk and camera") << 1 << 2 << imager << 1 << Action::LeaveAndWait << -1;
         QTest::newRow("disk goes on") << 1 << 2 << none << 1 << Action::None << 1;
+        QTest::newRow("disk beside live mode") << 1 << 1 << none << 1 << Action::CheckFolders << 1;
         QTest::newRow("disk removed") << 1 << 2 << none << 0 << Action::None << 1;
         QTest::newRow("disk removed, other") << 1 << 2 << other << 0 << Action::None << 1;
     }

@@ -529,6 +529,28 @@ private slots:
         QCOMPARE(image.pixelColor(2, 2), QColor(Qt::white)); // a margin
     }
 
+    void aLabelWithoutRoomHasNoOverlay_data()
+    {
+        QTest::addColumn<QSize>("size");
+        QTest::newRow("no width") << QSize(0, 960);
+        QTest::newRow("no height") << QSize(721, 0);
+    }
+    void aLabelWithoutRoomHasNoOverlay()
+    {
+        QFETCH(QSize, size);
+        MyLabel label;
+        prepare(label, {300, 330}, {240, 320});
+        placeTools(label);
+        label.repaint();
+        QVERIFY(!label.overlay.isNull());
+        label.frozenGeometry = true;
+        label.labelWidth = size.width();
+        label.labelHeight = size.height();
+        QPixmap elsewhere(10, 10);
+        label.render(&elsewhere);
+        QVERIFY(label.overlay.isNull());
+    }
+
     /// As the report asks for it: three times the picture, one pixel wider, whatever the label's
     /// size and the screen.
     void frozenForAReport()

@@ -28,6 +28,20 @@ QVector<PointTool> pointsNamed(const QStringList& names)
     return points;
 }
 
+template<typename Tool>
+void everyEndCounts()
+{
+    const QString name = QStringLiteral("X1");
+    const Tool tool{name, 1, 2, 3, 4, Qt::red};
+    for (const Tool& other : {Tool{QString(), 1, 2, 3, 4, Qt::red},
+                              {name, 0, 2, 3, 4, Qt::red},
+                              {name, 1, 0, 3, 4, Qt::red},
+                              {name, 1, 2, 0, 4, Qt::red},
+                              {name, 1, 2, 3, 0, Qt::red},
+                              {name, 1, 2, 3, 4, Qt::blue}})
+        QVERIFY(!(tool == other));
+}
+
 } // namespace
 
 class ToolRulesTest : public QObject
@@ -42,6 +56,29 @@ private slots:
         QVERIFY((LineTool() == LineTool{QString(), -1, -1, -1, -1, red}));
         QVERIFY((RectTool() == RectTool{QString(), -1, -1, -1, -1, red}));
         QVERIFY((CircleTool() == CircleTool{QString(), -1, -1, -1, -1, -1, red}));
+    }
+
+    void toolsDifferByEveryProperty()
+    {
+        const QString name = QStringLiteral("X1");
+        const PointTool point{name, 1, 2, 9, Qt::red};
+        for (const PointTool& other : {PointTool{QString(), 1, 2, 9, Qt::red},
+                                       {name, 0, 2, 9, Qt::red},
+                                       {name, 1, 0, 9, Qt::red},
+                                       {name, 1, 2, 0, Qt::red},
+                                       {name, 1, 2, 9, Qt::blue}})
+            QVERIFY(!(point == other));
+        everyEndCounts<LineTool>();
+        everyEndCounts<RectTool>();
+        const CircleTool circle{name, 1, 2, 3, 4, 5, Qt::red};
+        for (const CircleTool& other : {CircleTool{QString(), 1, 2, 3, 4, 5, Qt::red},
+                                        {name, 0, 2, 3, 4, 5, Qt::red},
+                                        {name, 1, 0, 3, 4, 5, Qt::red},
+                                        {name, 1, 2, 0, 4, 5, Qt::red},
+                                        {name, 1, 2, 3, 0, 5, Qt::red},
+                                        {name, 1, 2, 3, 4, 0, Qt::red},
+                                        {name, 1, 2, 3, 4, 5, Qt::blue}})
+            QVERIFY(!(circle == other));
     }
 
     void theLowestFreeNumber_data()

@@ -71,6 +71,7 @@ private slots:
     void theSystemsOwnVolumesDoNotCount()
     {
         QCOMPARE(mountPoints("1 0 8:17 / / rw - ext4 /dev/sdb1 rw\n"
+                             "3 1 8:17 / /boot rw - ext4 /dev/sdb1 rw\n"
                              "2 1 179:1 / /boot/efi rw - vfat /dev/mmcblk0p1 rw\n"),
                  QStringList());
         QCOMPARE(mountPoints("1 0 8:17 / /boot rw - ext4 /dev/sdb1 rw\n"), QStringList());
@@ -93,6 +94,20 @@ private slots:
                  QStringList(QStringLiteral("/media/тепло/")));
     }
 
+    void whatIsNoEscapeStaysAsItIs()
+    {
+        QCOMPARE(mountPoints("1 0 8:17 / /media/a\\09z rw - vfat /dev/sdb1 rw\n"),
+                 QStringList(QStringLiteral("/media/a\\09z/")));
+        QCOMPARE(mountPoints("1 0 8:17 / /media/cut\\04"),
+                 QStringList(QStringLiteral("/media/cut\\04/")));
+    }
+
+    void aDeviceThatDoesNotSayIsNotRemovable()
+    {
+        addNumber(QStringLiteral("virtual/zram0"), QStringLiteral("252:0"));
+        QCOMPARE(mountPoints("1 0 252:0 / /media/a rw - ext4 /dev/zram0 rw\n"), QStringList());
+    }
+
     void linesWithoutSenseArePassedOver()
     {
         QCOMPARE(mountPoints("\n1 2 3\nx\n1 0 99:99 / /media/a rw - vfat /dev/x rw\n\\04"),
@@ -106,6 +121,8 @@ private slots:
         put(device + QStringLiteral("/idVendor"), "1d6b\n");
         put(device + QStringLiteral("/idProduct"), "0102\n");
         QDir().mkpath(device + QStringLiteral("/1-4:1.0"));
+        // Half an identity is none.
+        put(device + QStringLiteral("/1-4:1.0/idVendor"), "ffff\n");
         QDir().mkpath(m_sys + QStringLiteral("/video/video0"));
         QVERIFY(QFile::link(device + QStringLiteral("/1-4:1.0"),
                             m_sys + QStringLiteral("/video/video0/device")));

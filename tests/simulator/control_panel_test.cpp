@@ -34,6 +34,7 @@ private slots:
     void setsTheImager();
     void setsThePhotographs();
     void takesPhotographsWhileTheDiskIsIn();
+    void saysThatAPhotographCouldNotBeStored();
     void everyControlExplainsItself();
     void tabGoesFromTopToBottom();
     void standsBesideAWindow_data();
@@ -178,6 +179,18 @@ void ControlPanelTest::takesPhotographsWhileTheDiskIsIn()
     QCOMPARE(widget<QLabel>("storedLabel").text(), QStringLiteral("Stored ") + files.first());
     m_imager->setDiskPlugged(false);
     QVERIFY(!widget<QAbstractButton>("photographButton").isEnabled());
+}
+
+void ControlPanelTest::saysThatAPhotographCouldNotBeStored()
+{
+    m_imager->setDiskPlugged(true);
+    const QString folder = m_imager->disk().root() + QStringLiteral("DCIM_100");
+    QDir(folder).removeRecursively();
+    QFile inItsPlace(folder);
+    QVERIFY(inItsPlace.open(QIODevice::WriteOnly));
+    click("photographButton");
+    QCOMPARE(widget<QLabel>("storedLabel").text(),
+             QStringLiteral("The photograph could not be stored."));
 }
 
 void ControlPanelTest::everyControlExplainsItself()

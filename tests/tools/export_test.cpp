@@ -134,6 +134,8 @@ private slots:
     void aFolderInTheWay();
     void folderIsMade();
     void folderThatCannotBeMade();
+    void subfolderThatCannotBeMade();
+    void folderWithoutPhotographs();
     void subfoldersAreKept();
     void sameNameTwice();
     void neverOverAPhotograph();
@@ -467,12 +469,42 @@ void ExportTest::folderThatCannotBeMade()
     const Folder folder;
     folder.write(QStringLiteral("1.bmp"), photographBytes(slope()));
     folder.write(QStringLiteral("file"), "mine");
+    for (const QStringList& command : {QStringList{"export", "--format", "npy"}, {"report"}}) {
+        const Ended ended =
+            thermaphoto(command + QStringList{"-o", "file/x", "1.bmp"}, folder.path());
+        QCOMPARE(ended.status, 1);
+        QCOMPARE(ended.errorLines().size(), 1);
+        QVERIFY(ended.errors.contains("file/x"));
+        QCOMPARE(folder.files(), (QStringList{"1.bmp", "file"}));
+    }
+}
+
+/// A file has the name that one of the folders needs: the others are made.
+void ExportTest::subfolderThatCannotBeMade()
+{
+    const Folder folder;
+    for (const char* name : {"in/a/1.bmp", "in/b/2.bmp"})
+        folder.write(QLatin1String(name), photographBytes(slope()));
+    folder.write(QStringLiteral("out/a"), "mine");
     const Ended ended =
-        thermaphoto({"export", "--format", "npy", "-o", "file/x", "1.bmp"}, folder.path());
+        thermaphoto({"export", "--format", "npy", "-o", "out", "-r", "in"}, folder.path());
     QCOMPARE(ended.status, 1);
     QCOMPARE(ended.errorLines().size(), 1);
-    QVERIFY(ended.errors.contains("file/x"));
-    QCOMPARE(folder.files(), (QStringList{"1.bmp", "file"}));
+    QVERIFY(ended.errors.contains("in/a/1.bmp: out/a: this folder cannot be made"));
+    QCOMPARE(folder.files().filter(QStringLiteral("out/")), (QStringList{"out/a", "out/b/2.npy"}));
+}
+
+void ExportTest::folderWithoutPhotographs()
+{
+    const Folder folder;
+    folder.write(QStringLiteral("1.bmp"), photographBytes(slope()));
+    QDir(folder.path()).mkdir(QStringLiteral("none"));
+    const Ended ended =
+        thermaphoto({"export", "--format", "npy", "-o", "out", "none", "1.bmp"}, folder.path());
+    QCOMPARE(ended.status, 1);
+    QCOMPARE(ended.errorLines().size(), 1);
+    QVERIFY(ended.errors.contains("none: no photographs"));
+    QCOMPARE(folder.files(), (QStringList{"1.bmp", "out/1.npy"}));
 }
 
 void ExportTest::subfoldersAreKept()
@@ -526,7 +558,8 @@ void ExportTest::fullDisk()
     folder.write(QStringLiteral("2.bmp"), photographBytes(slope()));
     folder.write(QStringLiteral("out/1.npy"), "mine");
     const Ended ended = testing::shell(
-        QStringLiteral("trap '' XFSZ; ulimit -f 300; "
+        // What counts the lines that tests execute would complain, too.
+        QStringLiteral("LLVM_PROFILE_FILE=/dev/null; trap '' XFSZ; ulimit -f 300; "
                        "exec \"$thermaphoto\" export --format npy --force -o out 1.bmp 2.bmp"),
         folder.path());
     QCOMPARE(ended.status, 1);

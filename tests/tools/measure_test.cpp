@@ -312,7 +312,10 @@ void MeasureTest::wrongTools_data()
     row("a huge number", R"({"points": [[1e300, 2]]})", "whole numbers");
     row("left of the picture", R"({"points": [[-1, 2]]})", "outside the picture");
     row("right of the picture", R"({"points": [[241, 2]]})", "outside the picture");
+    row("above the picture", R"({"points": [[2, -1]]})", "outside the picture");
     row("under the picture", R"({"points": [[2, 321]]})", "outside the picture");
+    row("line from outside", R"({"lines": [[-1, 2, 3, 4]]})", "not wholly inside");
+    row("rectangle from outside", R"({"rectangles": [[1, 321, 3, 4]]})", "not wholly inside");
     row("line leaving it", R"({"lines": [[1, 2, 3, 321]]})", "not wholly inside");
     row("line of no length", R"({"lines": [[1, 2, 1, 2]]})", "no length");
     row("rectangle leaving it", R"({"rectangles": [[1, 2, -3, 4]]})", "not wholly inside");

@@ -97,12 +97,19 @@ void RunTest::usage_data()
     row("point between numbers", "export --format csv --separator . a.bmp");
     row("digit between numbers", "export --format csv --separator 1 a.bmp");
     row("two separators", "export --format csv --separator ;; a.bmp");
+    row("quote between numbers", "export --format csv --separator \" a.bmp");
+    row("separator beyond ASCII", "export --format csv --separator ü a.bmp");
+    row("unseen separator", "export --format csv --separator \x01 a.bmp");
     row("decimals of a TIFF", "export --format tiff --decimals 1 a.bmp");
     row("header of a NumPy file", "export --format npy --header a.bmp");
     row("span of numbers", "export --format csv --span 0:255 a.bmp");
     row("half a span", "export --format png --span 10 a.bmp");
     row("three ends", "export --format png --span 1:2:3 a.bmp");
     row("span off the bar", "export --format png --span 0:256 a.bmp");
+    row("span before the bar", "export --format png --span=-1:5 a.bmp");
+    row("span from a word", "export --format png --span hot:5 a.bmp");
+    row("span to a word", "export --format png --span 5:cold a.bmp");
+    row("two faults, one line", "export --format png --jobs 0 --unit K a.bmp");
     row("tools missing", "measure a.bmp");
     row("tools not there", "measure --tools nowhere.json a.bmp");
     row("measure unit", "measure --tools tools.json --unit K a.bmp");
@@ -150,10 +157,12 @@ void RunTest::help()
 
 void RunTest::version()
 {
-    const Ended ended = thermaphoto({"--version"});
-    QCOMPARE(ended.status, 0);
-    QVERIFY(ended.output.startsWith("thermaphoto "));
-    QCOMPARE(ended.output.split('.').size(), 3);
+    for (const char* option : {"--version", "-v"}) {
+        const Ended ended = thermaphoto({option});
+        QCOMPARE(ended.status, 0);
+        QVERIFY(ended.output.startsWith("thermaphoto "));
+        QCOMPARE(ended.output.split('.').size(), 3);
+    }
 }
 
 /// A program of everything but the reports: it links, it runs, and the system loads no widgets.
@@ -337,7 +346,10 @@ void RunTest::outputToFullDisk()
 {
     const Folder folder;
     folder.write(QStringLiteral("1.bmp"), photograph());
-    for (const char* command : {"info 1.bmp", "info --json 1.bmp", "--help", "--version"}) {
+    for (const char* command :
+         {"info 1.bmp", "info --json 1.bmp", "--help", "--version",
+          // More than is kept back before it is written.
+          "info $(yes 1.bmp | head -n 100)", "info --json $(yes 1.bmp | head -n 100)"}) {
         const Ended ended = testing::shell(
             QStringLiteral("\"$thermaphoto\" %1 > /dev/full").arg(QLatin1String(command)),
             folder.path());
