@@ -210,7 +210,7 @@ void MeasureTest::everyKind()
     QFETCH(int, unitIndex);
     const testing::Sample& kind = testing::samples()[std::size_t(sample)];
     const Measured measured(kind.bytes(), R"({"points": [[0, 0], [239, 319], [240, 320]],
-        "lines": [[3, 4, 200, 310], [239, 0, 0, 319]], "rectangles": [[0, 0, 239, 319]],
+        "lines": [[3, 4, 200, 310], [239, 0, 0, 319], [7, 20, 7, 300]], "rectangles": [[0, 0, 239, 319]],
         "circles": [[0, 0, 0], [120, 160, 1], [10, 300, 60]]})");
 
     analysis::FileBuffer buffer;
@@ -218,7 +218,8 @@ void MeasureTest::everyKind()
     analysis::Photograph photograph;
     QVERIFY(analysis::read(buffer.bytes(), readCount, kind.settings.modelIndex, photograph));
     const QVector<overlay::PointTool> points{{"P0", 0, 0}, {"P1", 239, 319}, {"P2", 240, 320}};
-    const QVector<overlay::LineTool> lines{{"L0", 3, 4, 200, 310}, {"L1", 239, 0, 0, 319}};
+    const QVector<overlay::LineTool> lines{
+        {"L0", 3, 4, 200, 310}, {"L1", 239, 0, 0, 319}, {"L2", 7, 20, 7, 300}};
     const QVector<overlay::RectTool> rects{{"R0", 0, 0, 239, 319}};
     const QVector<overlay::CircleTool> circles{
         {"C0", 0, 0, 0, 0, 0}, {"C1", 120, 160, 0, 0, 1}, {"C2", 10, 300, 0, 0, 60}};
