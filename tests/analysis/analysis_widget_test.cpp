@@ -604,8 +604,12 @@ private slots:
         auto& table = child<QTableWidget>("tableWidget_2");
         emit table.itemEntered(table.item(0, 1));
         QCOMPARE(QToolTip::text(), QStringLiteral("shot.bmp"));
-        emit table.itemEntered(table.item(1, 1));
-        QTRY_VERIFY(!QToolTip::isVisible());
+        for (const auto* other : {table.item(1, 1), table.item(0, 0)}) {
+            emit table.itemEntered(table.item(0, 1));
+            QTRY_VERIFY(QToolTip::isVisible());
+            emit table.itemEntered(table.item(other->row(), other->column()));
+            QTRY_VERIFY(!QToolTip::isVisible());
+        }
     }
 
     void aFileNameIsNoMarkUp()

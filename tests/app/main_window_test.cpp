@@ -196,6 +196,16 @@ private slots:
         QTRY_VERIFY(window.liveWindow()->findChild<QLabel*>(QStringLiteral("label_17"))->pixmap());
     }
 
+    void theImagerIsFoundBesideAnotherCamera()
+    {
+        MainWindow window;
+        camera().plug({QStringLiteral("/dev/video7"), QStringLiteral("Webcam")});
+        camera().plug();
+        window.timeout_connect();
+        QCOMPARE(window.deviceState(), 2);
+        QCOMPARE(modeArea(window)->count(), 1);
+    }
+
     void otherCamerasAreNotTheImager_data()
     {
         QTest::addColumn<QString>("deviceName");
@@ -393,6 +403,14 @@ private slots:
         window.close();
         QVERIFY(!window.liveWindow() || !window.liveWindow()->isVisible());
         QVERIFY(!camera().isRunning());
+    }
+
+    void closingTheMainWindowEndsTheLooking()
+    {
+        MainWindow window;
+        window.show();
+        window.close();
+        QVERIFY(!window.isPolling());
     }
 
     void closeFromTheMenu()

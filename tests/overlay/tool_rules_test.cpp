@@ -143,9 +143,11 @@ private slots:
         QVector<RectTool> rects{rect(-1, -1, -1, -1), rect(3, 4, 3, 4), rect(0, 0, 1, 0)};
         prune(rects);
         QCOMPARE(rects.size(), 1);
-        QVector<CircleTool> circles{circle(-1, -1, 0), circle(3, 4, 0), circle(3, 4, 1)};
+        const CircleTool draggedDown{QStringLiteral("C0"), 3, 4, 3, 5, 1, Qt::red};
+        QVector<CircleTool> circles{circle(-1, -1, 0), circle(3, 4, 0), circle(3, 4, 1),
+                                    draggedDown};
         prune(circles);
-        QCOMPARE(circles.size(), 1);
+        QCOMPARE(circles.size(), 2);
     }
 
     void pointsAreHitInABoxTwoPixelsUpAndLeft_data()

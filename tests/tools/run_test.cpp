@@ -73,6 +73,7 @@ private slots:
     void progressBar();
     void interrupted_data();
     void interrupted();
+    void ignoredRequestStaysIgnored();
 };
 
 void RunTest::usage_data()
@@ -412,6 +413,13 @@ void RunTest::progressBar()
                        folder.path());
     QVERIFY(listing.output.startsWith('['));
     QVERIFY(!listing.output.contains("###"));
+
+    const Ended kept =
+        testing::shell(QStringLiteral("script --quiet --return --command "
+                                      "'\"$thermaphoto\" info --json . > kept' /dev/null"),
+                       folder.path());
+    QVERIFY(kept.output.startsWith("\r[##########--------------------] 1/3"));
+    QVERIFY(folder.read(QStringLiteral("kept")).startsWith('['));
 }
 
 void RunTest::interrupted_data()
@@ -452,6 +460,30 @@ void RunTest::interrupted()
     QVERIFY(process.readAllStandardError().contains("interrupted after "));
     QCOMPARE(folder.files().filter(QStringLiteral("out/")), QStringList("out/1.png"));
     QVERIFY(folder.read(QStringLiteral("out/1.png")).endsWith("IEND\xAE\x42\x60\x82"));
+}
+
+/// As under nohup: the terminal may be closed, the work goes on.
+void RunTest::ignoredRequestStaysIgnored()
+{
+    const Folder folder;
+    const QString slow = folder / QStringLiteral("1.bmp");
+    QCOMPARE(mkfifo(slow.toUtf8().constData(), 0600), 0);
+    folder.write(QStringLiteral("2.bmp"), photograph());
+
+    QProcess process;
+    process.setProcessEnvironment(testing::bareEnvironment());
+    process.setWorkingDirectory(folder.path());
+    process.start(QStringLiteral("sh"),
+                  {"-c", "trap '' HUP; exec \"$thermaphoto\" export --format png 1.bmp 2.bmp"});
+    QFile writer(slow);
+    QVERIFY(writer.open(QIODevice::WriteOnly)); // the program reads by now
+    QVERIFY(!catches(process.processId(), SIGHUP));
+    QCOMPARE(kill(pid_t(process.processId()), SIGHUP), 0);
+    writer.close();
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 1); // the first one was no photograph
+    QVERIFY(folder.read(QStringLiteral("2.png")).startsWith("\x89PNG"));
 }
 
 int main(int argc, char** argv)
