@@ -22,6 +22,6 @@ struct PhotographSettings
 
 /// A photograph of a field as the bytes of its file: a bitmap that any viewer opens, then the
 /// imager's blocks. Marker A stands on the coldest spot, B on the hottest, C in the centre.
-QByteArray photograph(const Field& field, const PhotographSettings& settings);
+QByteArray photograph(const Field& celsius, const PhotographSettings& settings);
 
 } // namespace simulator

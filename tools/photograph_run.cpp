@@ -5,7 +5,7 @@
 #include "tools/messages.h"
 
 #include <cerrno>
-#include <cstring>
+#include <system_error>
 
 namespace tools {
 namespace {
@@ -62,7 +62,7 @@ int run(const PhotographRun& photographs)
     }
     if (!canPrint || !print(photographs.after) || !flushOutput()) {
         printError(QStringLiteral("the output cannot be written: ") +
-                   QString::fromLocal8Bit(std::strerror(errno)));
+                   QString::fromLocal8Bit(std::generic_category().message(errno).c_str()));
         return status::someFailed;
     }
     return failed == 0 ? status::good : status::someFailed;

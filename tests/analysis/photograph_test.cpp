@@ -53,7 +53,7 @@ float expectedTemperature(int maximum10, int minimum10, int grayMaximum, int gra
 
 quint32 bitsOf(float value)
 {
-    quint32 bits;
+    quint32 bits = 0;
     std::memcpy(&bits, &value, sizeof bits);
     return bits;
 }

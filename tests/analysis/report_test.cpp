@@ -219,9 +219,8 @@ QStringList filesIn(const QString& folder)
 class FullDisk
 {
 public:
-    FullDisk()
+    FullDisk() : m_handler(std::signal(SIGXFSZ, SIG_IGN))
     {
-        m_handler = std::signal(SIGXFSZ, SIG_IGN);
         getrlimit(RLIMIT_FSIZE, &m_before);
         rlimit limit = m_before;
         limit.rlim_cur = 20'000;
