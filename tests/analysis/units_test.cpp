@@ -28,7 +28,7 @@ QString nameOf(const Conversion& pair)
 
 float fromBits(quint32 bits)
 {
-    float value;
+    float value = 0;
     std::memcpy(&value, &bits, sizeof value);
     return value;
 }

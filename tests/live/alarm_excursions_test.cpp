@@ -66,7 +66,7 @@ private slots:
 int main(int argc, char** argv)
 {
     if (argc == 3 && std::strcmp(argv[1], "--excursions") == 0) {
-        excursions = std::atoi(argv[2]);
+        excursions = QByteArray(argv[2]).toInt();
         argc = 1;
         qputenv("QTEST_FUNCTION_TIMEOUT", "3600000");
     }

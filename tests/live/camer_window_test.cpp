@@ -40,9 +40,8 @@ class Owner : public QWidget
     Q_OBJECT
 
 public:
-    explicit Owner(Page& page) : m_page(page)
+    explicit Owner(Page& page) : m_page(page), m_layout(new QVBoxLayout(this))
     {
-        m_layout = new QVBoxLayout(this);
         m_layout->addWidget(&page.window());
         page->setOwner(this);
         resize(900, 640);
