@@ -24,50 +24,30 @@ constexpr Shuffle repeatHalf(int half)
     return shuffle;
 }
 
-/// The first 16 of the 24 bytes R, G, B … of eight pixels, or the last 8 in the lower or upper
-/// half.
-struct Piece
-{
-    int firstByte; ///< among the 24
-    int from;      ///< where in the lane it begins
-    int count;
-};
-constexpr Piece head{0, 0, 16};
-constexpr Piece tailBelow{16, 0, 8};
-constexpr Piece tailAbove{16, 8, 8};
-
-/// What eight R followed by eight G give to a piece.
-constexpr Shuffle fromRedGreen(Piece piece)
+/// Sixteen pixels become 48 bytes R, G, B …, in three pieces of a lane each. What the R and G of
+/// eight of these pixels, eight R followed by eight G, give to a piece. `firstPixel` is 0 or 8.
+constexpr Shuffle fromRedGreen(int piece, int firstPixel)
 {
     Shuffle shuffle{};
     for (int i = 0; i < 16; ++i) {
-        const int byte = piece.firstByte + i - piece.from;
-        const bool here = i >= piece.from && i < piece.from + piece.count && byte % 3 < 2;
+        const int byte = 16 * piece + i;
+        const int pixel = byte / 3 - firstPixel;
+        const bool here = byte % 3 < 2 && pixel >= 0 && pixel < 8;
         shuffle[std::size_t(i)] = shuffle[std::size_t(i) + 16] =
-            here ? char(byte % 3 * 8 + byte / 3) : nothing;
+            here ? char(byte % 3 * 8 + pixel) : nothing;
     }
     return shuffle;
 }
 
-/// What eight B give, which stand at `first` of the lane.
-constexpr Shuffle fromBlue(Piece piece, int first)
+/// What the sixteen B give to a piece.
+constexpr Shuffle fromBlue(int piece)
 {
     Shuffle shuffle{};
     for (int i = 0; i < 16; ++i) {
-        const int byte = piece.firstByte + i - piece.from;
-        const bool here = i >= piece.from && i < piece.from + piece.count && byte % 3 == 2;
+        const int byte = 16 * piece + i;
         shuffle[std::size_t(i)] = shuffle[std::size_t(i) + 16] =
-            here ? char(first + byte / 3) : nothing;
+            byte % 3 == 2 ? char(byte / 3) : nothing;
     }
-    return shuffle;
-}
-
-/// Both, where each gives what the other leaves out.
-constexpr Shuffle merged(Shuffle shuffle, const Shuffle& other)
-{
-    for (std::size_t i = 0; i < shuffle.size(); ++i)
-        if (shuffle[i] == nothing)
-            shuffle[i] = other[i];
     return shuffle;
 }
 
@@ -110,32 +90,29 @@ Channels<typename Vector::Register> channels(typename Vector::Register yuyv)
             Vector::add16(luma, Vector::shuffle(blueRed, low))};
 }
 
-/// Converts `block` pixels: in each lane eight from the first half, eight from the second.
+/// Converts sixteen pixels a lane, one lane's behind the other's.
 template<typename Vector>
 void convertBlock(const uchar* yuyv, uchar* rgb)
 {
-    alignas(32) static constexpr Shuffle redGreenHead = fromRedGreen(head);
-    alignas(32) static constexpr Shuffle redGreenTailA = fromRedGreen(tailBelow);
-    alignas(32) static constexpr Shuffle redGreenTailB = fromRedGreen(tailAbove);
-    alignas(32) static constexpr Shuffle blueHeadA = fromBlue(head, 0);
-    alignas(32) static constexpr Shuffle blueHeadB = fromBlue(head, 8);
-    alignas(32) static constexpr Shuffle blueTails =
-        merged(fromBlue(tailBelow, 0), fromBlue(tailAbove, 8));
+    alignas(32) static constexpr Shuffle redGreen0 = fromRedGreen(0, 0);
+    alignas(32) static constexpr Shuffle redGreen1A = fromRedGreen(1, 0);
+    alignas(32) static constexpr Shuffle redGreen1B = fromRedGreen(1, 8);
+    alignas(32) static constexpr Shuffle redGreen2 = fromRedGreen(2, 8);
+    alignas(32) static constexpr Shuffle blue0 = fromBlue(0);
+    alignas(32) static constexpr Shuffle blue1 = fromBlue(1);
+    alignas(32) static constexpr Shuffle blue2 = fromBlue(2);
 
     const auto a = channels<Vector>(Vector::load(yuyv));
-    const auto b = channels<Vector>(Vector::load(yuyv + 16 * Vector::lanes));
+    const auto b = channels<Vector>(Vector::load(yuyv + 16));
     const auto redGreenA = Vector::saturate(a.red, a.green);
     const auto redGreenB = Vector::saturate(b.red, b.green);
     const auto blue = Vector::saturate(a.blue, b.blue);
-    uchar* const second = rgb + 24 * Vector::lanes;
-    Vector::storeHeads(rgb, Vector::bitOr(Vector::shuffle(redGreenA, redGreenHead),
-                                          Vector::shuffle(blue, blueHeadA)));
-    Vector::storeHeads(second, Vector::bitOr(Vector::shuffle(redGreenB, redGreenHead),
-                                             Vector::shuffle(blue, blueHeadB)));
-    Vector::storeTails(rgb, second,
-                       Vector::bitOr(Vector::bitOr(Vector::shuffle(redGreenA, redGreenTailA),
-                                                   Vector::shuffle(redGreenB, redGreenTailB)),
-                                     Vector::shuffle(blue, blueTails)));
+    Vector::store(
+        rgb, Vector::bitOr(Vector::shuffle(redGreenA, redGreen0), Vector::shuffle(blue, blue0)),
+        Vector::bitOr(Vector::bitOr(Vector::shuffle(redGreenA, redGreen1A),
+                                    Vector::shuffle(redGreenB, redGreen1B)),
+                      Vector::shuffle(blue, blue1)),
+        Vector::bitOr(Vector::shuffle(redGreenB, redGreen2), Vector::shuffle(blue, blue2)));
 }
 
 template<typename Vector>

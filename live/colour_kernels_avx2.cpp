@@ -12,19 +12,20 @@ struct Avx2
     using Register = __m256i;
     static constexpr int lanes = 2;
 
+    /// The upper lane takes what comes 16 pixels later.
     static Register load(const uchar* p)
     {
-        return _mm256_loadu_si256(reinterpret_cast<const __m256i*>(p));
+        const auto* const from = reinterpret_cast<const __m128i*>(p);
+        return _mm256_inserti128_si256(_mm256_castsi128_si256(_mm_loadu_si128(from)),
+                                       _mm_loadu_si128(from + 2), 1);
     }
-    static void storeHeads(uchar* p, Register r)
+    /// The lower lanes of all three, then the upper ones.
+    static void store(uchar* p, Register first, Register second, Register third)
     {
-        _mm_storeu_si128(reinterpret_cast<__m128i*>(p), _mm256_castsi256_si128(r));
-        _mm_storeu_si128(reinterpret_cast<__m128i*>(p + 24), _mm256_extracti128_si256(r, 1));
-    }
-    static void storeTails(uchar* p, uchar* q, Register r)
-    {
-        storeTails(p, q, _mm256_castsi256_si128(r));
-        storeTails(p + 24, q + 24, _mm256_extracti128_si256(r, 1));
+        auto* const to = reinterpret_cast<__m256i*>(p);
+        _mm256_storeu_si256(to, _mm256_permute2x128_si256(first, second, 0x20));
+        _mm256_storeu_si256(to + 1, _mm256_blend_epi32(third, first, 0xF0));
+        _mm256_storeu_si256(to + 2, _mm256_permute2x128_si256(second, third, 0x31));
     }
     static Register pairs(short even, short odd)
     {
@@ -49,13 +50,6 @@ struct Avx2
     {
         return _mm256_shuffle_epi8(
             a, _mm256_load_si256(reinterpret_cast<const __m256i*>(shuffle.data())));
-    }
-
-private:
-    static void storeTails(uchar* p, uchar* q, __m128i r)
-    {
-        _mm_storel_epi64(reinterpret_cast<__m128i*>(p + 16), r);
-        _mm_storeh_pi(reinterpret_cast<__m64*>(q + 16), _mm_castsi128_ps(r));
     }
 };
 

@@ -16,14 +16,12 @@ struct Ssse3
     {
         return _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
     }
-    static void storeHeads(uchar* p, Register r)
+    static void store(uchar* p, Register first, Register second, Register third)
     {
-        _mm_storeu_si128(reinterpret_cast<__m128i*>(p), r);
-    }
-    static void storeTails(uchar* p, uchar* q, Register r)
-    {
-        _mm_storel_epi64(reinterpret_cast<__m128i*>(p + 16), r);
-        _mm_storeh_pi(reinterpret_cast<__m64*>(q + 16), _mm_castsi128_ps(r));
+        auto* const to = reinterpret_cast<__m128i*>(p);
+        _mm_storeu_si128(to, first);
+        _mm_storeu_si128(to + 1, second);
+        _mm_storeu_si128(to + 2, third);
     }
     static Register pairs(short even, short odd)
     {
