@@ -258,8 +258,7 @@ private:
         bool inView = false;
         for (int i = 0; i < m_list->count(); ++i) {
             const bool before = inView;
-            inView = m_list->visualItemRect(m_list->item(i))
-                         .intersects(m_list->viewport()->rect());
+            inView = m_list->visualItemRect(m_list->item(i)).intersects(m_list->viewport()->rect());
             if (before && !inView)
                 return true;
             if (inView && m_window.thumbnails.at(i).isNull())

@@ -36,8 +36,8 @@ private:
 
 QVideoFrame videoFrame(int maximumTenths)
 {
-    return {new Buffer(bench::liveFrame(maximumTenths)),
-            QSize(live::frameColumns, live::frameRows), QVideoFrame::Format_YUYV};
+    return {new Buffer(bench::liveFrame(maximumTenths)), QSize(live::frameColumns, live::frameRows),
+            QVideoFrame::Format_YUYV};
 }
 
 /// The page with its picture at 600 × 800, on the screen.

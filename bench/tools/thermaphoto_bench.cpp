@@ -41,17 +41,16 @@ public:
             const simulator::Scene scene(simulator::SceneKind(i % 4), unsigned(i));
             const QByteArray bytes =
                 simulator::photograph(scene.field(i, scene.usualHotSpot()), {});
-            const auto name = [](int number) { return QStringLiteral("/IR_%1.bmp").arg(number); };
+            const auto name = [](int number) {
+                return QStringLiteral("/IR_%1.bmp").arg(number);
+            };
             write(photographFolder(20) + name(i), bytes);
             for (int copy = i; copy < 200; copy += 20)
                 write(photographFolder(200) + name(copy), bytes);
         }
     }
     QString toolFile() const { return m_folder.filePath(QStringLiteral("tools.json")); }
-    QString photographFolder(int count) const
-    {
-        return m_folder.filePath(QString::number(count));
-    }
+    QString photographFolder(int count) const { return m_folder.filePath(QString::number(count)); }
     QString emptyOutput() const
     {
         QDir output(m_folder.filePath(QStringLiteral("out")));
@@ -77,11 +76,11 @@ void thermaphoto(benchmark::State& state, const QString& job)
         QStringList arguments{QStringLiteral("--jobs"), QStringLiteral("1"),
                               folders().photographFolder(count)};
         if (job == QLatin1String("measure"))
-            arguments = QStringList{job, "--format", "json", "--tools", folders().toolFile()} +
-                        arguments;
+            arguments =
+                QStringList{job, "--format", "json", "--tools", folders().toolFile()} + arguments;
         else
-            arguments = QStringList{"export", "--format", job, "-o", folders().emptyOutput()} +
-                        arguments;
+            arguments =
+                QStringList{"export", "--format", job, "-o", folders().emptyOutput()} + arguments;
         const bench::ChildProcess ran = bench::run(QStringLiteral(THERMAPHOTO), arguments);
         if (!ran.succeeded)
             state.SkipWithError("thermaphoto failed");
@@ -93,10 +92,9 @@ void inNumpy(benchmark::State& state, const QString& job)
 {
     const int count = photographs(job);
     for ([[maybe_unused]] auto _ : state) {
-        const bench::ChildProcess script =
-            bench::run(bench::pythonWithNumpy(),
-                       {QStringLiteral(NUMPY_SCRIPT), job, folders().photographFolder(count),
-                        folders().emptyOutput()});
+        const bench::ChildProcess script = bench::run(
+            bench::pythonWithNumpy(), {QStringLiteral(NUMPY_SCRIPT), job,
+                                       folders().photographFolder(count), folders().emptyOutput()});
         if (!script.succeeded)
             state.SkipWithError("NumPy is not installed");
         state.SetIterationTime(script.output.trimmed().toDouble() / count);
