@@ -149,12 +149,12 @@ void MainWindow::dropOldSettingsDialogs()
     if (m_settingsDialogs.empty())
         return;
     const auto last = m_settingsDialogs.end() - 1;
-    m_settingsDialogs.erase(
-        std::remove_if(m_settingsDialogs.begin(), last,
-                       [](const std::unique_ptr<seting>& dialog) {
-                           return !dialog->isVisible() && !dialog->findChild<QDialog*>();
-                       }),
-        last);
+    m_settingsDialogs.erase(std::remove_if(m_settingsDialogs.begin(), last,
+                                           [](const std::unique_ptr<seting>& dialog) {
+                                               return !dialog->isVisible() &&
+                                                      !dialog->findChild<QDialog*>();
+                                           }),
+                            last);
 }
 
 void MainWindow::Action_connect()
