@@ -144,7 +144,6 @@ camer_window::camer_window(QWidget* parent)
     ui->listWidget_2->setUniformItemSizes(true);
     ui->listWidget_2->setIconSize({30, 30});
     ui->listWidget_3->setViewMode(QListView::IconMode);
-    ui->listWidget_3->setMovement(QListView::Static); // icon mode has set it free
     ui->listWidget_3->setIconSize({70, 70});
     ui->listWidget_3->setSpacing(30);
     const QPixmap folder(QStringLiteral("://photo/folder.png"));
