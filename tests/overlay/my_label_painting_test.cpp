@@ -415,35 +415,77 @@ private slots:
         compare(label.grab().toImage(), label.devicePixelRatioF(), toolsOnWideLabel(red, red));
     }
 
-    void namesStandBesideTheirTools_data()
+    /// A picture that is stretched to twice its height makes no ovals.
+    void circlesFollowTheVerticalScale()
     {
-        QTest::addColumn<QPoint>("at");
-        QTest::addColumn<QRect>("box");
-        // m = 18. At (120, 160) and before: 3 right, 2 below. Beyond: 24 left, 21 above.
-        QTest::newRow("left, above") << QPoint(120, 160) << QRect(260 + 3, 320 + 2, 60, 30);
-        QTest::newRow("right, above") << QPoint(121, 160) << QRect(262 - 24, 320 + 2, 60, 30);
-        QTest::newRow("left, below") << QPoint(120, 161) << QRect(260 + 3, 322 - 21, 60, 30);
-        QTest::newRow("right, below") << QPoint(121, 161) << QRect(262 - 24, 322 - 21, 60, 30);
+        MyLabel label;
+        prepare(label, {300, 640}, {240, 640});
+        label.circleList = {{QString(), 110, 150, 140, 150, 30, blue}};
+        Description description;
+        description.picture = QRect(30, 0, 240, 640);
+        description.rings.push_back({{140, 300}, 60, blue});
+        compare(label.grab().toImage(), label.devicePixelRatioF(), description);
     }
 
-    /// Of a name it is known where its box begins, not which of its pixels a font fills.
+    void namesStandBesideTheirTools_data()
+    {
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<QPoint>("from");
+        QTest::addColumn<QPoint>("to");
+        QTest::addColumn<QPoint>("name");
+        // Nine image pixels are 18. Column x stands at 20 + 2x, row y at 2y.
+        const auto row = [](const char* title, QPoint from, QPoint to, QPoint name) {
+            QTest::newRow(title) << QString(QLatin1Char(*title)) << from << to << name;
+        };
+        // Up to the middle: 3 right, 2 below. Beyond: 24 left, 21 above.
+        row("P, left, above", {120, 160}, {}, {260 + 3, 320 + 2});
+        row("P, right, above", {121, 160}, {}, {262 - 24, 320 + 2});
+        row("P, left, below", {120, 161}, {}, {260 + 3, 322 - 21});
+        row("P, right, below", {121, 161}, {}, {262 - 24, 322 - 21});
+        // At a line's end; up to the middle without a distance.
+        row("L, left, above", {200, 300}, {120, 160}, {260, 320});
+        row("L, right, above", {20, 300}, {121, 160}, {262 - 24, 320});
+        row("L, left, below", {200, 20}, {120, 161}, {260, 322 - 21});
+        row("L, right, below", {20, 20}, {121, 161}, {262 - 24, 322 - 21});
+        // At a rectangle's drag corner and a circle's centre; up to the label's middle: 4, 4.
+        row("R, left, above", {200, 300}, {120, 160}, {260 + 4, 320 + 4});
+        row("R, right, above", {20, 300}, {121, 160}, {262 - 24, 320 + 4});
+        row("R, left, below", {200, 20}, {120, 161}, {260 + 4, 322 - 21});
+        row("R, right, below", {20, 20}, {121, 161}, {262 - 24, 322 - 21});
+        row("C, left, above", {120, 160}, {140, 160}, {260 + 4, 320 + 4});
+        row("C, right, above", {121, 160}, {141, 160}, {262 - 24, 320 + 4});
+        row("C, left, below", {120, 161}, {140, 161}, {260 + 4, 322 - 21});
+        row("C, right, below", {121, 161}, {141, 161}, {262 - 24, 322 - 21});
+    }
+
     void namesStandBesideTheirTools()
     {
-        QFETCH(QPoint, at);
-        QFETCH(QRect, box);
+        QFETCH(QString, kind);
+        QFETCH(QPoint, from);
+        QFETCH(QPoint, to);
+        QFETCH(QPoint, name);
         MyLabel label;
         prepare(label, {520, 640}, {480, 640});
-        label.pointList = {{QString(), at.x(), at.y(), 9, red}};
-        const QImage nameless = label.grab().toImage();
-        label.pointList[0].name = QStringLiteral("P0");
-        QRect changed = changedArea(nameless, label.grab().toImage());
-        QVERIFY(!changed.isEmpty());
-        const double ratio = label.devicePixelRatioF();
-        const QRectF found(changed.x() / ratio, changed.y() / ratio, changed.width() / ratio,
-                           changed.height() / ratio);
-        QVERIFY(QRectF(box).contains(found));
-        QVERIFY(found.x() < box.x() + 6);
-        QVERIFY(found.height() >= 8 && found.height() <= 20); // letters of 16 pixels
+        const auto place = [&](const QString& text) {
+            if (kind == QLatin1String("P"))
+                label.pointList = {{text, from.x(), from.y(), 9, red}};
+            else if (kind == QLatin1String("L"))
+                label.lineList = {{text, from.x(), from.y(), to.x(), to.y(), red}};
+            else if (kind == QLatin1String("R"))
+                label.rectList = {{text, from.x(), from.y(), to.x(), to.y(), red}};
+            else
+                label.circleList = {{text, from.x(), from.y(), to.x(), to.y(), 20, red}};
+            return label.grab().toImage();
+        };
+        const QImage nameless = place({});
+        const QImage named = place(kind + QStringLiteral("12"));
+        QVERIFY(!changedArea(nameless, named).isEmpty());
+        QFont font(QStringLiteral("Microsoft YaHei"));
+        font.setWeight(50);
+        font.setPixelSize(16); // nine tenths of 18
+        const QImage expected =
+            withText(nameless, label.devicePixelRatioF(), name, kind + QStringLiteral("12"), font);
+        QCOMPARE(differingPixels(named, expected, named.rect()), 0);
     }
 
     // Markers
@@ -468,6 +510,37 @@ private slots:
                             QColor(0, 255, 0)));
         QVERIFY(holdsColour(image, label.devicePixelRatioF(), QRect(360, 498, 16, 30),
                             QColor(255, 0, 0)));
+    }
+
+    void theLettersOfTheSpots_data()
+    {
+        QTest::addColumn<int>("column");
+        QTest::addColumn<int>("letter");
+        QTest::addColumn<QRect>("area");
+        // Four image pixels are 8, so letters have 20. Where the cross is, is not looked at.
+        QTest::newRow("right") << 120 << 260 + 10 << QRect(266, 90, 60, 50);
+        QTest::newRow("left") << 121 << 262 - 20 << QRect(230, 90, 26, 50);
+    }
+
+    void theLettersOfTheSpots()
+    {
+        QFETCH(int, column);
+        QFETCH(int, letter);
+        QFETCH(QRect, area);
+        MyLabel label;
+        prepare(label, {520, 640}, {480, 640});
+        const QImage plain = label.grab().toImage();
+        QFont font(QStringLiteral("Microsoft YaHei"));
+        font.setWeight(75);
+        font.setPixelSize(20);
+        const double ratio = label.devicePixelRatioF();
+        const QRect pixels(static_cast<int>(area.x() * ratio), static_cast<int>(area.y() * ratio),
+                           static_cast<int>(area.width() * ratio),
+                           static_cast<int>(area.height() * ratio));
+        label.markerB = {qint16(column), 50};
+        QImage expected = withText(plain, ratio, {letter, 98}, QStringLiteral("H"), font);
+        QVERIFY(differingPixels(plain, expected, pixels) > 20);
+        QCOMPARE(differingPixels(label.grab().toImage(), expected, pixels), 0);
     }
 
     void theReticle()
@@ -608,6 +681,35 @@ private:
                 description.strokes.push_back(
                     {{centre + across + 4 * arm, centre + across + 2 * arm}, colour});
             }
+    }
+
+    /// The picture with a red text whose box begins at `place`, in the label's pixels.
+    static QImage withText(QImage image, double ratio, const QPoint& place, const QString& text,
+                           const QFont& font)
+    {
+        QPixmap layer(image.size());
+        layer.setDevicePixelRatio(ratio);
+        layer.fill(Qt::transparent);
+        QPainter painter(&layer);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setFont(font);
+        painter.setPen(red);
+        painter.drawText(QRect(place, QSize(60, 30)), 0, text);
+        painter.end();
+        image.setDevicePixelRatio(ratio);
+        QPainter(&image).drawPixmap(0, 0, layer);
+        return image;
+    }
+
+    /// Layers that are put together in another order round a little differently.
+    static int differingPixels(const QImage& actual, const QImage& expected, const QRect& area)
+    {
+        int count = 0;
+        for (int y = area.top(); y <= area.bottom(); ++y)
+            for (int x = area.left(); x <= area.right(); ++x)
+                if (!alike(actual.pixelColor(x, y), expected.pixelColor(x, y)))
+                    ++count;
+        return count;
     }
 
     static QRect changedArea(const QImage& before, const QImage& after)
