@@ -53,6 +53,8 @@ private slots:
     void positionsOutsideTheTravelGiveValuesOutside()
     {
         QCOMPARE(overlay::valueAt(9, 30).value(), -25); // −25.5 + 0.5, toward zero
+        QCOMPARE(overlay::valueAt(9, 276).value(), 0);  // −0.996 + 0.5, toward zero
+        QCOMPARE(overlay::valueAt(8, 276).value(), -1); // −1.992 + 0.5
         QVERIFY(overlay::valueAt(30, 30).value() > 255);
         QCOMPARE(overlay::paletteStep(-25), 0);
         QCOMPARE(overlay::paletteStep(0), 0);

@@ -289,6 +289,11 @@ private slots:
         label.setToolMode(0);
         QCOMPARE(label.toolMode, 0);
         QCOMPARE(label.newIndex, 0);
+        label.pointList = {{QStringLiteral("P0"), 5, 5, 9, Qt::red}};
+        label.setToolMode(2);
+        QCOMPARE(label.newIndex, 1);
+        label.setToolMode(1);
+        QCOMPARE(label.newIndex, 0);
     }
 
     void aPressPlacesAPointAndSelectsIt()
@@ -565,9 +570,12 @@ private slots:
         host.heard.clear();
         bool drawingWhenSelected = false;
         connect(&label, &MyLabel::Set_Select, this, [&] { drawingWhenSelected = label.drawing; });
+        bool drawingWhenMeasured = true;
+        connect(&label, &MyLabel::updat_Tool, this, [&] { drawingWhenMeasured = label.drawing; });
         mouse.release({200, 200});
         QCOMPARE(host.heard, QStringList({"focus 3", "select 0", "tool"}));
         QVERIFY(drawingWhenSelected);
+        QVERIFY(!drawingWhenMeasured);
         QVERIFY(!label.drawing);
         // the next line was prepared meanwhile
         QCOMPARE(label.lineList.size(), 2);
