@@ -181,6 +181,22 @@ private slots:
         QVERIFY(readings.threshold == threshold);
         QVERIFY(readings.emissivity == emissivity);
     }
+
+    /// The nearest single precision number to the quotient, which a product of tenths is not.
+    void everyWordIsDividedExactly()
+    {
+        std::vector<uchar> frame = frameOf(1, 2, 3, 4);
+        for (int word = 0; word < 65536; ++word) {
+            for (std::size_t place = 153600; place < 153606; place += 2) {
+                frame[place] = uchar(word & 255);
+                frame[place + 1] = uchar(word >> 8);
+            }
+            const live::Readings readings = live::readings(frame.data());
+            if (readings.maximum != float(word / 10.0) || readings.threshold != readings.maximum ||
+                readings.emissivity != float(word / 100.0))
+                QFAIL(qPrintable(QString::number(word)));
+        }
+    }
 };
 
 int main(int argc, char** argv)
