@@ -53,12 +53,14 @@ public:
             m_page->setParent(nullptr); // the page is its test's
     }
     QList<bool> heard;
+    QList<bool> subWindow; ///< whether the page was one, each time it came back
     int disconnects = 0;
 
 public slots:
     void fullscr(bool sta)
     {
         heard.append(sta);
+        subWindow.append(m_page->windowFlags().testFlag(Qt::SubWindow));
         m_layout->addWidget(&m_page.window());
         m_page->show();
     }
@@ -130,6 +132,7 @@ private slots:
     void reachesTheOwner();
 
     void showsTheFrames();
+    void pictureIsScaledSmoothly();
     void pictureIsScaledOncePerFrame();
     void frameRepaintsThePictureAlone();
     void keepsSevenPictures();
@@ -140,6 +143,7 @@ private slots:
     void cameraErrorStopsTheCamera();
     void reopensTheCamera();
     void reopeningWithoutImager();
+    void reopeningFindsNoImagerAnyMore();
 
     void doubleClickStrictlyInside_data();
     void doubleClickStrictlyInside();
@@ -358,6 +362,25 @@ void CamerWindowTest::showsTheFrames()
     QCOMPARE(page.text("label_8"), QStringLiteral("0.97"));
 }
 
+void CamerWindowTest::pictureIsScaledSmoothly()
+{
+    const Page page;
+    page->show();
+    QImage stripes(240, 320, QImage::Format_RGB888);
+    for (int y = 0; y < stripes.height(); ++y)
+        for (int x = 0; x < stripes.width(); ++x)
+            stripes.setPixelColor(x, y, x % 2 == 0 ? Qt::black : Qt::white);
+    page->display_cap(stripes);
+    const QImage shown = page.get<QLabel>("label_17")->pixmap()->toImage();
+    QVERIFY(shown.width() != 240);
+    int between = 0;
+    for (int x = 0; x < shown.width(); ++x) {
+        const int gray = shown.pixelColor(x, shown.height() / 2).red();
+        between += gray > 60 && gray < 195;
+    }
+    QVERIFY(between > shown.width() / 10);
+}
+
 void CamerWindowTest::pictureIsScaledOncePerFrame()
 {
     const Page page;
@@ -450,6 +473,7 @@ void CamerWindowTest::withoutImager()
 void CamerWindowTest::cameraErrorStopsTheCamera()
 {
     const Page page;
+    QCOMPARE(page->healthTimer->interval(), 300);
     QTRY_VERIFY(page->cameraRunning); // the health poll runs by itself
     QVERIFY(deliver(70));
     camera().reportError();
@@ -488,6 +512,16 @@ void CamerWindowTest::reopeningWithoutImager()
     page->reopenCamera();
     QVERIFY(page->camera);
     QVERIFY(!deliver());
+}
+
+/// The camera there was goes on, whatever it calls itself now.
+void CamerWindowTest::reopeningFindsNoImagerAnyMore()
+{
+    const Page page;
+    QVERIFY(deliver());
+    camera().plug({simulator::imagerIdentity().deviceName, QStringLiteral("Another camera")});
+    page->reopenCamera();
+    QVERIFY(deliver());
 }
 
 void CamerWindowTest::doubleClickStrictlyInside_data()
@@ -569,6 +603,7 @@ void CamerWindowTest::fullScreenAndBack()
         QCOMPARE(owner.heard.size(), 2 * round);
     }
     QVERIFY(!owner.heard.contains(true));
+    QCOMPARE(owner.subWindow, QList<bool>({true, true, true, true}));
 }
 
 void CamerWindowTest::escapeWhileEmbedded()
