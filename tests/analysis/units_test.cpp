@@ -198,6 +198,9 @@ private slots:
         QCOMPARE(fahrenheit[7], QStringLiteral("212.0"));
         QCOMPARE(fahrenheit[8], QStringLiteral("22.1"));
         QCOMPARE(fahrenheit[9], QStringLiteral("77.0"));
+        // Anything but Fahrenheit counts as Celsius, a selector without a choice, too.
+        QCOMPARE(texts(-1, analysis::unchanged, 25.0)[5], QStringLiteral("°C"));
+        QCOMPARE(texts(2, analysis::unchanged, 25.0)[5], QStringLiteral("°C"));
         // Neither all in single precision nor with constants in double precision: both show 20.0.
         QCOMPARE(texts(1, analysis::toFahrenheit, -28.8634203)[9], QStringLiteral("-19.9"));
         QCOMPARE(texts(0, analysis::toCelsius, -3.365998999999995)[9], QStringLiteral("-19.7"));
