@@ -62,12 +62,15 @@ QStringList pdfFonts(const QString& path)
         .mid(2); // headings
 }
 
-QImage pdfPage(const QString& path, int page, int resolution)
+QImage pdfPage(const QString& path, int page, int resolution, const QRect& area)
 {
     const QString number = QString::number(page);
-    return QImage::fromData(
-        output(QStringLiteral("pdftoppm"), {"-r", QString::number(resolution), "-f", number, "-l",
-                                            number, "-singlefile", path}));
+    QStringList arguments{"-r",         QString::number(resolution), "-f", number, "-l", number,
+                          "-singlefile"};
+    if (!area.isNull())
+        arguments += {"-x", QString::number(area.x()),     "-y", QString::number(area.y()),
+                      "-W", QString::number(area.width()), "-H", QString::number(area.height())};
+    return QImage::fromData(output(QStringLiteral("pdftoppm"), arguments << path));
 }
 
 QVector<QImage> pdfImages(const QString& path)

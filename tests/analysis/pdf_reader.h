@@ -28,8 +28,8 @@ QString pdfInfo(const QString& path, const QString& key);
 /// One line for each font: name, type, encoding, emb, sub, uni, object ID.
 QStringList pdfFonts(const QString& path);
 
-/// A page (from 1) as a picture with the given dots per inch.
-QImage pdfPage(const QString& path, int page, int resolution);
+/// A page (from 1) as a picture with the given dots per inch, or an area of it, in these dots.
+QImage pdfPage(const QString& path, int page, int resolution, const QRect& area = {});
 
 /// The pictures embedded in the file, without their masks.
 QVector<QImage> pdfImages(const QString& path);

@@ -13,6 +13,7 @@
 #include <memory>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <tuple>
 
 using analysis::Report;
 
@@ -429,6 +430,62 @@ private slots:
         }
         QVERIFY(!dark(second, 1820, 975));
         QVERIFY(!dark(second, 1820, 2775));
+    }
+
+    void rulesAreFivePixelsWide()
+    {
+        const QString path = m_folder->filePath("report.pdf");
+        QVERIFY(analysis::writeReport(testing::sampleReport("CH", 0, 3), path));
+        constexpr int resolution = 2400; // ten rows of dots
+        const auto thickness = [&](int page, int x, int y) {
+            const QImage strip =
+                testing::pdfPage(path, page, resolution,
+                                 {qRound(points(x) / 72 * resolution),
+                                  qRound(points(y) / 72 * resolution) - 30, 3, 60});
+            int dark = 0;
+            for (int row = 0; row < strip.height(); ++row)
+                dark += qGray(strip.pixel(1, row)) < 128;
+            return dark;
+        };
+        for (const auto& [page, x, y] :
+             {std::tuple(1, 5000, 900), std::tuple(2, 5000, 900), std::tuple(2, 1410, 1275)}) {
+            const int dots = thickness(page, x, y);
+            QVERIFY2(std::abs(dots - 10) <= 1, qPrintable(QString::number(dots)));
+        }
+    }
+
+    void titlesAreBold()
+    {
+        const Language installed("EN");
+        const QString path = m_folder->filePath("report.pdf");
+        QVERIFY(analysis::writeReport(testing::sampleReport("EN", 0, 3), path));
+        const auto pages = testing::pdfWords(path);
+        const Words w = words("EN");
+        const auto printed = asPrinted({{w.imageInformation, 600, 800, 75},
+                                        {w.measurements, 600, 800, 75},
+                                        {w.imageInformation, 600, 800, 50},
+                                        {w.measurements, 600, 800, 50}},
+                                       "EN", m_folder->filePath("printed.pdf"));
+        for (int page = 0; page < 2; ++page) {
+            const auto width = [](const testing::PdfWord& word) {
+                return word.box.width();
+            };
+            const double bold = width(printed[page].first());
+            QVERIFY(std::abs(width(printed[page + 2].first()) - bold) > 0.5);
+            QVERIFY(std::abs(width(pages[page].first()) - bold) < 0.2);
+        }
+    }
+
+    void withoutAChoiceOfUnitTheTableIsInFahrenheit()
+    {
+        const Language installed("EN");
+        Report report = testing::sampleReport("EN", 0, 3);
+        const QString path = m_folder->filePath("report.pdf");
+        for (const int index : {-1, 2}) {
+            report.unitIndex = index;
+            QVERIFY(analysis::writeReport(report, path));
+            QVERIFY(testing::pdfText(path).contains(words("EN").measurements + "(°F)"));
+        }
     }
 
     void pictureStandsInItsPlaceWithItsShape()
