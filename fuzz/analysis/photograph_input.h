@@ -14,13 +14,14 @@ struct PhotographFile
     int modelIndex; ///< what the caller passes: 0 and 1 mostly
     /// analysis::FileBuffer::size bytes: the file, then what a buffer holds behind it: zeros.
     const std::uint8_t* bytes;
-    int size; ///< of the file
+    int size;   ///< of the file, as far as anyone reads it: at most the above
+    int beyond; ///< further bytes, all zeros
 };
 
 /// Takes from the input, in this order:
 ///   u8       model index: 0, 1 or any other
-///   u8, u24  size of the file: as the imager makes it, with or without raw image, or nearly so, or
-///            any up to 450,000
+///   u8, u24  size of the file: as the imager makes it, with or without raw image, or nearly so,
+///            any up to 450,000, or so large that it is not read to its end
 ///   46 bytes parameter block
 ///   54 bytes bitmap header, of which the first two are the file's type
 ///   u16      n, then n bytes (at most 512): the beginning of the palette
