@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QtEndian>
 
+#include <array>
 #include <cstdio>
 #include <cstdlib>
 
@@ -141,7 +142,7 @@ void addAlarmRecords(const Seeds& seeds)
 }
 
 /// A photograph as the inputs tell it, in the order of fuzz/analysis/photograph_input.h. The size
-/// choices there: 0 as made, 2 with a raw image, 5 as short as can be, 6 any.
+/// choices there: 0 as made, 2 with a raw image, 5 as short as can be, 6 any, 255 too large.
 QByteArray photographInput(int scene, const simulator::PhotographSettings& settings, int sizeChoice)
 {
     namespace format = analysis::format;
@@ -158,25 +159,22 @@ QByteArray photographInput(int scene, const simulator::PhotographSettings& setti
 
 void addPhotographs(const Seeds& seeds)
 {
-    for (int i = 0; i < 10; ++i) {
+    constexpr std::array<int, 10> sizeChoices{0, 0, 2, 0, 0, 0, 2, 5, 255, 6};
+    for (int i = 0; i < int(sizeChoices.size()); ++i) {
         simulator::PhotographSettings settings;
         settings.modelIndex = i % 2;
         settings.raw = i % 4 == 2;
         settings.fahrenheit = i % 5 == 4;
         settings.machineId = i == 9 ? 7 : quint32(5 + i / 2 % 2);
         settings.palette = simulator::Palette(i % 3);
-        const QByteArray input = photographInput(i, settings,
-                                                 settings.raw ? 2
-                                                 : i < 6      ? 0
-                                                 : i < 8      ? 5
-                                                              : 6);
+        const QByteArray input = photographInput(i, settings, sizeChoices[std::size_t(i)]);
         const QByteArray colourBar("\x0A\xF0", 2);
-        // The browser, the window with one photograph, and with two, painted or not.
-        const QByteArray way(1, char(i % 3 == 0 ? 0 : i % 3 == 1 ? 1 : 18));
+        // The browser; the window with one photograph, painted or not; with two.
+        const QByteArray way(1, char(i % 4 == 0 ? 0 : i % 4 == 1 ? 1 : i % 4 == 2 ? 8 : 20));
         const QByteArray name("IR_00012");
         seeds.add("photo_window_fuzz", QString::number(i),
                   way + word(120) + word(160) + colourBar + char(name.size()) + name + input +
-                      (i % 3 == 2 ? input : QByteArray()));
+                      (i % 4 == 3 ? input : QByteArray()));
         const QByteArray tools = word(10) + word(20) + word(200) + word(300);
         seeds.add("photograph_fuzz", QString::number(i),
                   QByteArray(1, char(1 << i % 5)) + char(i) + colourBar + input + tools);

@@ -189,12 +189,13 @@ public:
     void open(const PhotographFile& file, const QString& name)
     {
         const QString path = m_folder.filePath(name);
-        fuzz::putFile(
-            path, QByteArray::fromRawData(reinterpret_cast<const char*>(file.bytes), file.size));
+        const auto* const bytes = reinterpret_cast<const char*>(file.bytes);
+        fuzz::putFile(path, QByteArray(bytes, file.size) + QByteArray(file.beyond, '\0'));
         m_window->modelIndex = file.modelIndex;
         m_window->get_image_information();
         mustHold(m_window->fileNames == QStringList(name), "the photograph is listed");
-        mustHold(m_window->fileSizes == QStringList(kilobytes(file.size)), "and its size");
+        mustHold(m_window->fileSizes == QStringList(kilobytes(file.size + file.beyond)),
+                 "and its size");
         showThumbnail();
 
         QListWidget* const list = thumbnailList();

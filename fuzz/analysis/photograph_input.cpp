@@ -15,7 +15,8 @@ namespace format = analysis::format;
 
 constexpr int parameterBytes = format::parameter::firmwareVersion + 2 + 2;
 constexpr int headerBytes = 54;
-constexpr int largest = 450'000;
+constexpr int tooLarge = 255;
+constexpr int largest = 450'000; // of all others
 
 int modelOf(int choice)
 {
@@ -25,6 +26,8 @@ int modelOf(int choice)
 int sizeOf(const format::Layout& layout, int choice, int any)
 {
     const int shortest = layout.parameters + format::parameter::markerC + 4;
+    if (choice == tooLarge)
+        return analysis::FileBuffer::size + any % 64;
     switch (choice % 8) {
     case 0:
     case 1:
@@ -41,7 +44,7 @@ int sizeOf(const format::Layout& layout, int choice, int any)
     }
 }
 
-/// The whole buffer, of which no photograph reaches beyond `largest`.
+/// The whole buffer; behind `largest` there are only zeros.
 std::uint8_t* buffer()
 {
     static const auto bytes = std::make_unique<std::uint8_t[]>(analysis::FileBuffer::size);
@@ -50,7 +53,7 @@ std::uint8_t* buffer()
 
 void put(const QByteArray& part, int offset, int fileSize)
 {
-    const int count = std::min(part.size(), fileSize - offset);
+    const int count = std::min(part.size(), std::min(fileSize, largest) - offset);
     if (count > 0)
         std::memcpy(buffer() + offset, part.constData(), std::size_t(count));
 }
@@ -63,8 +66,9 @@ void fill(const QByteArray& piece, int fileSize)
         return;
     put(piece, 0, fileSize);
     // Twice as much each time.
-    for (int filled = piece.size(); filled < fileSize; filled *= 2)
-        std::memcpy(file + filled, file, std::size_t(std::min(filled, fileSize - filled)));
+    const int end = std::min(fileSize, largest);
+    for (int filled = piece.size(); filled < end; filled *= 2)
+        std::memcpy(file + filled, file, std::size_t(std::min(filled, end - filled)));
 }
 
 } // namespace
@@ -84,14 +88,17 @@ PhotographFile takePhotograph(Input& input)
     put(header, 0, size);
     put(palette, layout.palette, size);
     put(parameters, layout.parameters, size);
-    return {modelIndex, buffer(), size};
+    const int read = std::min(size, analysis::FileBuffer::size);
+    return {modelIndex, buffer(), read, size - read};
 }
 
 QString putInMemory(const PhotographFile& photograph)
 {
     static const int file = memfd_create("photograph", MFD_CLOEXEC);
-    mustHold(ftruncate(file, photograph.size) == 0 &&
-                 pwrite(file, photograph.bytes, std::size_t(photograph.size), 0) == photograph.size,
+    const auto size = std::size_t(photograph.size);
+    mustHold(ftruncate(file, 0) == 0 &&
+                 pwrite(file, photograph.bytes, size, 0) == photograph.size &&
+                 ftruncate(file, photograph.size + photograph.beyond) == 0,
              "there is memory for the file");
     return QStringLiteral("/proc/self/fd/%1").arg(file);
 }
