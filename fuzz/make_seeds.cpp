@@ -171,9 +171,11 @@ void addPhotographs(const Seeds& seeds)
         const QByteArray colourBar("\x0A\xF0", 2);
         // The browser; the window with one photograph, painted or not; with two.
         const QByteArray way(1, char(i % 4 == 0 ? 0 : i % 4 == 1 ? 1 : i % 4 == 2 ? 8 : 20));
+        // Both of the label's last positions lie outside the picture.
+        const QByteArray cursor = i % 2 == 0 ? word(120) + word(160) : word(240) + word(320);
         const QByteArray name("IR_00012");
         seeds.add("photo_window_fuzz", QString::number(i),
-                  way + word(120) + word(160) + colourBar + char(name.size()) + name + input +
+                  way + cursor + colourBar + char(name.size()) + name + input +
                       (i % 4 == 3 ? input : QByteArray()));
         const QByteArray tools = word(10) + word(20) + word(200) + word(300);
         seeds.add("photograph_fuzz", QString::number(i),

@@ -2,9 +2,9 @@
 /// a double click, and examined in the analysis window.
 ///
 /// Input: a byte that says how far it goes, the place of the cursor (u16 each), the colour bar's
-/// two values (u8 each), the length of the file's name (u8) and the name, then photographs (see
-/// photograph_input.h): for the browser one, for the analysis window up to three, one after
-/// another.
+/// two values (u8 each), the length of the file's name (u8, modulo 64) and the name, then
+/// photographs (see photograph_input.h): for the browser one, for the analysis window up to three,
+/// one after another.
 
 #include "analysis/analysis_widget.h"
 #include "analysis/information.h"
@@ -272,7 +272,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
     const Cursor cursor{input.number<quint16>() % 241, input.number<quint16>() % 321};
     const int startValue = input.byte();
     const int endValue = input.byte();
-    const QString name = nameOf(input.bytes(input.byte()));
+    const QString name = nameOf(input.bytes(input.byte() % 64));
 
     if (way % 16 == 0) {
         browsing->open(fuzz::takePhotograph(input), name);
