@@ -25,7 +25,7 @@
 #include <QTabWidget>
 #include <QTableWidget>
 
-#include <cstring>
+#include <cmath>
 
 namespace {
 
@@ -47,7 +47,7 @@ T& child(const QWidget& window, const char* name)
     return *found;
 }
 
-bool same(const overlay::Marker& a, const overlay::Marker& b)
+bool sameSpot(const overlay::Marker& a, const overlay::Marker& b)
 {
     return a.x == b.x && a.y == b.y;
 }
@@ -56,12 +56,15 @@ void mustBeSame(const Photograph& shown, const Photograph& expected)
 {
     mustHold(shown.gray == expected.gray && shown.palette == expected.palette,
              "the window has the picture that was read");
-    mustHold(same(shown.markerA, expected.markerA) && same(shown.markerB, expected.markerB) &&
-                 same(shown.markerC, expected.markerC),
+    mustHold(sameSpot(shown.markerA, expected.markerA) &&
+                 sameSpot(shown.markerB, expected.markerB) &&
+                 sameSpot(shown.markerC, expected.markerC),
              "the window has the markers that were read");
-    // To the bit, because some may be not-a-number.
-    mustHold(std::memcmp(shown.temperatures.data(), expected.temperatures.data(),
-                         sizeof(Temperatures)) == 0,
+    const auto same = [](float a, float b) {
+        return a == b || (std::isnan(a) && std::isnan(b));
+    };
+    mustHold(std::equal(shown.temperatures.begin(), shown.temperatures.end(),
+                        expected.temperatures.begin(), same),
              "the window has the temperatures that were read");
 }
 
@@ -152,9 +155,9 @@ private:
 
     void mustBeShown(const PhotographFile& file)
     {
-        mustHold(same(label().markerA, m_expected.markerA) &&
-                     same(label().markerB, m_expected.markerB) &&
-                     same(label().markerC, m_expected.markerC),
+        mustHold(sameSpot(label().markerA, m_expected.markerA) &&
+                     sameSpot(label().markerB, m_expected.markerB) &&
+                     sameSpot(label().markerC, m_expected.markerC),
                  "the label has the markers");
         const auto texts =
             informationTexts(m_window.fileName, m_window.created, file.size, m_expected.parameters,
