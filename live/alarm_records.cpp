@@ -111,10 +111,11 @@ QStringList recordPicturePaths(const QString& historyFolder, const QString& name
 {
     const QDir folder(historyFolder + QLatin1Char('/') + name);
     QStringList paths;
+    // Put together by hand: filePath() takes a name that begins with a colon for a whole path.
     for (const QString& file : folder.entryList(
              {QStringLiteral("*.png"), QStringLiteral("*.jpg"), QStringLiteral("*.bmp")},
              QDir::Files, QDir::Name))
-        paths.append(folder.filePath(file));
+        paths.append(folder.path() + QLatin1Char('/') + file);
     return paths;
 }
 

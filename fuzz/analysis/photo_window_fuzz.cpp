@@ -191,7 +191,7 @@ public:
 
     void open(const PhotographFile& file, const QString& name)
     {
-        const QString path = m_folder.filePath(name);
+        const QString path = m_folder.path() + QLatin1Char('/') + name;
         const auto* const bytes = reinterpret_cast<const char*>(file.bytes);
         fuzz::putFile(path, QByteArray(bytes, file.size) + QByteArray(file.beyond, '\0'));
         m_window->modelIndex = file.modelIndex;

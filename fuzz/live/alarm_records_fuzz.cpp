@@ -183,8 +183,10 @@ void mustBeRead(const QString& record, const live::RecordReadings& readings)
 QStringList fileNames(const QStringList& paths)
 {
     QStringList names;
-    for (const QString& path : paths)
+    for (const QString& path : paths) {
         names.append(QFileInfo(path).fileName());
+        mustHold(path.startsWith(historyFolder() + QLatin1Char('/')), "pictures are in the folder");
+    }
     names.sort();
     return names;
 }

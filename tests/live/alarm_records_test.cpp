@@ -234,6 +234,17 @@ private slots:
         QCOMPARE(live::recordPicturePaths(path(), QStringLiteral("missing")), QStringList());
     }
 
+    void aPictureNamedWithAColonIsInItsFolder()
+    {
+        // On Windows there is no such name.
+        const QString name =
+            testing::onWindows() ? QStringLiteral("a.png") : QStringLiteral(":a.png");
+        QVERIFY(QDir(path()).mkdir(momentName));
+        const QString picture = path() + QLatin1Char('/') + momentName + QLatin1Char('/') + name;
+        put(picture, "x");
+        QCOMPARE(live::recordPicturePaths(path(), momentName), QStringList(picture));
+    }
+
     void foldersOfAnyName_data()
     {
         QTest::addColumn<QString>("name");
