@@ -10,6 +10,7 @@
 #include <cstring>
 #include <sched.h>
 #include <sys/mount.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace testing {
@@ -164,6 +165,10 @@ void MountedDisk::plug(bool readOnly)
 
 void MountedDisk::waitForMount() const
 {
+    // The driver stands for hardware, which does not queue for the processor on a busy machine.
+    if (!m_driver->waitForStarted(patience) ||
+        setpriority(PRIO_PROCESS, id_t(m_driver->processId()), -10) != 0)
+        qFatal("no driver: %s", std::strerror(errno));
     QElapsedTimer time;
     time.start();
     while (device(m_place) == device(m_files.path())) {
