@@ -30,6 +30,10 @@ constexpr bool isSanitized = true;
 constexpr bool isSanitized = false;
 #endif
 
+/// GLib and Qt keep a few idle threads in pools, now and then one more, for some seconds. A thread
+/// left over by something done again and again would soon be more.
+constexpr int pooledThreads = 4;
+
 constexpr int objectAdded = 3; // places in qtHookData
 constexpr int objectRemoved = 4;
 
@@ -164,7 +168,7 @@ QString leftOver(const Holdings& before, const Holdings& after)
             lines.append(QStringLiteral("%1 +%2").arg(what).arg(second - first));
     };
     compare(QStringLiteral("files"), before.openFiles, after.openFiles);
-    compare(QStringLiteral("threads"), before.threads, after.threads);
+    compare(QStringLiteral("threads"), before.threads + pooledThreads, after.threads);
     compare(QStringLiteral("windows"), before.windows, after.windows);
     compare(QStringLiteral("widgets"), before.widgets, after.widgets);
     compare(QStringLiteral("timers"), before.timers, after.timers);
@@ -184,7 +188,7 @@ void MemoryPeaks::verify() const
     const double growth = 100.0 * double(m_peaks[1] - m_peaks[0]) / double(m_peaks[0]);
     qInfo("resident memory at most %.2f MB in the first half, %.2f MB in the second (%+.2f %%)",
           double(m_peaks[0]) / 1e6, double(m_peaks[1]) / 1e6, growth);
-    QVERIFY2(isSanitized || m_peaks[1] <= m_peaks[0] + m_peaks[0] / 50 + 4'000'000,
+    QVERIFY2(isSanitized || m_peaks[1] <= m_peaks[0] + m_peaks[0] / 50 + 8'000'000,
              "memory has grown");
 }
 

@@ -50,10 +50,11 @@ struct Holdings
 Holdings holdings();
 
 /// What there is more of, memory aside: "files +1, QTimer +2"; empty when there is nothing.
+/// A few threads more are let pass: pools keep them for a while.
 QString leftOver(const Holdings& before, const Holdings& after);
 
 /// Resident memory while something is done so many times over: its peak in the second half must not
-/// lie more than 2 % and 4 MB above that in the first. Where it stands at one moment says little:
+/// lie more than 2 % and 8 MB above that in the first. Where it stands at one moment says little:
 /// the heap and the arenas of Qt's threads breathe by a few megabytes.
 class MemoryPeaks
 {
