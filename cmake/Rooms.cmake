@@ -12,11 +12,15 @@ endfunction()
 # thermadesk_add_test(NAME SOURCES file... [USES target...] [LABELS label...])
 #
 # One QtTest program registered with CTest: no display, no audio device, a profile of its own.
+set(patience 300) # seconds; only a test that hangs takes it
+if(THERMADESK_SANITIZE)
+    set(patience 900)
+endif()
 function(thermadesk_add_test name)
     cmake_parse_arguments(TEST "" "" "SOURCES;USES;LABELS" ${ARGN})
     add_executable(${name} ${TEST_SOURCES})
     target_link_libraries(${name} PRIVATE ${TEST_USES} thermadesk_test_support thermadesk_warnings)
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
     add_test(NAME ${name} COMMAND ${name})
-    set_tests_properties(${name} PROPERTIES TIMEOUT 300 LABELS "${TEST_LABELS}")
+    set_tests_properties(${name} PROPERTIES TIMEOUT ${patience} LABELS "${TEST_LABELS}")
 endfunction()
