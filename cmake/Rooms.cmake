@@ -9,13 +9,14 @@ function(thermadesk_add_room name)
     target_link_libraries(thermadesk_${name} PUBLIC ${ROOM_USES} PRIVATE thermadesk_warnings)
 endfunction()
 
-# thermadesk_add_test(NAME SOURCES file... [USES target...] [LABELS label...])
-#
-# One QtTest program registered with CTest: no display, no audio device, a profile of its own.
 set(patience 300) # seconds; only a test that hangs takes it
 if(THERMADESK_SANITIZE)
     set(patience 900)
 endif()
+
+# thermadesk_add_test(NAME SOURCES file... [USES target...] [LABELS label...])
+#
+# One QtTest program registered with CTest: no display, no audio device, a profile of its own.
 function(thermadesk_add_test name)
     cmake_parse_arguments(TEST "" "" "SOURCES;USES;LABELS" ${ARGN})
     add_executable(${name} ${TEST_SOURCES})
