@@ -17,7 +17,9 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMetaMethod>
+#include <QPointer>
 #include <QPushButton>
+#include <QTimer>
 
 using simulator::SimulatedCamera;
 
@@ -172,6 +174,28 @@ private slots:
         QVERIFY(fileAction(window, 1)->isEnabled());
     }
 
+    void looksForTheImagerEvery300Milliseconds()
+    {
+        struct Intervals : QObject
+        {
+            QSet<int> seen;
+            bool eventFilter(QObject* watched, QEvent* event) override
+            {
+                const auto* timer = qobject_cast<QTimer*>(watched);
+                if (timer && event->type() == QEvent::Timer)
+                    seen.insert(timer->interval());
+                return false;
+            }
+        } intervals;
+        qApp->installEventFilter(&intervals);
+        MainWindow window;
+        QTRY_VERIFY(intervals.seen.contains(300));
+        fileAction(window, 1)->trigger();
+        intervals.seen.clear();
+        window.Action_connect();
+        QTRY_VERIFY(intervals.seen.contains(300));
+    }
+
     void isShownTheLivePicture()
     {
         MainWindow window;
@@ -190,7 +214,11 @@ private slots:
         second.deviceName += QStringLiteral("-2");
         camera().plug();
         camera().plug(second);
+        testing::LogRecorder log;
         window.timeout_connect();
+        QCOMPARE(
+            log.messages().count(QStringLiteral("按下了投屏按键------MainWindow::Action_camer")),
+            2);
         QCOMPARE(modeArea(window)->count(), 1);
         QTRY_VERIFY(camera().deliver(QByteArray(live::frameBytes, '\x80')));
         QTRY_VERIFY(window.liveWindow()->findChild<QLabel*>(QStringLiteral("label_17"))->pixmap());
@@ -438,7 +466,7 @@ private slots:
         MainWindow window;
         window.Get_Addr(QStringLiteral("D:\\alarms"));
         fileAction(window, 2)->trigger();
-        seting* first = window.settingsDialog();
+        const QPointer<seting> first = window.settingsDialog();
         QVERIFY(first->isVisible());
         QCOMPARE(first->windowTitle(), QStringLiteral("选项"));
         QCOMPARE(first->windowModality(), Qt::ApplicationModal);
@@ -446,8 +474,10 @@ private slots:
         emit first->send_addr(QStringLiteral("E:\\other"));
         QCOMPARE(window.alarmFolder(), QStringLiteral("E:\\other"));
         QCOMPARE(config::read().alarmFolder, QStringLiteral("E:\\other"));
+        QCOMPARE(first->folder, QStringLiteral("E:\\other"));
         first->close();
         fileAction(window, 2)->trigger();
+        QVERIFY(first);
         QVERIFY(window.settingsDialog() != first);
     }
 
@@ -485,6 +515,16 @@ private slots:
         fileAction(window, 2)->trigger();
         QVERIFY(!waiting);
         window.settingsDialog()->close();
+    }
+
+    void aNewLivePageTakesTheFolderInUse()
+    {
+        config::replaceAlarmFolder(QStringLiteral("/in/use"));
+        MainWindow window;
+        config::replaceAlarmFolder(QStringLiteral("/changed/meanwhile"));
+        camera().plug();
+        window.timeout_connect();
+        QCOMPARE(window.liveWindow()->historyFolder, QStringLiteral("/in/use"));
     }
 
     void aNewFolderReachesTheLivePage()

@@ -46,6 +46,7 @@ class SetingTest : public QObject
             text = box.windowTitle() + QLatin1Char('|') + box.text();
             QCOMPARE(box.standardButtons(), QMessageBox::StandardButtons(QMessageBox::Ok));
             QCOMPARE(box.icon(), QMessageBox::Information);
+            QVERIFY(!box.parentWidget()->isVisible());
             box.button(QMessageBox::Ok)->click();
         });
         press(dialog, "pushButton_2");
@@ -145,6 +146,17 @@ private slots:
         QCOMPARE(dialog.language, QStringLiteral("RU"));
     }
 
+    void anEntryThatThereIsNotChangesNoLanguage()
+    {
+        seting dialog;
+        dialog.show();
+        activate(dialog, 2);
+        for (const int index : {-1, 4}) {
+            QVERIFY(QMetaObject::invokeMethod(&dialog, "on_comboBox_activated", Q_ARG(int, index)));
+            QCOMPARE(dialog.language, QStringLiteral("RU"));
+        }
+    }
+
     void confirmWritesTheActivatedLanguage()
     {
         config::replaceAlarmFolder(QStringLiteral("X"));
@@ -157,6 +169,18 @@ private slots:
         QCOMPARE(config::read().alarmFolder, QStringLiteral("X"));
         QCOMPARE(sent.count(), 1);
         QCOMPARE(sent.at(0).at(0).toString(), QStringLiteral("X"));
+    }
+
+    void confirmSendsTheFolderFirst()
+    {
+        seting dialog;
+        dialog.show();
+        QString storedThen;
+        connect(&dialog, &seting::send_addr, this,
+                [&storedThen] { storedThen = config::read().language; });
+        confirm(dialog);
+        QCOMPARE(storedThen, QStringLiteral("EN"));
+        QCOMPARE(config::read().language, QStringLiteral("CH"));
     }
 
     void confirmWithoutAFileStillGivesNotice()
@@ -209,9 +233,14 @@ private slots:
         seting dialog;
         dialog.show();
         QSignalSpy sent(&dialog, &seting::send_addr);
-        testing::Answer<QFileDialog> answer([](QFileDialog& box) { box.reject(); });
+        QString proposed;
+        testing::Answer<QFileDialog> answer([&proposed](QFileDialog& box) {
+            proposed = box.selectedFiles().value(0);
+            box.reject();
+        });
         press(dialog, "pushButton");
         QVERIFY(answer.wasAsked());
+        QCOMPARE(proposed, config::filePath());
         QCOMPARE(dialog.folder, QStringLiteral("D:/kept"));
         QCOMPARE(sent.count(), 1);
         QCOMPARE(sent.at(0).at(0).toString(), QStringLiteral("D:/kept"));

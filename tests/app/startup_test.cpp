@@ -63,7 +63,8 @@ private slots:
         QTest::newRow("KO") << "KO" << QStringLiteral("연결") << QStringLiteral("취소");
         QTest::newRow("empty") << "" << chinese << QStringLiteral("取消");
         QTest::newRow("DE") << "DE" << chinese << QStringLiteral("取消");
-        QTest::newRow("en") << "en" << chinese << QStringLiteral("取消");
+        for (const char* code : {"en", "ru", "ko", "Ru"})
+            QTest::newRow(code) << code << chinese << QStringLiteral("取消");
     }
     void catalogues()
     {
