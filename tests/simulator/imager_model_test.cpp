@@ -32,6 +32,7 @@ class ImagerModelTest : public QObject
 private slots:
     void flatSceneIsOneColourAndThreeWords();
     void wordsTakeTheNearestTheyCanHold();
+    void neighboursShareTheMeanOfTheirColours();
     void grayIsLinearBetweenTheExtremes();
     void grayTellsTheTemperatureAgain();
     void grayMayRunBackwards();
@@ -62,6 +63,18 @@ void ImagerModelTest::wordsTakeTheNearestTheyCanHold()
              QByteArray::fromHex("0000ffff6000"));
     QCOMPARE(simulator::liveFrame(gray, palette, {6553.5, 0.04, 1.0}).mid(153600),
              QByteArray::fromHex("ffff00006400"));
+}
+
+void ImagerModelTest::neighboursShareTheMeanOfTheirColours()
+{
+    simulator::PaletteTable palette{};
+    palette[1] = 0xF800; // red: Y 76, U 128 − 44, V 128 + 130; black adds nothing to either
+    const QByteArray frame =
+        simulator::liveFrame(QByteArray("\1\0", 2).repeated(38400), palette, {});
+    QCOMPARE(byteAt(frame, 0), 76);
+    QCOMPARE(byteAt(frame, 1), 128 - 22);
+    QCOMPARE(byteAt(frame, 2), 0);
+    QCOMPARE(byteAt(frame, 3), 128 + 65);
 }
 
 void ImagerModelTest::grayIsLinearBetweenTheExtremes()
