@@ -269,7 +269,9 @@ private slots:
         QCOMPARE(information(8), QStringLiteral("-5.5"));
         QCOMPARE(information(9), QStringLiteral("47.3")); // (100 − 5.5) / 2 = 47.25
         const auto& table = child<QTableWidget>("tableWidget_2");
-        QVERIFY(table.item(1, 1)->textAlignment() == int(Qt::AlignRight | Qt::AlignVCenter));
+        QVERIFY(table.item(0, 1)->textAlignment() == 0); // names stand left
+        for (int row = 1; row < 10; ++row)
+            QVERIFY(table.item(row, 1)->textAlignment() == int(Qt::AlignRight | Qt::AlignVCenter));
 
         QVERIFY(log.contains(window->path + QStringLiteral(" ---------Anlyxix-set_Image_addr")));
         QVERIFY(log.contains(QStringLiteral("输出实际读取的字节数: 307966")));
