@@ -46,8 +46,9 @@ class SetingTest : public QObject
             text = box.windowTitle() + QLatin1Char('|') + box.text();
             QCOMPARE(box.standardButtons(), QMessageBox::StandardButtons(QMessageBox::Ok));
             QCOMPARE(box.icon(), QMessageBox::Information);
-            QVERIFY(!box.parentWidget()->isVisible());
+            const bool isAlone = !box.parentWidget()->isVisible();
             box.button(QMessageBox::Ok)->click();
+            QVERIFY(isAlone); // a box that is not answered waits for ever
         });
         press(dialog, "pushButton_2");
         return text;
