@@ -102,6 +102,7 @@ private slots:
 
     void alarmIsAShortPlainRecording_data() { addRows(sounds); }
     void alarmIsAShortPlainRecording();
+    void everyLanguageHasItsOwnAlarm();
 
     void catalogueLoads_data() { addRows(catalogues); }
     void catalogueLoads();
@@ -115,6 +116,14 @@ void EmbeddedResourcesTest::exists()
 {
     QFETCH(QString, path);
     QVERIFY(!contents(path).isEmpty());
+}
+
+void EmbeddedResourcesTest::everyLanguageHasItsOwnAlarm()
+{
+    QSet<QByteArray> recordings;
+    for (const QString& path : sounds)
+        recordings.insert(contents(path));
+    QCOMPARE(recordings.size(), sounds.size());
 }
 
 void EmbeddedResourcesTest::staysMissing()

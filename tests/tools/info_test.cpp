@@ -60,6 +60,7 @@ private slots:
     void meanThatIsNoNumber();
     void layouts_data();
     void layouts();
+    void bothLayoutsWithAKnownImager();
     void anotherImagersPhotograph();
     void shortFiles_data();
     void shortFiles();
@@ -247,6 +248,18 @@ void InfoTest::layouts()
     QCOMPARE(object[QStringLiteral("centre")].toDouble(), 27.9);
     const QJsonArray markerA = model == 1 ? QJsonArray{229, 299} : QJsonArray{10, 20};
     QCOMPARE(object[QStringLiteral("markerA")].toArray(), markerA);
+}
+
+/// The gray image may happen to hold a known machine ID where the other layout has one.
+void InfoTest::bothLayoutsWithAKnownImager()
+{
+    QByteArray bytes = photographBytes(slope());
+    testing::put(bytes, 230969 + 10, 5, 4);
+    const Folder folder;
+    const Ended ended = thermaphoto({info, asJson, folder.write(QStringLiteral("a.bmp"), bytes)});
+    const QJsonObject object = ended.json()[0].toObject();
+    QCOMPARE(object[QStringLiteral("layout")].toInt(), 0);
+    QCOMPARE(object[QStringLiteral("centre")].toDouble(), 27.9);
 }
 
 /// Left to itself the program cannot tell how to read it, and says so; whoever names the layout

@@ -52,6 +52,7 @@ class RunTest : public QObject
 private slots:
     void usage_data();
     void usage();
+    void theFirstFaultIsTold();
     void help_data();
     void help();
     void version();
@@ -96,6 +97,8 @@ void RunTest::usage_data()
     row("too many decimals", "export --format csv --decimals 10 a.bmp");
     row("fewer than no decimals", "export --format csv --decimals=-1 a.bmp");
     row("point between numbers", "export --format csv --separator . a.bmp");
+    row("minus between numbers", "export --format csv --separator=- a.bmp");
+    row("plus between numbers", "export --format csv --separator + a.bmp");
     row("digit between numbers", "export --format csv --separator 1 a.bmp");
     row("two separators", "export --format csv --separator ;; a.bmp");
     row("quote between numbers", "export --format csv --separator \" a.bmp");
@@ -131,6 +134,17 @@ void RunTest::usage()
     QCOMPARE(ended.errorLines().size(), 1);
     QVERIFY(ended.errors.startsWith("thermaphoto: "));
     QCOMPARE(folder.files(), (QStringList{"a.bmp", "tools.json"}));
+}
+
+void RunTest::theFirstFaultIsTold()
+{
+    const Folder folder;
+    folder.write(QStringLiteral("a.bmp"), photograph());
+    const Ended ended =
+        thermaphoto({"info", "--layout", "2", "--jobs", "0", "a.bmp"}, folder.path());
+    QCOMPARE(ended.errorLines().size(), 1);
+    QVERIFY(ended.errors.contains("--jobs")); // looked at first, wherever it stands
+    QVERIFY(!ended.errors.contains("--layout"));
 }
 
 void RunTest::help_data()
