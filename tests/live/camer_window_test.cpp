@@ -193,8 +193,8 @@ void CamerWindowTest::signalsAndSlotsInTheirOrder()
         QCOMPARE(method.methodSignature(), expected[i]);
         QCOMPARE(method.methodType(), i < 2 ? QMetaMethod::Signal : QMetaMethod::Slot);
     }
-    const auto names = [&](int i) {
-        return meta.method(meta.methodOffset() + i).parameterNames();
+    const auto names = [&page = meta](int i) {
+        return page.method(page.methodOffset() + i).parameterNames();
     };
     QCOMPARE(names(0), QByteArrayList({"sta"}));
     QCOMPARE(names(2), QByteArrayList({"cap_image"}));
