@@ -12,7 +12,6 @@
 
 #include <array>
 #include <cstdio>
-#include <cstdlib>
 
 namespace {
 
@@ -26,10 +25,8 @@ public:
         const QDir folder(m_folder.filePath(QLatin1String(target)));
         QFile file(folder.filePath(name));
         if (!folder.mkpath(QStringLiteral(".")) || !file.open(QIODevice::WriteOnly) ||
-            file.write(bytes) != bytes.size()) {
-            std::fprintf(stderr, "cannot write %s\n", qPrintable(file.fileName()));
-            std::exit(1);
-        }
+            file.write(bytes) != bytes.size())
+            qFatal("cannot write %s", qPrintable(file.fileName()));
     }
 
 private:

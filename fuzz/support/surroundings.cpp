@@ -17,8 +17,8 @@ void prepare(bool windows)
         static int argc = 1;
         static char name[] = "fuzz";
         static char* argv[] = {name, nullptr};
-        static auto* const application = new QApplication(argc, argv);
-        application->setQuitOnLastWindowClosed(false);
+        [[maybe_unused]] static auto* const application = new QApplication(argc, argv);
+        QApplication::setQuitOnLastWindowClosed(false);
         resources::load();
     }
     testing::profile().reset();

@@ -103,7 +103,7 @@ void takeScale(int& argc, char** argv, int usualTimes)
     for (int i = 1; i < argc; ++i) {
         const bool hasValue = i + 1 < argc;
         if (hasValue && std::strcmp(argv[i], "--times") == 0)
-            scale().times = std::atoi(argv[++i]);
+            scale().times = int(std::strtol(argv[++i], nullptr, 10));
         else if (hasValue && std::strcmp(argv[i], "--seed") == 0)
             scale().seed = unsigned(std::strtoul(argv[++i], nullptr, 10));
         else

@@ -60,6 +60,7 @@ int list(const char* path, void* entries, fuse_fill_dir_t fill, off_t, fuse_file
     DIR* const folder = opendir((source() + path).c_str());
     if (!folder)
         return -errno;
+    // NOLINTNEXTLINE(concurrency-mt-unsafe): the stream is this call's own
     while (const dirent* entry = readdir(folder))
         fill(entries, entry->d_name, nullptr, 0, fuse_fill_dir_flags(0));
     closedir(folder);

@@ -6,8 +6,6 @@
 #include <QStandardPaths>
 #include <QThread>
 
-#include <cerrno>
-#include <cstring>
 #include <sched.h>
 #include <sys/mount.h>
 #include <sys/resource.h>
@@ -49,7 +47,7 @@ dev_t device(const QString& path)
 QString enterPrivateMounts()
 {
     if (unshare(CLONE_NEWNS) != 0 || mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0)
-        return QStringLiteral("no mount namespace: %1").arg(QLatin1String(std::strerror(errno)));
+        return QStringLiteral("no mount namespace: %1").arg(qt_error_string());
     return {};
 }
 
@@ -168,7 +166,7 @@ void MountedDisk::waitForMount() const
     // The driver stands for hardware, which does not queue for the processor on a busy machine.
     if (!m_driver->waitForStarted(patience) ||
         setpriority(PRIO_PROCESS, id_t(m_driver->processId()), -10) != 0)
-        qFatal("no driver: %s", std::strerror(errno));
+        qFatal("no driver: %s", qPrintable(qt_error_string()));
     QElapsedTimer time;
     time.start();
     while (device(m_place) == device(m_files.path())) {
@@ -184,7 +182,7 @@ void MountedDisk::pullOut()
     if (m_kind == Kind::Folder)
         QDir(m_files.path()).rename(QStringLiteral("IMAGER"), QStringLiteral("source"));
     else if (umount2(m_place.toUtf8().constData(), MNT_DETACH) != 0)
-        qFatal("cannot unmount: %s", std::strerror(errno));
+        qFatal("cannot unmount: %s", qPrintable(qt_error_string()));
 }
 
 void MountedDisk::settle()
