@@ -1,8 +1,5 @@
 #include "live/qt_camera_capture.h"
 
-#include "live/live_frame.h"
-
-static_assert(live::rgbRowBytes % 4 == 0, "QImage pads its rows to 4 bytes");
 static_assert(int(QtCameraCapture::Format_YUYV) == int(QVideoFrame::Format_YUYV));
 static_assert(int(QtCameraCapture::Format_AdobeDng) == int(QVideoFrame::Format_AdobeDng));
 
@@ -32,12 +29,13 @@ bool QtCameraCapture::present(const QVideoFrame& frame)
         mapped.unmap();
         return true;
     }
-    QImage picture(live::frameColumns, live::frameRows, QImage::Format_RGB888);
-    live::convertPicture(bits, picture.bits());
+    live::convertPicture(bits, m_rgb.data());
     const live::Readings readings = live::readings(bits);
     mapped.unmap();
 
-    emit display_Qimage(picture);
+    const QImage picture(m_rgb.data(), live::frameColumns, live::frameRows, live::rgbRowBytes,
+                         QImage::Format_RGB888);
+    emit display_Qimage(picture.copy());
     emit Send_MaxTemp(readings.maximum, readings.threshold, readings.emissivity);
     return true;
 }

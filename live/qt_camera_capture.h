@@ -1,9 +1,12 @@
 #pragma once
 
+#include "live/live_frame.h"
+
 #include <QAbstractVideoSurface>
 #include <QImage>
 #include <QVideoFrame>
 
+#include <array>
 #include <cstdint>
 
 /// The video surface on which the imager's frames arrive. It decodes each frame and publishes the
@@ -77,4 +80,8 @@ signals:
     void display_Qimage(QImage pho);
     /// Maximum temperature, alarm threshold (both in degrees of the imager's scale), emissivity.
     void Send_MaxTemp(float maxTem, float warn, float fsl);
+
+private:
+    /// The picture just decoded, R, G, B. The image that is sent out is a copy.
+    std::array<uchar, live::rgbBytes> m_rgb{};
 };
