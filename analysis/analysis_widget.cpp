@@ -17,7 +17,6 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QTableWidget>
-#include <QTextDocument>
 #include <QToolTip>
 #include <QUrl>
 
@@ -35,12 +34,6 @@ enum Tool
 };
 
 const QString loadTag = QStringLiteral("---------Anlyxix-set_Image_addr");
-
-/// A stranger's file name is no mark-up, which could name other files to be shown.
-QString toolTipOf(const QString& name)
-{
-    return Qt::mightBeRichText(name) ? Qt::convertFromPlainText(name) : name;
-}
 
 QPixmap fitted(const QImage& image, const QSize& size)
 {

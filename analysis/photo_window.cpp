@@ -22,7 +22,6 @@
 #include <QShortcut>
 #include <QTabBar>
 #include <QTableWidget>
-#include <QTextDocument>
 
 #include <algorithm>
 
@@ -139,8 +138,7 @@ QStringList photo_window::listDrives()
                          : drive.scaled(32, 32, Qt::KeepAspectRatio, Qt::SmoothTransformation));
     for (const QString& root : roots) {
         auto* item = new QListWidgetItem(icon, root, ui->listWidget);
-        // A volume's name, which becomes part of this, is no mark-up.
-        item->setToolTip(Qt::mightBeRichText(root) ? Qt::convertFromPlainText(root) : root);
+        item->setToolTip(analysis::toolTipOf(root));
     }
     return roots;
 }

@@ -190,6 +190,17 @@ private slots:
         QCOMPARE(list()->count(), 0);
     }
 
+    void aVolumeNameIsNoMarkUp()
+    {
+        const QString plain = addDrive(QStringLiteral("plain"));
+        const QString root = addDrive(QStringLiteral("<b>hot"));
+        openWindow();
+        QCOMPARE(driveList().item(0)->toolTip(), plain);
+        const QString tip = driveList().item(1)->toolTip();
+        QCOMPARE(driveList().item(1)->text(), root);
+        QVERIFY(tip.contains(QLatin1String("&lt;b&gt;hot")));
+    }
+
     void drivesAreListedInOrder()
     {
         const QString b = addDrive(QStringLiteral("b"));

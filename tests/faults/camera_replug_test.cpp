@@ -41,15 +41,6 @@ QByteArray frame(double seconds, double hotSpot)
                                 0.95);
 }
 
-template<typename T>
-T* part(const QWidget* window, const char* name)
-{
-    T* const found = window->findChild<T*>(QLatin1String(name));
-    if (!found)
-        qFatal("no widget %s", name);
-    return found;
-}
-
 } // namespace
 
 class CameraReplugTest : public QObject
@@ -130,7 +121,7 @@ private:
         m_window->timeout_connect();
         QVERIFY(page());
         for (const char* box : {"checkBox", "checkBox_2", "checkBox_3"})
-            part<QCheckBox>(page(), box)->setChecked(true);
+            testing::part<QCheckBox>(page(), box)->setChecked(true);
     }
 
     bool send(bool hot)
@@ -185,20 +176,20 @@ private:
                 dialog.reject();
             });
             send(true); // there must be a picture to keep
-            part<QPushButton>(page(), "pushButton")->click();
+            testing::part<QPushButton>(page(), "pushButton")->click();
             QVERIFY(answer.wasAsked());
             break;
         }
         case 3: // while a record is looked at
         {
-            part<QTabWidget>(page(), "tabWidget")->setCurrentIndex(1);
-            auto* records = part<QListWidget>(page(), "listWidget_2");
+            testing::part<QTabWidget>(page(), "tabWidget")->setCurrentIndex(1);
+            auto* records = testing::part<QListWidget>(page(), "listWidget_2");
             if (records->count() > 0)
                 emit records->itemClicked(records->item(records->count() - 1));
             camera().unplug();
             QTest::qWait(1);
-            part<QListWidget>(page(), "listWidget_3")->setCurrentRow(3);
-            part<QTabWidget>(page(), "tabWidget")->setCurrentIndex(0);
+            testing::part<QListWidget>(page(), "listWidget_3")->setCurrentRow(3);
+            testing::part<QTabWidget>(page(), "tabWidget")->setCurrentIndex(0);
             break;
         }
         case 4: // on the whole screen

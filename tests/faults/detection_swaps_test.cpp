@@ -56,18 +56,9 @@ int stateAfter(int state, const Plugged& plugged)
     return plugged.otherCamera ? -2 : -1;
 }
 
-template<typename T>
-T* part(const QWidget* window, const char* name)
-{
-    T* const found = window->findChild<T*>(QLatin1String(name));
-    if (!found)
-        qFatal("no widget %s", name);
-    return found;
-}
-
 void click(const QWidget* window, const char* name)
 {
-    part<QPushButton>(window, name)->click();
+    testing::part<QPushButton>(window, name)->click();
 }
 
 } // namespace
@@ -204,7 +195,8 @@ private:
             if (before != expected || expected < 0) {
                 const QString texts[] = {QStringLiteral("正在等待连接..."),
                                          QStringLiteral("投屏模式"), QStringLiteral("U盘模式")};
-                QCOMPARE(part<QLabel>(m_window, "label")->text(), texts[std::max(mode, 0)]);
+                QCOMPARE(testing::part<QLabel>(m_window, "label")->text(),
+                         texts[std::max(mode, 0)]);
             }
         }
     }
@@ -239,8 +231,8 @@ private:
         camer_window* page = m_window->liveWindow();
         m_imager->heatPastThreshold();
         m_imager->settle();
-        part<QCheckBox>(page, "checkBox")->setChecked(true);
-        part<QCheckBox>(page, "checkBox_3")->setChecked(true);
+        testing::part<QCheckBox>(page, "checkBox")->setChecked(true);
+        testing::part<QCheckBox>(page, "checkBox_3")->setChecked(true);
         for (int i = 0; i < 9; ++i)
             m_imager->sendFrame();
         switch (work) {
@@ -248,8 +240,8 @@ private:
             event();
             break;
         case 1: { // looking at the history
-            auto* records = part<QListWidget>(page, "listWidget_2");
-            part<QTabWidget>(page, "tabWidget")->setCurrentIndex(1);
+            auto* records = testing::part<QListWidget>(page, "listWidget_2");
+            testing::part<QTabWidget>(page, "tabWidget")->setCurrentIndex(1);
             if (records->count() > 0)
                 emit records->itemClicked(records->item(0));
             QTest::qWait(1);
@@ -278,7 +270,7 @@ private:
             break;
         case 1: { // a photograph in the other unit, then the table
             browser->list_item_doubleclicked(&item);
-            auto* unit = part<QComboBox>(browser, "comboBox");
+            auto* unit = testing::part<QComboBox>(browser, "comboBox");
             unit->setCurrentIndex(1 - unit->currentIndex());
             QTest::qWait(1);
             browser->on_pushButton_3_clicked();
@@ -287,13 +279,13 @@ private:
         }
         case 2: { // choosing a colour for a tool
             browser->list_item_doubleclicked(&item);
-            auto* analysis = part<QWidget>(browser, "Analysis_Widget");
+            auto* analysis = testing::part<QWidget>(browser, "Analysis_Widget");
             withDialog<QColorDialog>([analysis] { click(analysis, "pushButton_4"); }, event);
             break;
         }
         default: { // saving a report
             browser->list_item_doubleclicked(&item);
-            auto* analysis = part<QWidget>(browser, "Analysis_Widget");
+            auto* analysis = testing::part<QWidget>(browser, "Analysis_Widget");
             withDialog<QFileDialog>([analysis] { click(analysis, "pushButton"); }, event);
         }
         }
@@ -310,7 +302,7 @@ private:
         seting* dialog = m_window->settingsDialog();
         QVERIFY(dialog->isVisible());
         dialog->setFolder(folder);
-        emit part<QComboBox>(dialog, "comboBox")->activated(work);
+        emit testing::part<QComboBox>(dialog, "comboBox")->activated(work);
         withDialog<QMessageBox>([dialog] { click(dialog, "pushButton_2"); }, [] {});
         QCOMPARE(config::read().language, codes[work]);
         QCOMPARE(m_window->alarmFolder(), folder);

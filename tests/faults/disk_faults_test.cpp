@@ -72,15 +72,6 @@ QStringList everything(const QString& folder)
     return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
 }
 
-template<typename T>
-T* part(const QWidget* window, const char* name)
-{
-    T* const found = window->findChild<T*>(QLatin1String(name));
-    if (!found)
-        qFatal("no widget %s", name);
-    return found;
-}
-
 } // namespace
 
 class DiskFaultsTest : public QObject
@@ -189,8 +180,8 @@ private slots:
         imager.setCameraPlugged(true);
         m_window->timeout_connect();
         camer_window* page = m_window->liveWindow();
-        part<QCheckBox>(page, "checkBox")->setChecked(true);
-        part<QCheckBox>(page, "checkBox_3")->setChecked(true);
+        testing::part<QCheckBox>(page, "checkBox")->setChecked(true);
+        testing::part<QCheckBox>(page, "checkBox_3")->setChecked(true);
         excursion(imager);
         keepPicture(page, folder + QStringLiteral("/cap.png"));
         QFile::remove(folder + QStringLiteral("/cap.png"));
@@ -219,7 +210,7 @@ private slots:
                 const int pictures = live::recordPicturePaths(folder, record).size();
                 QVERIFY(!hasText || pictures == live::recordPictures);
                 ++(hasText ? whole : cut);
-                auto* list = part<QListWidget>(page, "listWidget_2");
+                auto* list = testing::part<QListWidget>(page, "listWidget_2");
                 page->refreshHistory();
                 emit list->itemClicked(list->item(0));
             }
@@ -557,7 +548,8 @@ private:
             }
         });
         answers.start(1);
-        part<QPushButton>(part<QWidget>(m_window->browser(), "Analysis_Widget"), "pushButton")
+        testing::part<QPushButton>(testing::part<QWidget>(m_window->browser(), "Analysis_Widget"),
+                                   "pushButton")
             ->click();
         return told;
     }
@@ -605,7 +597,7 @@ private:
             dialog.selectFile(path);
             static_cast<QDialog&>(dialog).done(QDialog::Accepted);
         });
-        part<QPushButton>(page, "pushButton")->click();
+        testing::part<QPushButton>(page, "pushButton")->click();
         QVERIFY(answer.wasAsked());
     }
 

@@ -5,6 +5,7 @@
 #include <QElapsedTimer>
 #include <QMap>
 #include <QTimer>
+#include <QWidget>
 
 /// What the tests share that do the same thing over and over: how often, in which random order,
 /// what the process holds before and after, and how long the GUI thread stood still meanwhile.
@@ -28,6 +29,16 @@ int runScaled(int argc, char** argv, int usualTimes)
 {
     takeScale(argc, argv, usualTimes);
     return run<T>(argc, argv);
+}
+
+/// A window's widget by its object name, which must be there.
+template<typename T>
+T* part(const QWidget* window, const char* name)
+{
+    T* const found = window->findChild<T*>(QLatin1String(name));
+    if (!found)
+        qFatal("no widget %s", name);
+    return found;
 }
 
 /// What this process holds at a moment.
