@@ -6,12 +6,11 @@
 /// Pictures in files that anyone may have made.
 namespace platform {
 
-/// A few bytes can claim to be a picture that takes seconds and gigabytes to unfold. What the
-/// imager makes has 240 × 320 pixels; this is two hundred times as many, and 64 MB.
-constexpr int mostPicturePixels = 4096 * 4096;
-
-/// The picture in a file, in whatever format its content says. Null when it cannot be read, or
-/// claims to have more than mostPicturePixels.
+/// The picture in a file: a BMP, JPEG or PNG, whatever its name says. Null when it is none of
+/// these, is not a regular file or a link to one, or cannot be read; when the file ends before its
+/// pixels do; and when it claims so much that unfolding it would take seconds or gigabytes. The
+/// limits: a bitmap of 4096 × 4096 pixels, not packed by run lengths; 4 million pixels of a PNG or
+/// JPEG, 1 million of a progressive JPEG. Texts in a PNG are left out.
 QPixmap pictureInFile(const QString& path);
 
 } // namespace platform
