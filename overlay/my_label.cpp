@@ -26,7 +26,8 @@ constexpr int reticleCircleSize = 10;
 constexpr int middleColumn = overlay::imageColumns / 2;
 constexpr int middleRow = overlay::imageRows / 2;
 
-const QSize nameBox(60, 30); ///< widget pixels
+/// Where a text begins; it may reach further, so nothing is cut to it. Widget pixels.
+const QSize nameBox(60, 30);
 
 QPoint roundedPosition(const QMouseEvent& event)
 {
@@ -72,7 +73,7 @@ struct MyLabel::Canvas
 
     void name(int x, int y, const QString& text) const
     {
-        painter.drawText(QRect(QPoint(x, y), nameBox), 0, text);
+        painter.drawText(QRect(QPoint(x, y), nameBox), Qt::TextDontClip, text);
     }
 
     int beside(bool before, int otherwise) const { return before ? -6 - nameExtent : otherwise; }

@@ -8,6 +8,7 @@
 #include <QLineF>
 #include <QPainter>
 
+#include <array>
 #include <cmath>
 #include <vector>
 
@@ -488,7 +489,112 @@ private slots:
         QCOMPARE(differingPixels(named, expected, named.rect()), 0);
     }
 
+    /// On tall pictures names are larger than the box they are placed by: drawn whole all the same.
+    void longNamesAreDrawnWhole_data()
+    {
+        QTest::addColumn<int>("scale");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("P100 at four times") << 4 << QStringLiteral("P100");
+        QTest::newRow("wide") << 2 << QStringLiteral("P10000000");
+    }
+
+    void longNamesAreDrawnWhole()
+    {
+        QFETCH(int, scale);
+        QFETCH(QString, name);
+        MyLabel label;
+        const QSize picture(240 * scale, 320 * scale);
+        prepare(label, picture + QSize(40, 0), picture);
+        const auto drawn = [&](const QString& text) {
+            label.lineList = {{text, 30, 30, 60, 50, red}};
+            return label.grab().toImage();
+        };
+        const QImage nameless = drawn({});
+        const QImage named = drawn(name);
+        QFont font(QStringLiteral("Microsoft YaHei"));
+        font.setWeight(50);
+        font.setPixelSize(int(0.9 * 9 * scale));
+        const QPoint place(20 + 60 * scale, 50 * scale);
+        const double ratio = label.devicePixelRatioF();
+        const QImage expected = withText(nameless, ratio, place, name, font);
+        const QRect area = changedArea(nameless, expected);
+        QVERIFY(area.right() >= int((place.x() + 60) * ratio) ||
+                area.bottom() >= int((place.y() + 30) * ratio)); // the case is one
+        QCOMPARE(differingPixels(named, expected, named.rect()), 0);
+    }
+
     // Markers
+
+    /// Each of the spots has its own letter, whole at every size.
+    void theLettersOfTallPictures_data()
+    {
+        QTest::addColumn<QString>("letter");
+        QTest::addColumn<QColor>("colour");
+        QTest::newRow("A") << QStringLiteral("L") << QColor(0, 255, 0);
+        QTest::newRow("B") << QStringLiteral("H") << QColor(255, 0, 0);
+    }
+
+    void theLettersOfTallPictures()
+    {
+        QFETCH(QString, letter);
+        QFETCH(QColor, colour);
+        MyLabel label;
+        prepare(label, {1000, 1280}, {960, 1280});
+        const QImage plain = label.grab().toImage();
+        (letter == QLatin1String("L") ? label.markerA : label.markerB) = {60, 50};
+        QFont font(QStringLiteral("Microsoft YaHei"));
+        font.setWeight(75);
+        font.setPixelSize(41); // 2.6 times 16, cut off
+        // column 60 stands at 260, row 50 at 200; the cross, 8 to each side, is not looked at
+        const QPoint place(260 + 16 + 2, 200 - 2);
+        const double ratio = label.devicePixelRatioF();
+        const QImage expected = withText(plain, ratio, place, letter, font, colour);
+        const QRect area(int(272 * ratio), int(150 * ratio), int(300 * ratio), int(200 * ratio));
+        QVERIFY(differingPixels(plain, expected, area) > 100);
+        QCOMPARE(differingPixels(label.grab().toImage(), expected, area), 0);
+    }
+
+    /// Points under lines under rectangles under circles under the spots under the reticle, and
+    /// within a list the later over the earlier: where strokes cross, the later one's colour shows.
+    void whatLiesOverWhat()
+    {
+        MyLabel label;
+        prepare(label, {520, 640}, {480, 640});
+        const std::array<QColor, 8> colours{
+            QColor(10, 0, 0),  QColor(40, 0, 0),  QColor(70, 0, 0),    QColor(100, 0, 0),
+            QColor(0, 0, 130), QColor(0, 0, 160), QColor(0, 190, 190), QColor(0, 220, 220)};
+        const int x = 100; // every upright stroke runs through here
+        label.pointList = {{QString(), x, 100, 60, colours[0]},
+                           {QString(), x, 108, 60, colours[1]}};
+        label.lineList = {{QString(), x, 96, x, 160, colours[2]},
+                          {QString(), x, 104, x, 160, colours[3]}};
+        label.rectList = {{QString(), x, 116, 150, 200, colours[4]},
+                          {QString(), x, 124, 150, 208, colours[5]}};
+        label.circleList = {{QString(), x + 30, 140, x + 60, 140, 30, colours[6]},
+                            {QString(), x + 60, 140, x + 90, 140, 30, colours[7]}};
+        const auto at = [&](const QImage& image, const QPoint& position) {
+            const double ratio = label.devicePixelRatioF();
+            return image.pixelColor(int(position.x() * ratio), int(position.y() * ratio));
+        };
+        const int column = 20 + 2 * x; // a stroke of two pixels lies to either side of it
+        const QImage tools = label.grab().toImage();
+        QCOMPARE(at(tools, {column, 2 * 88}), colours[1]);  // point over point
+        QCOMPARE(at(tools, {column, 2 * 100}), colours[2]); // line over points
+        QCOMPARE(at(tools, {column, 2 * 112}), colours[3]); // line over line
+        QCOMPARE(at(tools, {column, 2 * 120}), colours[4]); // rectangle over lines
+        QCOMPARE(at(tools, {column, 2 * 128}), colours[5]); // rectangle over rectangle
+        QCOMPARE(at(tools, {column, 2 * 140}), colours[6]); // circle over rectangles
+        label.circleList[1] = {QString(), x + 30, 140, x + 60, 140, 30, colours[7]};
+        QCOMPARE(at(label.grab().toImage(), {column, 2 * 140}), colours[7]); // circle over circle
+
+        // The spots' strokes lie a pen's width beside their centre.
+        label.markerA = {qint16(x - 1), 143};
+        QCOMPARE(at(label.grab().toImage(), {column, 2 * 143 + 3}), QColor(0, 255, 0));
+        label.markerB = label.markerA;
+        QCOMPARE(at(label.grab().toImage(), {column, 2 * 143 + 3}), QColor(255, 0, 0));
+        label.markerC = {qint16(x), 138}; // its lower stroke ends 6.5 rows below
+        QCOMPARE(at(label.grab().toImage(), {column, 2 * 138 + 12}), QColor(Qt::white));
+    }
 
     void theTwoSpots()
     {
@@ -683,9 +789,9 @@ private:
             }
     }
 
-    /// The picture with a red text whose box begins at `place`, in the label's pixels.
+    /// The picture with a text whose upper left corner is `place`, in the label's pixels.
     static QImage withText(QImage image, double ratio, const QPoint& place, const QString& text,
-                           const QFont& font)
+                           const QFont& font, const QColor& colour = red)
     {
         QPixmap layer(image.size());
         layer.setDevicePixelRatio(ratio);
@@ -693,8 +799,8 @@ private:
         QPainter painter(&layer);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setFont(font);
-        painter.setPen(red);
-        painter.drawText(QRect(place, QSize(60, 30)), 0, text);
+        painter.setPen(colour);
+        painter.drawText(QRect(place, QSize(60, 30)), Qt::TextDontClip, text);
         painter.end();
         image.setDevicePixelRatio(ratio);
         QPainter(&image).drawPixmap(0, 0, layer);
