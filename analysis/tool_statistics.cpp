@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 
 #include <cmath>
+#include <limits>
 #include <numeric>
 
 namespace analysis {
@@ -114,7 +115,8 @@ void Areas::add(const overlay::LineTool& line)
     // below the line, with a pixel to spare for rounding.
     const double longer = std::max(std::abs(dx), std::abs(dy));
     const double square = double(dx) * dx + double(dy) * dy;
-    const double reach = dx == 0 ? rows : 2 * square / (longer * std::abs(dx)) + 1;
+    const double reach = dx == 0 ? std::numeric_limits<double>::infinity()
+                                 : 2 * square / (longer * std::abs(dx)) + 1;
     const double slope = dx == 0 ? 0 : double(dy) / dx;
     const Columns inside(std::min(line.x1, line.x2), std::max(line.x1, line.x2));
     for (int x = inside.first; x <= inside.last; ++x) {

@@ -257,6 +257,28 @@ private slots:
         }
     }
 
+    /// No window draws them, but whoever hands them over gets what lies in the picture.
+    void linesThatBeginOutsideThePicture()
+    {
+        fillRandomly();
+        QCOMPARE(measured(line(136, -38, 136, 297)).pixels, 298);
+        QCOMPARE(measured(line(136, 700, 136, 20)).pixels, 300);
+        QCOMPARE(measured(line(3, 7, 900, 7)).pixels, 237);
+        Tools tools;
+        for (int i = 0; i < 400; ++i) {
+            const auto anywhere = [&] {
+                return upTo(1200) - 500;
+            };
+            LineTool tool = line(upTo(700), anywhere(), anywhere(), anywhere());
+            if (i % 3 == 0)
+                tool.x2 = tool.x1;
+            else if (i % 3 == 1)
+                tool.y2 = tool.y1;
+            tools.lines.append(tool);
+        }
+        QVERIFY(agrees(tools));
+    }
+
     void longLinesAreMeasuredByTheRule()
     {
         fillRandomly();
