@@ -7,8 +7,8 @@
 /// 240 across and 320 down, whatever size it is shown at. The picture is shown centred, with
 /// margins left and right, or above and below, when the label's shape is not the picture's.
 ///
-/// The roundings and the lack of symmetry below are how placed tools and saved reports have always
-/// come out. They are relied upon; do not even them out.
+/// The roundings and the lack of symmetry below decide which pixel a press means and where a stroke
+/// lies. They are relied upon; do not even them out.
 namespace overlay {
 
 /// What the conversions need to know, in widget pixels.

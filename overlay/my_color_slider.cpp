@@ -14,7 +14,8 @@ namespace {
 /// The triangle reaches this far to the right of its tip, and this far above and below it.
 constexpr int triangleWidth = 15;
 constexpr int triangleHalfHeight = 10;
-/// The hit area is somewhat larger, for fingers and impatience.
+/// The hit area is a box: it reaches further up and down than the triangle, for fingers and
+/// impatience, but neither the tip's own column nor the outline's upright side belongs to it.
 constexpr int hitWidth = 14;
 constexpr int hitHalfHeight = 14;
 
@@ -74,6 +75,8 @@ void My_ColorSlider::updateScale()
     const auto labels = scaleLabels(*ui);
     for (std::size_t k = 0; k < labels.size(); ++k)
         labels[k]->setText(QString::number(static_cast<double>(temperatures[k]), 'f', 1));
+    setAccessibleName(
+        tr("色标，最高 %1，最低 %2").arg(labels.front()->text(), labels.back()->text()));
 }
 
 void My_ColorSlider::mousePressEvent(QMouseEvent* event)

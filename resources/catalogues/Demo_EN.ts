@@ -259,6 +259,10 @@
         <source>色标</source>
         <translation>Colour bar</translation>
     </message>
+    <message>
+        <source>色标，最高 %1，最低 %2</source>
+        <translation>Colour bar, highest %1, lowest %2</translation>
+    </message>
 </context>
 <context>
     <name>SelectionJob</name>

@@ -259,6 +259,10 @@
         <source>色标</source>
         <translation>색상 막대</translation>
     </message>
+    <message>
+        <source>色标，最高 %1，最低 %2</source>
+        <translation>색상 막대, 최고 %1, 최저 %2</translation>
+    </message>
 </context>
 <context>
     <name>SelectionJob</name>

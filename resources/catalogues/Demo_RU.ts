@@ -259,6 +259,10 @@
         <source>色标</source>
         <translation>Цветовая шкала</translation>
     </message>
+    <message>
+        <source>色标，最高 %1，最低 %2</source>
+        <translation>Цветовая шкала: макс. %1, мин. %2</translation>
+    </message>
 </context>
 <context>
     <name>SelectionJob</name>

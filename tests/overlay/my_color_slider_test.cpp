@@ -94,6 +94,20 @@ private slots:
             QVERIFY(fresh.findChild<QLayout*>(QString::fromLatin1(layout)));
     }
 
+    /// Ticks and spacers, too: whoever looks a part of the form up by its name finds a plain label.
+    void everyLabelOfTheFormIsThere()
+    {
+        QStringList missing;
+        for (int number = 2; number <= 67; ++number) {
+            const QString name = QStringLiteral("label_%1").arg(number);
+            const QLabel* label = bar->findChild<QLabel*>(name);
+            if (!label || label->metaObject() != &QLabel::staticMetaObject ||
+                !label->text().isEmpty())
+                missing.append(name);
+        }
+        QCOMPARE(missing, QStringList());
+    }
+
     void tellsNothing()
     {
         const QMetaObject& meta = My_ColorSlider::staticMetaObject;
@@ -459,7 +473,47 @@ private slots:
         QCOMPARE(at(bar->startMarker + QPoint(17, -9)), background);
     }
 
-    void hasANameForScreenReaders() { QVERIFY(!bar->accessibleName().isEmpty()); }
+    /// The outline is a stroke of black on each of the three sides, one pixel wide; the fill lies
+    /// over its inner half.
+    void trianglesAreOutlinedInBlack()
+    {
+        bar->paletteTable.fill({255, 255, 255});
+        bar->startValue = 51;
+        bar->endValue = 204;
+        bar->repaint();
+        const QImage image = bar->grab().toImage();
+        const double ratio = bar->devicePixelRatioF();
+        const auto darkestNear = [&](const QPointF& position) {
+            int darkest = 255;
+            for (double dy = -1; dy <= 1; dy += 0.5 / ratio)
+                for (double dx = -1; dx <= 1; dx += 0.5 / ratio)
+                    darkest = std::min(
+                        darkest, image
+                                     .pixelColor(static_cast<int>((position.x() + dx) * ratio),
+                                                 static_cast<int>((position.y() + dy) * ratio))
+                                     .lightness());
+            return darkest;
+        };
+        for (const QPoint& tip : {bar->startMarker, bar->endMarker})
+            for (const QPointF& middle : {QPointF(7.5, -5), QPointF(7.5, 5), QPointF(15, 0)})
+                QVERIFY2(darkestNear(tip + middle + QPointF(0.5, 0.5)) < 160,
+                         qPrintable(QStringLiteral("%1, %2: %3")
+                                        .arg(middle.x())
+                                        .arg(middle.y())
+                                        .arg(darkestNear(tip + middle + QPointF(0.5, 0.5)))));
+    }
+
+    void screenReadersHearTheTemperatures()
+    {
+        const QString before = bar->accessibleName();
+        QVERIFY(!before.isEmpty());
+        bar->topTemperature = 50.04F;
+        bar->bottomTemperature = -20.5F;
+        bar->updateScale();
+        QVERIFY(bar->accessibleName().startsWith(before));
+        QVERIFY(bar->accessibleName().contains(QStringLiteral("50.0")));
+        QVERIFY(bar->accessibleName().contains(QStringLiteral("-20.5")));
+    }
 
     void keyboardFocusChangesNothing()
     {
