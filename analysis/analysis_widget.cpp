@@ -6,6 +6,7 @@
 #include "analysis/report_overlay.h"
 #include "analysis/tool_statistics.h"
 #include "config/configuration_record.h"
+#include "dialogs/dialogs.h"
 
 #include "ui_analysis_widget.h"
 
@@ -15,7 +16,6 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
-#include <QPointer>
 #include <QTableWidget>
 #include <QToolTip>
 #include <QUrl>
@@ -334,14 +334,11 @@ void Analysis_Widget::on_pushButton_5_clicked()
 void Analysis_Widget::on_pushButton_4_clicked()
 {
     const QString title = tr("颜色选择");
-    // The imager may be unplugged while the dialog is up, and the dialog goes with this window.
-    QPointer<QColorDialog> dialog = new QColorDialog(Qt::white, this);
-    dialog->setWindowTitle(title);
-    dialog->exec();
-    if (!dialog)
-        return;
-    const QColor colour = dialog->selectedColor();
-    delete dialog;
+    const dialogs::Waiting waiting(this);
+    QColorDialog dialog(Qt::white, this);
+    dialog.setWindowTitle(title);
+    dialog.exec();
+    const QColor colour = dialog.selectedColor();
 
     qDebug().noquote() << title << colour;
     if (colour.isValid()) {
@@ -372,23 +369,16 @@ void Analysis_Widget::on_pushButton_2_clicked()
 
 void Analysis_Widget::on_pushButton_clicked()
 {
-    // The imager may be unplugged while a dialog is up, and the dialog goes with this window.
-    const QPointer<QFileDialog> dialog =
-        new QFileDialog(this, tr("保存的文件"), config::documentsPath(), tr("Items files(*.pdf)"));
-    dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setFileMode(QFileDialog::AnyFile);
-    const bool accepted = dialog->exec() == QDialog::Accepted;
-    if (!dialog)
+    const dialogs::Waiting waiting(this);
+    QFileDialog dialog(this, tr("保存的文件"), config::documentsPath(), tr("Items files(*.pdf)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    if (dialog.exec() != QDialog::Accepted)
         return;
-    const QString file = dialog->selectedFiles().value(0);
-    delete dialog;
-    if (!accepted || !writeReport(report(), file))
+    const QString file = dialog.selectedFiles().value(0);
+    if (!writeReport(report(), file))
         return;
-
-    const QPointer<QMessageBox> message = new QMessageBox(
-        QMessageBox::Information, tr("提示"), tr("导出文件成功!"), QMessageBox::Ok, this);
-    message->exec();
-    delete message;
+    QMessageBox::information(this, tr("提示"), tr("导出文件成功!"), QMessageBox::Ok);
     QDesktopServices::openUrl(QUrl::fromLocalFile(file));
 }
 

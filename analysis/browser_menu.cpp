@@ -2,6 +2,7 @@
 
 #include "analysis/selection_job.h"
 #include "config/configuration_record.h"
+#include "dialogs/dialogs.h"
 
 #include <QDesktopServices>
 #include <QDir>
@@ -50,16 +51,14 @@ void BrowserMenu::askForFolder(SelectionTask task)
 
     QWidget* window = parentWidget()->window();
     auto* dialog = new QFileDialog(window, tr("选择一个目录"), config::documentsPath());
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setFileMode(QFileDialog::Directory);
     dialog->setOption(QFileDialog::ShowDirsOnly);
-    connect(parentWidget(), &QObject::destroyed, dialog, &QDialog::reject);
     connect(dialog, &QFileDialog::fileSelected, window, [order, window](const QString& folder) {
         SelectionOrder complete = order;
         complete.target = folder;
         new SelectionJob(complete, window); // deletes itself
     });
-    dialog->open();
+    dialogs::open(dialog, parentWidget());
 }
 
 void BrowserMenu::showFolder()
@@ -71,6 +70,5 @@ void BrowserMenu::showFolder()
                                 tr("无法打开文件夹“%1”。").arg(QDir::toNativeSeparators(m_folder)),
                                 QMessageBox::Ok, window);
     box->setTextFormat(Qt::PlainText);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->open();
+    dialogs::open(box);
 }

@@ -4,6 +4,7 @@
 #include "analysis/browser_menu.h"
 #include "analysis/information.h"
 #include "config/configuration_record.h"
+#include "dialogs/dialogs.h"
 #include "platform/picture_file.h"
 #include "platform/removable_drives.h"
 
@@ -17,7 +18,6 @@
 #include <QMessageBox>
 #include <QPainter>
 #include <QPainterPath>
-#include <QPointer>
 #include <QPushButton>
 #include <QShortcut>
 #include <QTabBar>
@@ -168,17 +168,15 @@ bool photo_window::chooseFolder(const QString& root, const QStringList& folderNa
         ++found;
     }
     if (found == 2) {
-        // The drive may go while the question is up, this window with it, and the box with that.
-        QPointer<QMessageBox> box =
-            new QMessageBox(QMessageBox::Question, tr("提示"),
-                            tr("检查到U盘中同时含有K4710和K4715的文件\n请选择打开哪一项？"),
-                            QMessageBox::Yes | QMessageBox::No, this);
-        box->button(QMessageBox::Yes)->setText(QStringLiteral("K4710"));
-        box->button(QMessageBox::No)->setText(QStringLiteral("K4715"));
-        const int answer = box->exec();
-        if (!box)
-            return false;
-        delete box;
+        const dialogs::Waiting waiting(this);
+        QMessageBox box(QMessageBox::Question, tr("提示"),
+                        tr("检查到U盘中同时含有K4710和K4715的文件\n请选择打开哪一项？"),
+                        QMessageBox::Yes | QMessageBox::No, this);
+        box.button(QMessageBox::Yes)->setText(QStringLiteral("K4710"));
+        box.button(QMessageBox::No)->setText(QStringLiteral("K4715"));
+        const int answer = box.exec();
+        if (answer == QDialog::Rejected)
+            return false; // not by the user, whose way out answers No
         const bool other = answer == QMessageBox::Yes;
         qDebug().noquote() << (other ? QStringLiteral("用户选择了“K4710”")
                                      : QStringLiteral("用户选择了“K4715”"));
@@ -346,22 +344,17 @@ void photo_window::open(const QString& name)
 {
     auto analysis = std::make_unique<Analysis_Widget>();
     if (!analysis->set_Image_addr(imageFolder + QLatin1Char('/') + name, modelIndex)) {
-        // Shown without waiting for it: the drive may go while the message is up, and this window
-        // with it, in the middle of the double click. A message of this window's own would have it
-        // wait for that double click to end.
-        auto* box =
-            new QMessageBox(QMessageBox::Information, tr("警告"),
-                            tr("该图片解析失败，请确认型号是否正确!"), QMessageBox::Ok, window());
-        box->setAttribute(Qt::WA_DeleteOnClose);
-        connect(this, &QObject::destroyed, box, &QDialog::reject);
-        box->open();
+        dialogs::open(new QMessageBox(QMessageBox::Information, tr("警告"),
+                                      tr("该图片解析失败，请确认型号是否正确!"), QMessageBox::Ok,
+                                      window()),
+                      this);
         return;
     }
     ui->tabWidget->setCurrentIndex(1);
     if (QLayoutItem* shown = ui->verticalLayout_5->itemAt(0)) {
         QWidget* previous = shown->widget();
         ui->verticalLayout_5->removeWidget(previous);
-        delete previous;
+        dialogs::end(previous);
     }
     ui->verticalLayout_5->addWidget(analysis.release());
 }

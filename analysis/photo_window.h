@@ -51,7 +51,7 @@ public:
 
     /// Fills the drive list. Returns the drives' roots, each ending in "/".
     QStringList listDrives();
-    /// Takes the photograph folder of the drive in use. False when this window was deleted while it
+    /// Takes the photograph folder of the drive in use. False when this window was ended while it
     /// waited for the user's answer.
     bool findImageFolder();
     /// Lists the photographs of `imageFolder` and shows their thumbnails.

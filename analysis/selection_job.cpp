@@ -2,6 +2,7 @@
 
 #include "analysis/photograph_format.h"
 #include "analysis/report_overlay.h"
+#include "dialogs/dialogs.h"
 
 #include <QDir>
 #include <QLabel>
@@ -87,8 +88,7 @@ void SelectionJob::finish()
     box->setTextFormat(Qt::PlainText);
     if (failures.size() > shownFailures)
         box->setDetailedText(failures.join(QLatin1Char('\n')));
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->open();
+    dialogs::open(box);
 }
 
 QString SelectionJob::summary() const

@@ -4,34 +4,25 @@
 #include "app/device_poll.h"
 #include "app/seting.h"
 #include "config/configuration_record.h"
+#include "dialogs/dialogs.h"
 #include "live/camer_window.h"
 #include "live/imager_camera.h"
 #include "platform/removable_drives.h"
 
 #include "ui_main_window.h"
 
-#include <QApplication>
 #include <QCameraInfo>
 #include <QCloseEvent>
 #include <QDebug>
-#include <QDialog>
 #include <QDir>
 #include <QListWidgetItem>
 #include <QMenu>
-#include <QThread>
 
 #include <algorithm>
 
 namespace {
 
 constexpr int pollInterval = 300; // ms
-
-bool belongsTo(const QWidget* widget, const QWidget* owner)
-{
-    while (widget && widget != owner)
-        widget = widget->parentWidget();
-    return widget;
-}
 
 } // namespace
 
@@ -152,7 +143,7 @@ void MainWindow::dropOldSettingsDialogs()
     m_settingsDialogs.erase(std::remove_if(m_settingsDialogs.begin(), last,
                                            [](const std::unique_ptr<seting>& dialog) {
                                                return !dialog->isVisible() &&
-                                                      !dialog->findChild<QDialog*>();
+                                                      !dialogs::isWaiting(dialog.get());
                                            }),
                             last);
 }
@@ -213,7 +204,6 @@ void MainWindow::timeout_connect()
 {
     if (!ui)
         return;
-    m_outerLoopLevel = std::min(m_outerLoopLevel, QThread::currentThread()->loopLevel());
     std::vector<bool> cameraIsImager;
     const QList<QCameraInfo> cameras = QCameraInfo::availableCameras();
     for (const QCameraInfo& camera : cameras)
@@ -266,33 +256,13 @@ void MainWindow::clearModeArea()
     endPage(page);
 }
 
-/// Deletes a page and dismisses its dialogs. A page may be in the middle of one of its functions,
-/// which runs a dialog's event loop; it then goes as soon as that function has come to its end.
 void MainWindow::endPage(QWidget* page)
 {
     if (page == m_liveWindow)
         m_liveWindow.clear();
     if (page == m_browserWindow)
         m_browserWindow.clear();
-    const auto openDialog = [page] {
-        QWidget* modal = QApplication::activeModalWidget();
-        return belongsTo(modal, page) ? qobject_cast<QDialog*>(modal) : nullptr;
-    };
-    const int level = QThread::currentThread()->loopLevel();
-    if (!openDialog() || level <= m_outerLoopLevel) {
-        delete page;
-        return;
-    }
-    page->close();
-    page->setParent(this, Qt::Widget);
-    while (QDialog* dialog = openDialog())
-        dialog->done(QDialog::Rejected);
-    auto* retry = new QTimer(page);
-    connect(retry, &QTimer::timeout, page, [page, level] {
-        if (QThread::currentThread()->loopLevel() < level)
-            page->deleteLater();
-    });
-    retry->start(0);
+    dialogs::end(page);
 }
 
 void MainWindow::enterMode(int mode, QWidget* page, const QString& status)

@@ -5,7 +5,6 @@
 #include <QString>
 #include <QTimer>
 
-#include <limits>
 #include <memory>
 #include <vector>
 
@@ -83,8 +82,6 @@ private:
     QPointer<camer_window> m_liveWindow;
     QPointer<photo_window> m_browserWindow;
     QTimer m_pollTimer;
-    /// The event loop that looks for the imager when no dialog runs one of its own inside it.
-    int m_outerLoopLevel = std::numeric_limits<int>::max();
     int m_mode = -1;
     QString m_alarmFolder;
     /// Released by Action_Close() before the window is: slots that come later do nothing.

@@ -1,6 +1,7 @@
 #include "app/seting.h"
 
 #include "config/configuration_record.h"
+#include "dialogs/dialogs.h"
 
 #include "ui_seting.h"
 
@@ -56,11 +57,13 @@ void seting::on_pushButton_2_clicked()
     if (!written.isEmpty())
         qDebug().noquote() << QStringLiteral("写入了") << written;
     close();
+    const dialogs::Waiting waiting(this);
     QMessageBox::information(this, tr("提示"), tr("改动将在应用重启后生效!"), QMessageBox::Ok);
 }
 
 void seting::on_pushButton_clicked()
 {
+    const dialogs::Waiting waiting(this);
     QString chosen = QFileDialog::getExistingDirectory(this, tr("选择一个目录"), config::filePath(),
                                                        QFileDialog::ShowDirsOnly);
     if (!chosen.isEmpty())

@@ -1,6 +1,7 @@
 #include "live/camer_window.h"
 
 #include "config/configuration_record.h"
+#include "dialogs/dialogs.h"
 #include "live/alarm_records.h"
 #include "live/imager_camera.h"
 #include "live/qt_camera_capture.h"
@@ -19,7 +20,6 @@
 #include <QMediaPlayer>
 #include <QMouseEvent>
 #include <QNetworkRequest>
-#include <QPointer>
 #include <QSaveFile>
 #include <QTimer>
 #include <QUrl>
@@ -243,23 +243,20 @@ void camer_window::on_pushButton_clicked()
         return;
     const QPixmap picture =
         currentPixmap.scaled(480, 640, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-    // While the dialog is open the imager may be pulled out, and this page with it.
-    const QPointer<QFileDialog> dialog =
-        new QFileDialog(this, tr("保存的文件"), historyFolder + QStringLiteral("/cap.png"),
-                        QStringLiteral("Items files(*.png)"));
-    dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setFileMode(QFileDialog::AnyFile);
-    dialog->setDefaultSuffix(QStringLiteral("png"));
-    const bool accepted = dialog->exec() == QDialog::Accepted && dialog;
-    if (accepted) {
-        // The name is the user's; one whose suffix names no picture format gets a PNG all the same.
-        const QString name = dialog->selectedFiles().value(0);
-        QByteArray bytes = encoded(picture, QFileInfo(name).suffix().toLatin1());
-        if (bytes.isEmpty())
-            bytes = encoded(picture, "PNG");
-        writeWhole(name, bytes);
-    }
-    delete dialog;
+    const dialogs::Waiting waiting(this);
+    QFileDialog dialog(this, tr("保存的文件"), historyFolder + QStringLiteral("/cap.png"),
+                       QStringLiteral("Items files(*.png)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setDefaultSuffix(QStringLiteral("png"));
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    // The name is the user's; one whose suffix names no picture format gets a PNG all the same.
+    const QString name = dialog.selectedFiles().value(0);
+    QByteArray bytes = encoded(picture, QFileInfo(name).suffix().toLatin1());
+    if (bytes.isEmpty())
+        bytes = encoded(picture, "PNG");
+    writeWhole(name, bytes);
 }
 
 void camer_window::mouseDoubleClickEvent(QMouseEvent* event)

@@ -1,6 +1,7 @@
 #include "analysis/analysis_widget.h"
 #include "analysis/picture_frame.h"
 #include "config/configuration_record.h"
+#include "dialogs/dialogs.h"
 #include "overlay/my_color_slider.h"
 #include "overlay/my_label.h"
 #include "resources/resources.h"
@@ -747,11 +748,13 @@ private slots:
         QVERIFY(!window->findChild<QColorDialog*>());
     }
 
-    void theWindowMayGoWhileAColourIsChosen()
+    void theWindowMayEndWhileAColourIsChosen()
     {
-        QTimer::singleShot(0, this, [this] { window.reset(); });
-        click("pushButton_4");
-        QVERIFY(!window);
+        const QPointer<Analysis_Widget> page = window.release();
+        QTimer::singleShot(0, this, [page] { dialogs::end(page); });
+        QTest::mouseClick(page->findChild<QPushButton*>("pushButton_4"), Qt::LeftButton);
+        QVERIFY(!QApplication::activeModalWidget());
+        QTRY_VERIFY(!page);
     }
 
     void theGrayPictureIsSetWhenLoaded()

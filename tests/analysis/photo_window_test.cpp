@@ -1,6 +1,7 @@
 #include "analysis/analysis_widget.h"
 #include "analysis/photo_window.h"
 #include "config/configuration_record.h"
+#include "dialogs/dialogs.h"
 #include "platform/removable_drives.h"
 #include "resources/resources.h"
 #include "tests/analysis/photograph_writer.h"
@@ -621,13 +622,14 @@ private slots:
         QCOMPARE(window->modelIndex, 0);
     }
 
-    void theWindowMayGoWhileTheQuestionIsUp()
+    void theWindowMayEndWhileTheQuestionIsUp()
     {
         openWindow();
-        QTimer::singleShot(0, this, [this] { window.reset(); });
-        photo_window& asking = *window;
-        QVERIFY(!asking.chooseFolder(QStringLiteral("E:/"),
-                                     {QStringLiteral("DCIM_100"), QStringLiteral("DCIM_100")}));
+        const QPointer<photo_window> page = window.release();
+        QTimer::singleShot(0, this, [page] { dialogs::end(page); });
+        QVERIFY(!page->chooseFolder(QStringLiteral("E:/"),
+                                    {QStringLiteral("DCIM_100"), QStringLiteral("DCIM_100")}));
+        QTRY_VERIFY(!page);
     }
 
     // --- opening -------------------------------------------------------------------------------

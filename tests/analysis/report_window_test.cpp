@@ -1,5 +1,6 @@
 #include "analysis/analysis_widget.h"
 #include "config/configuration_record.h"
+#include "dialogs/dialogs.h"
 #include "overlay/my_color_slider.h"
 #include "overlay/my_label.h"
 #include "tests/analysis/pdf_reader.h"
@@ -12,6 +13,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTranslator>
@@ -180,21 +182,24 @@ private slots:
         QVERIFY(QDir(config::documentsPath()).isEmpty());
     }
 
-    void theWindowMayGoWhileTheFileIsChosen()
+    void theWindowMayEndWhileTheFileIsChosen()
     {
-        Answer<QFileDialog> file([this](QFileDialog&) { m_window.reset(); });
+        const QPointer<Analysis_Widget> page = m_window.get();
+        Answer<QFileDialog> file([this](QFileDialog&) { dialogs::end(m_window.release()); });
         click();
         QVERIFY(file.wasAsked());
-        QVERIFY(!m_window);
+        QTRY_VERIFY(!page);
         QVERIFY(QDir(config::documentsPath()).isEmpty());
     }
 
-    void theReportOpensThoughTheWindowIsGone()
+    void theReportOpensThoughTheWindowHasEnded()
     {
         Answer<QFileDialog> file([](QFileDialog& dialog) { choose(dialog, "отчёт 报告.pdf"); });
-        Answer<QMessageBox> message([this](QMessageBox&) { m_window.reset(); });
+        const QPointer<Analysis_Widget> page = m_window.get();
+        Answer<QMessageBox> message([this](QMessageBox&) { dialogs::end(m_window.release()); });
         click();
         QVERIFY(message.wasAsked());
+        QTRY_VERIFY(!page);
         QCOMPARE(m_opened, QList<QUrl>{QUrl::fromLocalFile(target())});
     }
 

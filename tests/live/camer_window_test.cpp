@@ -12,6 +12,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMetaMethod>
+#include <QPointer>
 #include <QPushButton>
 #include <QTabBar>
 #include <QTabWidget>
@@ -834,12 +835,14 @@ void CamerWindowTest::withoutPictureNothingIsAsked()
 void CamerWindowTest::pageMayGoWhileTheDialogIsOpen()
 {
     Page page;
+    const QPointer<camer_window> window = &page.window();
     page->show();
     QVERIFY(deliver());
-    withFileDialog([&page](QFileDialog*) { page.destroy(); });
+    withFileDialog([&page](QFileDialog*) { page.end(); });
     QTest::mouseClick(page.get<QPushButton>("pushButton"), Qt::LeftButton);
     QVERIFY(QDir(m_folder).isEmpty());
     QVERIFY(!deliver());
+    QTRY_VERIFY(!window);
 }
 
 int main(int argc, char** argv)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dialogs/dialogs.h"
 #include "live/camer_window.h"
 
 #include <QByteArray>
@@ -47,6 +48,8 @@ public:
     camer_window* operator->() const { return m_window.get(); }
     camer_window& window() const { return *m_window; }
     void destroy() { m_window.reset(); }
+    /// As the main window ends a page.
+    void end() { dialogs::end(m_window.release()); }
 
     /// The widget of that object name; fails the test's run when there is none.
     template<typename T>
