@@ -350,9 +350,32 @@ void Analysis_Widget::on_pushButton_4_clicked()
     setFocus(currentTool);
 }
 
+/// Of the tool that would be deleted next; one past the last row when none would be. All tools of
+/// the label must be placed.
+int Analysis_Widget::rowOfSelection() const
+{
+    const MyLabel& label = *ui->label;
+    int row = 0;
+    int selected = -1;
+    const auto count = [&](const QString& type, int tools) {
+        if (label.currentType == type && label.selectedIndex < tools)
+            selected = row + label.selectedIndex;
+        row += tools;
+    };
+    count(QStringLiteral("P"), label.pointList.size());
+    count(QStringLiteral("L"), label.lineList.size());
+    count(QStringLiteral("R"), label.rectList.size());
+    count(QStringLiteral("C"), label.circleList.size());
+    return selected >= 0 ? selected : row;
+}
+
+/// The label says nothing of a deletion. Its selection stays where it is, on the tool that moved
+/// up, which a second click deletes: the table marks that one.
 void Analysis_Widget::on_pushButton_3_clicked()
 {
     ui->label->deleteSelected();
+    selectedRow = rowOfSelection();
+    updat_Tool_Temp();
     if (ui->label->currentType.startsWith(QLatin1Char('n'))) {
         ui->label->setFocus(Qt::OtherFocusReason);
         on_pushButton_9_clicked();

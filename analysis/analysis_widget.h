@@ -90,6 +90,7 @@ protected:
 private:
     void prepareTables();
     void selectTool(int tool);
+    int rowOfSelection() const;
     void takePalette();
     void fillInformation();
     void showScale();

@@ -2,6 +2,7 @@
 
 #include <QDateTime>
 #include <QFileInfo>
+#include <QLocale>
 #include <QTextDocument>
 
 namespace analysis {
@@ -19,8 +20,9 @@ QString toolTipOf(const QString& name)
 QString createdText(const QFileInfo& file)
 {
     const QDateTime birth = file.birthTime();
-    return (birth.isValid() ? birth : file.metadataChangeTime())
-        .toString(QStringLiteral("yyyy/MM/dd HH:mm"));
+    // Not in the digits of the computer's language: dates look the same on all of them.
+    return QLocale::c().toString(birth.isValid() ? birth : file.metadataChangeTime(),
+                                 QStringLiteral("yyyy/MM/dd HH:mm"));
 }
 
 std::array<QString, informationRows> informationTexts(const QString& fileName,

@@ -217,12 +217,14 @@ void photo_window::get_image_information()
     if (!imageFolder.isEmpty())
         files = QDir(imageFolder).entryInfoList({QStringLiteral("*.bmp")}, QDir::Files, QDir::Name);
     for (const QFileInfo& file : files) {
+        if (!file.isFile()) // links to folders, pipes and devices are listed, too
+            continue;
         fileNames.append(file.fileName());
         fileDates.append(analysis::createdText(file));
         fileSizes.append(analysis::kilobytes(file.size()));
         thumbnails.append(QPixmap());
     }
-    m_read.fill(false, files.size());
+    m_read.fill(false, fileNames.size());
     qDebug().noquote() << QStringLiteral("闪退测试——————photo_window::get_image_information");
     on_pushButton_4_clicked();
 }

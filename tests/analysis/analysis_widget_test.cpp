@@ -547,12 +547,58 @@ private slots:
         QCOMPARE(window->selectedRow, 3);
         QCOMPARE(tools().selectedItems().size(), 5);
         QCOMPARE(tools().selectedItems().first()->row(), 3);
-        // Deleting does not refill the table; clearing does.
         click("pushButton_3");
         QCOMPARE(label().circleList.size(), 0);
-        QCOMPARE(tools().rowCount(), 4);
+        QCOMPARE(tools().rowCount(), 3);
         click("pushButton_2");
         QCOMPARE(tools().rowCount(), 0);
+    }
+
+    void afterDeletingTheTableListsWhatIsLeft()
+    {
+        QVERIFY(load(flat(255)));
+        label().pointList = {placedPoint(QStringLiteral("P0"), 3, 4),
+                             placedPoint(QStringLiteral("P1"), 5, 6),
+                             placedPoint(QStringLiteral("P2"), 7, 8)};
+        window->updat_Tool_Temp();
+        window->Set_Select(0);
+        const auto marked = [this] {
+            const auto items = tools().selectedItems();
+            return items.isEmpty() ? QString() : items.first()->text();
+        };
+        emit tools().itemClicked(tools().item(1, 0));
+        click("pushButton_3");
+        QCOMPARE(tools().rowCount(), 2);
+        QCOMPARE(toolRow(0).first(), QStringLiteral("P0"));
+        QCOMPARE(toolRow(1).first(), QStringLiteral("P2"));
+        // The tool that moved up is the one that goes next, and the table says so.
+        QCOMPARE(marked(), QStringLiteral("P2"));
+        click("pushButton_3");
+        QCOMPARE(tools().rowCount(), 1);
+        QCOMPARE(toolRow(0).first(), QStringLiteral("P0"));
+        // None has moved up now, so none is marked, and deleting again removes nothing.
+        QCOMPARE(marked(), QString());
+        click("pushButton_3");
+        QCOMPARE(label().pointList.size(), 1);
+        QCOMPARE(tools().rowCount(), 1);
+    }
+
+    void theMarkedRowIsThatOfTheToolThatMovedUp()
+    {
+        QVERIFY(load(flat(255)));
+        overlay::CircleTool circle;
+        circle.cx = circle.cy = 50;
+        circle.radius = 5;
+        circle.name = QStringLiteral("C0");
+        label().circleList = {circle};
+        circle.name = QStringLiteral("C1");
+        label().circleList.append(circle);
+        label().pointList = {placedPoint(QStringLiteral("P0"), 3, 4)};
+        window->updat_Tool_Temp();
+        emit tools().itemClicked(tools().item(1, 0)); // C0
+        click("pushButton_3");
+        QCOMPARE(tools().selectedItems().value(0)->text(), QStringLiteral("C1"));
+        QCOMPARE(window->selectedRow, 1);
     }
 
     void selectingARowThatIsNotThereKeepsTheSelection()

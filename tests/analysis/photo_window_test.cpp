@@ -19,6 +19,10 @@
 
 #include <memory>
 
+#ifndef Q_OS_WIN
+#include <sys/stat.h>
+#endif
+
 using testing::photographBytes;
 using testing::Shot;
 
@@ -245,6 +249,28 @@ private slots:
         QVERIFY(log.contains(QStringLiteral("图片地址 ") + window->imageFolder));
         QVERIFY(log.contains(QStringLiteral("闪退测试——————photo_window::get_image_information")));
     }
+
+#ifndef Q_OS_WIN
+    void onlyRegularFilesArePhotographs()
+    {
+        const QString root = addDrive(QStringLiteral("disk"));
+        const QString folder = root + QStringLiteral("DCIM_100/");
+        const QString pipe = disks->filePath(QStringLiteral("pipe"));
+        QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+        QCOMPARE(::mkfifo(QFile::encodeName(folder + "pipe.bmp").constData(), 0600), 0);
+        addPhotographs(root, {QStringLiteral("b.bmp")});
+        QVERIFY(QFile::link(pipe, folder + QStringLiteral("a.bmp")));
+        QVERIFY(QFile::link(QStringLiteral("/dev/zero"), folder + QStringLiteral("c.bmp")));
+        QVERIFY(QFile::link(disks->path(), folder + QStringLiteral("d.bmp")));
+        QVERIFY(QFile::link(QStringLiteral("b.bmp"), folder + QStringLiteral("e.bmp")));
+        openWindow();
+        const QStringList expected{QStringLiteral("b.bmp"), QStringLiteral("e.bmp")};
+        QCOMPARE(window->fileNames, expected);
+        QTRY_VERIFY(!window->thumbnails.at(1).isNull());
+        window->list_item_doubleclicked(list()->item(1));
+        QVERIFY(opened());
+    }
+#endif
 
     void aDriveWithoutTheFolderListsNothing_data()
     {
@@ -702,6 +728,8 @@ private slots:
         QTest::addColumn<QString>("kind");
         for (const char* kind : {"another machine", "deleted meanwhile", "empty", "cut"})
             QTest::newRow(kind) << QString::fromLatin1(kind);
+        if (!testing::onWindows())
+            QTest::newRow("pipe meanwhile") << QStringLiteral("pipe meanwhile");
     }
     void whatCannotBeOpenedIsReported()
     {
@@ -722,8 +750,12 @@ private slots:
         QVERIFY(opened());
         const QPointer<Analysis_Widget> first = opened();
         tabs().setCurrentIndex(0);
-        if (kind == QLatin1String("deleted meanwhile"))
+        if (kind.endsWith(QLatin1String("meanwhile")))
             QVERIFY(QFile::remove(bad));
+#ifndef Q_OS_WIN
+        if (kind.startsWith(QLatin1String("pipe")))
+            QCOMPARE(::mkfifo(QFile::encodeName(bad).constData(), 0600), 0); // waits for ever
+#endif
 
         window->list_item_doubleclicked(list()->item(0));
         QTRY_VERIFY(message() && message()->isVisible());
