@@ -48,6 +48,9 @@ Analysis_Widget::Analysis_Widget(QWidget* parent)
       ui(std::make_unique<Ui::Analysis_Widget>())
 {
     ui->setupUi(this);
+    // What repaints the colour bar must go on repainting this window, which lies beneath.
+    ui->scrollArea->viewport()->setAutoFillBackground(false);
+    ui->content->setAutoFillBackground(false);
     ui->label->setOwner(this);
     configurationField = config::read().language;
     prepareTables();

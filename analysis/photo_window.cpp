@@ -20,6 +20,7 @@
 #include <QPainterPath>
 #include <QPushButton>
 #include <QShortcut>
+#include <QStyledItemDelegate>
 #include <QTabBar>
 #include <QTableWidget>
 
@@ -35,6 +36,9 @@ constexpr int otherModel = 1;
 /// wider padding of an item under the mouse.
 constexpr QSize thumbnailSize(132, 176);
 constexpr int thumbnailRadius = 15;
+constexpr QSize itemSize(165, 220);
+/// Between the padding of an item under the mouse.
+constexpr int nameWidth = 165 - 2 * 8 - 8;
 /// More than the largest screens show at once; about 24 MB.
 constexpr int keptThumbnails = 256;
 /// Reading thumbnails goes on for so long, in milliseconds, before other events have their turn.
@@ -78,6 +82,26 @@ const QPixmap& emptyThumbnail()
     return empty;
 }
 
+/// Names are set narrower when they are longer than an item is wide, down to three quarters; the
+/// imager's own fit then in any font. What is longer still loses its middle.
+class NameDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->textElideMode = Qt::ElideMiddle;
+        const int width = option->fontMetrics.horizontalAdvance(option->text);
+        if (width <= nameWidth)
+            return;
+        option->font.setStretch(std::max(100 * nameWidth / width, 75));
+        option->fontMetrics = QFontMetrics(option->font);
+    }
+};
+
 /// A list or table item whose picture is asked for when it is painted.
 template<typename Item>
 class PhotographItem : public Item
@@ -87,7 +111,10 @@ public:
 
     QVariant data(int role) const override
     {
-        return role == Qt::DecorationRole ? m_window.shownThumbnail(m_index) : Item::data(role);
+        if (role == Qt::DecorationRole)
+            return m_window.shownThumbnail(m_index);
+        return role == Qt::ToolTipRole ? analysis::toolTipOf(m_window.fileNames.at(m_index))
+                                       : Item::data(role);
     }
 
 private:
@@ -238,7 +265,7 @@ void photo_window::showView(QAbstractItemView* view, int pictureColumn)
     ui->verticalLayout_4->addWidget(view);
     connect(view, &QWidget::customContextMenuRequested, this, &photo_window::showMenu);
     view->installEventFilter(this);
-    view->setAccessibleName(ui->tabWidget->tabText(0));
+    view->setAccessibleName(tr("照片"));
 }
 
 void photo_window::on_pushButton_4_clicked()
@@ -259,13 +286,14 @@ void photo_window::on_pushButton_4_clicked()
     font.setPixelSize(15);
     list->setFont(font);
     list->setStyleSheet(listSheet);
+    list->setItemDelegate(new NameDelegate(list));
 
     for (int i = 0; i < fileNames.size(); ++i) {
         auto* item = new PhotographItem<QListWidgetItem>(*this, i);
         item->setText(fileNames.at(i));
         item->setTextAlignment(Qt::AlignHCenter | Qt::AlignBottom);
         item->setFlags(item->flags() & ~Qt::ItemIsEditable);
-        item->setSizeHint({165, 220});
+        item->setSizeHint(itemSize);
         list->addItem(item);
     }
 
@@ -317,6 +345,7 @@ void photo_window::on_pushButton_3_clicked()
         put(row, NumberColumn, new QTableWidgetItem(QString::number(row + 1)));
         put(row, PictureColumn, new PhotographItem<QTableWidgetItem>(*this, row));
         put(row, NameColumn, new QTableWidgetItem(fileNames.at(row)));
+        table->item(row, NameColumn)->setToolTip(analysis::toolTipOf(fileNames.at(row)));
         put(row, DateColumn, new QTableWidgetItem(fileDates.at(row)));
         put(row, SizeColumn, new QTableWidgetItem(fileSizes.at(row)));
     }

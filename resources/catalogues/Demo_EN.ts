@@ -459,6 +459,10 @@ Which shall be opened?</translation>
         <source>该图片解析失败，请确认型号是否正确!</source>
         <translation>The picture could not be parsed, please check that the model is right!</translation>
     </message>
+    <message>
+        <source>照片</source>
+        <translation>Photographs</translation>
+    </message>
 </context>
 <context>
     <name>seting</name>

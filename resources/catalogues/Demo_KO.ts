@@ -455,6 +455,10 @@
         <source>该图片解析失败，请确认型号是否正确!</source>
         <translation>이미지를 해석하지 못했습니다. 모델이 올바른지 확인하십시오!</translation>
     </message>
+    <message>
+        <source>照片</source>
+        <translation>사진</translation>
+    </message>
 </context>
 <context>
     <name>seting</name>

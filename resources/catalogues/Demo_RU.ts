@@ -463,6 +463,10 @@
         <source>该图片解析失败，请确认型号是否正确!</source>
         <translation>Не удалось прочитать снимок. Проверьте, верно ли выбрана модель!</translation>
     </message>
+    <message>
+        <source>照片</source>
+        <translation>Снимки</translation>
+    </message>
 </context>
 <context>
     <name>seting</name>

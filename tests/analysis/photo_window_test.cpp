@@ -5,6 +5,7 @@
 #include "platform/removable_drives.h"
 #include "resources/resources.h"
 #include "tests/analysis/photograph_writer.h"
+#include "tests/support/accessible.h"
 #include "tests/support/test_run.h"
 
 #include <QHeaderView>
@@ -13,9 +14,11 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QTabBar>
 #include <QTableWidget>
+#include <QTextDocumentFragment>
 
 #include <memory>
 
@@ -351,6 +354,48 @@ private slots:
         QVERIFY(photo_window::roundedThumbnail(QPixmap(), QSize(195, 195), 15).isNull());
     }
 
+    /// What an item with this name shows, its picture apart.
+    QImage shownName(const QString& name)
+    {
+        addPhotographs(addDrive(name), {name});
+        openWindow();
+        driveList().setCurrentRow(drives.size() - 1);
+        list()->clearSelection();
+        const QRect item = list()->visualItemRect(list()->item(0));
+        return list()->viewport()->grab(item).toImage().copy(0, 190, item.width(), 30);
+    }
+
+    /// A name that loses a part shows the same as another one that differs only there.
+    void theImagersNamesAreShownWhole()
+    {
+        const QString name = QStringLiteral("M26112109301500.bmp"); // 19 characters, wide ones
+        const QImage shown = shownName(name);
+        for (int i = 0; i < name.size(); ++i) {
+            QString other = name;
+            other[i] = name.at(i) == QLatin1Char('8') ? QLatin1Char('9') : QLatin1Char('8');
+            if (!other.endsWith(QLatin1String(".bmp")))
+                continue;
+            QVERIFY2(shownName(other) != shown, qPrintable(other));
+        }
+    }
+
+    void namesHaveToolTips()
+    {
+        const QString name = testing::onWindows() // where no name may look like mark-up
+                                 ? QStringLiteral("a name that is too long to be shown.bmp")
+                                 : QStringLiteral("a name that is too long, <b>and mark-up.bmp");
+        addPhotographs(addDrive(QStringLiteral("disk")), {name, QStringLiteral("plain.bmp")});
+        openWindow();
+        const auto plain = [](const QString& tip) {
+            return QTextDocumentFragment::fromHtml(tip).toPlainText();
+        };
+        QCOMPARE(plain(list()->item(0)->toolTip()), name);
+        QCOMPARE(list()->item(1)->toolTip(), QStringLiteral("plain.bmp"));
+        click("pushButton_3");
+        QCOMPARE(plain(table()->item(0, 2)->toolTip()), name);
+        QCOMPARE(table()->item(1, 2)->toolTip(), QStringLiteral("plain.bmp"));
+    }
+
     void selectedNamesAreLegible()
     {
         addPhotographs(addDrive(QStringLiteral("disk")), names(3));
@@ -502,6 +547,85 @@ private slots:
         QVERIFY(tabs().tabBar()->tabRect(0).width() >= 150);
         QCOMPARE(tabs().styleSheet(),
                  QStringLiteral("QTabWidget#tabWidget{border-color:rgb(255,0,0);}"));
+    }
+
+    void tabsShowFocus_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::newRow("source") << QStringLiteral("CH");
+        QTest::newRow("Russian") << QStringLiteral("RU");
+    }
+    void tabsShowFocus()
+    {
+        QFETCH(QString, language);
+        config::create(language);
+        openWindow();
+        QApplication::setActiveWindow(window.get());
+        const auto framePixels = [this] {
+            const QImage bar = tabs().tabBar()->grab().toImage();
+            int count = 0;
+            for (int x = 0; x < bar.width(); ++x)
+                count += bar.pixelColor(x, 0) == QColor(85, 170, 255) ? 1 : 0;
+            return count;
+        };
+        driveList().setFocus();
+        QTRY_VERIFY(driveList().hasFocus());
+        QCOMPARE(framePixels(), 0);
+        tabs().tabBar()->setFocus();
+        QTRY_VERIFY(tabs().tabBar()->hasFocus());
+        QVERIFY(framePixels() > 30);
+    }
+
+    void theTabsOfEachLanguage()
+    {
+        openWindow();
+        QVERIFY(tabs().styleSheet().contains(QLatin1String("color: rgb(255, 255, 255)")));
+        QVERIFY(tabs().styleSheet().contains(QLatin1String("border-top-left-radius: 5px")));
+        config::create(QStringLiteral("RU"));
+        openWindow();
+        QCOMPARE(
+            tabs().tabBar()->styleSheet(),
+            QStringLiteral("QTabBar::tab {color: rgb(255, 255, 255); border-top-left-radius: "
+                           "5px;border-top-right-radius: 5px;padding: 5px;margin-right:10;width: "
+                           "150;}QTabBar::tab:!selected {background-color: "
+                           "#929697;}QTabBar::tab:selected {background-color:#303030;}"));
+    }
+
+    void aPhotographDoesNotWidenASmallWindow()
+    {
+        addPhotographs(addDrive(QStringLiteral("disk")), names(1));
+        openWindow();
+        window->resize(window->minimumSizeHint());
+        const QSize before = window->minimumSizeHint();
+        QVERIFY(before.width() < 500);
+        window->list_item_doubleclicked(list()->item(0));
+        QVERIFY(opened());
+        QTRY_VERIFY(opened()->isVisible());
+        QCOMPARE(window->minimumSizeHint().width(), before.width());
+        QCOMPARE(window->width(), before.width());
+        // All of it can still be reached.
+        auto* area = opened()->findChild<QScrollArea*>();
+        QVERIFY(area->horizontalScrollBar()->maximum() > 0);
+        QVERIFY(area->verticalScrollBar()->maximum() > 0);
+        auto* selector = opened()->findChild<QWidget*>(QStringLiteral("comboBox"));
+        QVERIFY(selector->width() >= 76);
+        QVERIFY(!selector->visibleRegion().isEmpty() ||
+                area->widget()->rect().contains(selector->geometry().center()));
+    }
+
+    void whatAScreenReaderTells()
+    {
+        addPhotographs(addDrive(QStringLiteral("disk")), names(1));
+        openWindow();
+        QCOMPARE(testing::namelessWidgets(window.get()).join(QLatin1Char(',')), QString());
+        QVERIFY(driveList().accessibleName() != list()->accessibleName());
+        click("pushButton_3");
+        QCOMPARE(testing::namelessWidgets(window.get()).join(QLatin1Char(',')), QString());
+        QVERIFY(driveList().accessibleName() != table()->accessibleName());
+        emit table()->itemDoubleClicked(table()->item(0, 0));
+        QVERIFY(opened());
+        QTRY_VERIFY(opened()->isVisible());
+        QCOMPARE(testing::namelessWidgets(window.get()).join(QLatin1Char(',')), QString());
     }
 
     void hoveringTellsTheOwner()
