@@ -17,6 +17,7 @@
 #include <QTableWidget>
 #include <QTextDocumentFragment>
 #include <QToolTip>
+#include <QTranslator>
 
 #include <memory>
 
@@ -236,6 +237,86 @@ private slots:
         QCOMPARE(names.size(), 9);
     }
 
+    void iconsAreThoseOfTheResources()
+    {
+        const QVector<std::pair<const char*, const char*>> icons{
+            {"pushButton_9", "Corsor"}, {"pushButton_8", "Poin"},    {"pushButton_7", "Line"},
+            {"pushButton_6", "Rect"},   {"pushButton_5", "Ellipse"}, {"pushButton_3", "Delete"},
+            {"pushButton_2", "Clear"},  {"pushButton_4", "Color"},   {"pushButton", "save"}};
+        for (const auto& [button, name] : icons) {
+            const QIcon resource(QStringLiteral(":/photo/%1.png").arg(QLatin1String(name)));
+            QCOMPARE(child<QPushButton>(button).icon().pixmap(26).toImage(),
+                     resource.pixmap(26).toImage());
+        }
+    }
+
+    /// What a button shows next to its icon.
+    QColor ground(const char* button)
+    {
+        const QImage shown = child<QPushButton>(button).grab().toImage();
+        return shown.pixelColor(3, shown.height() / 2);
+    }
+
+    void theSheetsOfButtonsReadOutAndTables()
+    {
+        show();
+        QApplication::setActiveWindow(window.get());
+        child<QPushButton>("pushButton_8").setFocus(Qt::OtherFocusReason);
+        QTRY_VERIFY(child<QPushButton>("pushButton_8").hasFocus());
+        QCOMPARE(ground("pushButton_7"), QColor(255, 255, 255));
+        // rgb(85, 170, 255) at 150 of 255 over what the button lies on.
+        const QColor focused = ground("pushButton_8");
+        QVERIFY(focused.red() < 190 && focused.blue() > 240 && focused.green() > focused.red());
+        const QString buttons = child<QWidget>("widget_2").styleSheet();
+        QVERIFY(buttons.contains(QLatin1String("border: 1px solid rgb(0, 0, 0)")));
+        QVERIFY(buttons.contains(QLatin1String("rgba(85, 170, 255, 95)")));
+        QVERIFY(buttons.contains(QLatin1String("rgba(85, 170, 255, 150)")));
+
+        auto& framed = child<QWidget>("widget_3");
+        const QRect place(framed.mapTo(window.get(), QPoint()), framed.size());
+        const QImage readOut = window->grab(place).toImage();
+        QCOMPARE(readOut.pixelColor(readOut.width() / 2, 0), QColor(0, 0, 0));
+        QCOMPARE(readOut.pixelColor(readOut.width() / 2, 3), QColor(232, 232, 232));
+        QVERIFY(readOut.pixelColor(1, 1) != QColor(232, 232, 232)); // outside the round corner
+        QVERIFY(readOut.pixelColor(4, 4) == QColor(232, 232, 232));
+
+        for (const char* name : {"tableWidget", "tableWidget_2"}) {
+            const QImage table = child<QTableWidget>(name).grab().toImage();
+            for (const int y : {0, 1})
+                QCOMPARE(table.pixelColor(table.width() / 2, y), QColor(200, 200, 200));
+            QVERIFY(table.pixelColor(table.width() / 2, 2) != QColor(200, 200, 200));
+            const QString sheet = child<QTableWidget>(name).styleSheet();
+            QVERIFY(sheet.contains(QLatin1String("item:hover{color: rgb(255, 255, "
+                                                 "255);background-color: rgb(91, 91, 91);}")));
+        }
+    }
+
+    void kindsOfToolsAreTranslated()
+    {
+        QTranslator english;
+        QVERIFY(english.load(QStringLiteral(":/Demo_EN.qm")));
+        QVERIFY(QCoreApplication::installTranslator(&english));
+        QVERIFY(load(flat(255)));
+        label().pointList = {placedPoint(QStringLiteral("P0"), 3, 4)};
+        overlay::LineTool line;
+        line.x1 = line.y1 = 1;
+        line.x2 = line.y2 = 9;
+        label().lineList = {line};
+        overlay::RectTool rect;
+        rect.x1 = rect.y1 = 1;
+        rect.x2 = rect.y2 = 9;
+        label().rectList = {rect};
+        overlay::CircleTool circle;
+        circle.cx = circle.cy = 50;
+        circle.radius = 5;
+        label().circleList = {circle};
+        window->updat_Tool_Temp();
+        QStringList kinds;
+        for (int row = 0; row < 4; ++row)
+            kinds.append(toolRow(row).at(1));
+        QCOMPARE(kinds.join(QLatin1Char(' ')), QStringLiteral("Point Line Rectangle Circle"));
+    }
+
     void theLanguageComesFromTheConfiguration()
     {
         QCOMPARE(window->configurationField, QString());
@@ -319,9 +400,23 @@ private slots:
         QCOMPARE(int(table[0][0]), 0);
         QCOMPARE(bar().topTemperature, 50.0F);
         QCOMPARE(bar().bottomTemperature, 20.0F);
+        const auto scale = [this] {
+            QStringList texts;
+            for (const auto* text : bar().findChildren<QLabel*>())
+                texts.append(text->text());
+            return texts;
+        };
+        QVERIFY(scale().contains(QStringLiteral("50.0")));
+        QVERIFY(scale().contains(QStringLiteral("20.0")));
+        show();
+        QVERIFY(!bar().paletteStrip.isNull());
+        QCOMPARE(bar().paletteStrip.toImage(), window->colourStrip.toImage());
+        QCOMPARE(bar().paletteStrip.toImage().pixel(5, 255), qRgb(248, 0, 0));
         unit().setCurrentIndex(1);
         QCOMPARE(bar().topTemperature, 500.0F / 5.556F + 32.0F);
         QCOMPARE(bar().bottomTemperature, 200.0F / 5.556F + 32.0F);
+        QVERIFY(scale().contains(QStringLiteral("122.0")));
+        QVERIFY(scale().contains(QStringLiteral("68.0")));
     }
 
     void aRejectedPhotographChangesOnlyWhatPrecedesTheMachine()
@@ -839,6 +934,30 @@ private slots:
         QVERIFY(load(shot));
         QCoreApplication::processEvents();
         QCOMPARE(shownColour(50, 50), qRgb(248, 252, 248));
+    }
+
+    /// Between two colours, smooth scaling makes a third.
+    void thePictureIsScaledSmoothly()
+    {
+        Shot shot;
+        shot.gray = [](int x, int) {
+            return x < 120 ? 0 : 255;
+        };
+        shot.palette = [](int v) {
+            return v == 0 ? 0xF800 : 0x001F;
+        };
+        label().resize(611, 777);
+        QVERIFY(load(shot));
+        const auto mixed = [this] {
+            const QImage picture = label().pixmap(Qt::ReturnByValue).toImage();
+            QSet<QRgb> colours;
+            for (int x = 0; x < picture.width(); ++x)
+                colours.insert(picture.pixel(x, picture.height() / 2));
+            return colours.size();
+        };
+        QVERIFY(mixed() > 2); // the gray picture
+        show();
+        QVERIFY(mixed() > 2);
     }
 
     void draggingAMarkerOfTheColourBarRendersAtOnce()

@@ -183,6 +183,49 @@ private slots:
         QVERIFY(window->minimumSizeHint().height() <= 690);
     }
 
+    void iconsAreThoseOfTheResources()
+    {
+        addDrive(QStringLiteral("disk"));
+        openWindow();
+        const auto resource = [](const char* name) {
+            return QPixmap(QStringLiteral(":/photo/%1.png").arg(QLatin1String(name)));
+        };
+        const QVector<std::pair<const char*, const char*>> icons{
+            {"pushButton", "reroad"}, {"pushButton_3", "list1"}, {"pushButton_4", "list2"}};
+        for (const auto& [button, name] : icons)
+            QCOMPARE(child<QPushButton>(button).icon().pixmap(24).toImage(),
+                     QIcon(resource(name)).pixmap(24).toImage());
+        QCOMPARE(driveList().item(0)->icon().pixmap(32).toImage(),
+                 resource("save")
+                     .scaled(32, 32, Qt::KeepAspectRatio, Qt::SmoothTransformation)
+                     .toImage());
+    }
+
+    void whatTheSheetsSay()
+    {
+        addPhotographs(addDrive(QStringLiteral("disk")), names(1));
+        openWindow();
+        QCOMPARE(driveList().styleSheet(), QStringLiteral("border:2px solid rgb(200,200,200);\n"));
+        QVERIFY(child<QPushButton>("pushButton").styleSheet().contains("border-radius"));
+        for (const char* rule :
+             {"QListWidget::item{\nbackground-color: rgb(255, 255, 255);padding:0;border-radius: "
+              "8px;\n}",
+              "QListWidget::item::hover{\nbackground-color: rgb(91, 91, 91);\ncolor: rgb(255, 255, "
+              "255);padding:8;border-radius: 8px;\n}",
+              "QListWidget::item::Focus{\ncolor: rgb(255, 255, 255);background-color:  rgb(50, 50, "
+              "50);border-radius: 8px;\n}"})
+            QVERIFY2(list()->styleSheet().contains(QLatin1String(rule)), rule);
+        click("pushButton_3");
+        for (const char* rule :
+             {"QTableWidget{\nselection-color: rgb(255, 255, 255);\nselection-background-color:  "
+              "rgb(91, 91, 91);\n}",
+              "QTableWidget::item::hover{\ncolor: rgb(255, 255, 255);background-color: rgb(91, 91, "
+              "91);border-radius: 5px;\n}",
+              "QHeaderView::section{\nborder:1px groove white;color: rgb(255, 255, "
+              "255);background-color: rgb(52, 52, 52);\n}"})
+            QVERIFY2(table()->styleSheet().contains(QLatin1String(rule)), rule);
+    }
+
     void withoutADriveNothingIsListed()
     {
         // Not even what the working directory may hold.
@@ -394,6 +437,28 @@ private slots:
         click("pushButton_3");
         QCOMPARE(plain(table()->item(0, 2)->toolTip()), name);
         QCOMPARE(table()->item(1, 2)->toolTip(), QStringLiteral("plain.bmp"));
+    }
+
+    /// A corner of radius 15: what is 16 from its centre is transparent, what is 14 away is not.
+    void thumbnailsAreSmoothAndRound()
+    {
+        Shot stripes;
+        stripes.gray = [](int x, int) {
+            return x % 2 == 0 ? 0 : 255;
+        };
+        addPhotographs(addDrive(QStringLiteral("disk")), names(1), stripes);
+        openWindow();
+        QTRY_VERIFY(!window->thumbnails.first().isNull());
+        const QImage shown = window->thumbnails.first().toImage();
+        for (const auto& [x, y] : {std::pair(3, 3), std::pair(0, 8), std::pair(128, 172)})
+            QVERIFY2(qAlpha(shown.pixel(x, y)) < 64, qPrintable(QStringLiteral("%1").arg(x)));
+        for (const auto& [x, y] : {std::pair(5, 5), std::pair(1, 14), std::pair(126, 170)})
+            QVERIFY2(qAlpha(shown.pixel(x, y)) > 192, qPrintable(QStringLiteral("%1").arg(x)));
+        // 240 stripes on 132 pixels: taken one by one they would be black or blue.
+        for (int x = 20; x < 110; ++x) {
+            const int blue = qRed(shown.pixel(x, 88)) + qBlue(shown.pixel(x, 88));
+            QVERIFY2(blue > 40 && blue < 215, qPrintable(QString::number(blue)));
+        }
     }
 
     void selectedNamesAreLegible()
@@ -744,8 +809,10 @@ private slots:
         QFETCH(QString, logged);
         openWindow();
         QString text;
+        bool isQuestion = false;
         QTimer::singleShot(0, window.get(), [&] {
             text = message()->windowTitle() + QLatin1Char('|') + message()->text();
+            isQuestion = message()->icon() == QMessageBox::Question && message()->isModal();
             auto* button = message()->button(yes ? QMessageBox::Yes : QMessageBox::No);
             text += QLatin1Char('|') + button->text();
             button->click();
@@ -757,6 +824,7 @@ private slots:
         QCOMPARE(text,
                  QStringLiteral("提示|检查到U盘中同时含有K4710和K4715的文件\n请选择打开哪一项？|") +
                      (yes ? QStringLiteral("K4710") : QStringLiteral("K4715")));
+        QVERIFY(isQuestion);
         QCOMPARE(window->imageFolder, folder);
         QCOMPARE(window->modelIndex, model);
         QVERIFY(log.contains(logged));

@@ -179,14 +179,15 @@ QVector<QVector<testing::PdfWord>> asPrinted(const QVector<Text>& texts, const Q
 }
 
 /// True when the page holds the text with its first word's left edge and baseline at the place that
-/// the printer gave it, within half a millimetre.
+/// the printer gave it, within half a millimetre, and as wide as there: in its size and weight.
 bool stands(const QVector<testing::PdfWord>& page, const QString& text, const QRectF& printed)
 {
     const QStringList parts = text.split(QLatin1Char(' '));
     for (int i = 0; i + parts.size() <= page.size(); ++i) {
         const QRectF box = page[i].box;
         if (std::abs(box.left() - printed.left()) > halfMillimetre ||
-            std::abs(box.bottom() - printed.bottom()) > halfMillimetre)
+            std::abs(box.bottom() - printed.bottom()) > halfMillimetre ||
+            std::abs(box.width() - printed.width()) > 0.2)
             continue;
         bool same = true;
         for (int k = 0; k < parts.size(); ++k)
@@ -585,6 +586,34 @@ private slots:
             QCOMPARE(ink.bottom(), y + below);
         }
         QVERIFY(!inked(canvas, QRect(68, 866, 4, 80)).isValid());
+    }
+
+    void theScaleIsSetInBoldOf23Pixels()
+    {
+        Report report;
+        report.maximum10 = 525; // 52.5, 49.25, 46, …
+        report.minimum10 = 200;
+        QImage expected(930, 960, QImage::Format_ARGB32_Premultiplied);
+        expected.fill(Qt::transparent);
+        QPainter painter(&expected);
+        QFont font;
+        font.setFamilies({"Microsoft YaHei", "Noto Sans CJK SC"});
+        font.setStyleStrategy(QFont::PreferNoShaping);
+        font.setPixelSize(23);
+        font.setWeight(75);
+        painter.setFont(font);
+        painter.drawText(10, 20, "52.5");
+        painter.drawText(10, 955, "20.0");
+        painter.drawText(65, 0, "-");
+        painter.drawText(65, 965, "-");
+        const QStringList texts{"49.3", "46.0", "42.8", "39.5", "36.3",
+                                "33.0", "29.8", "26.5", "23.3"};
+        for (int k = 1; k <= 9; ++k) {
+            painter.drawText(10, 96 * k, texts[k - 1]);
+            painter.drawText(65, 96 * k, "-");
+        }
+        painter.end();
+        QCOMPARE(analysis::reportCanvas(report), expected);
     }
 
     void canvasOfAnEmptyReportHoldsOnlyTheScale()

@@ -129,13 +129,39 @@ private slots:
     void theSpanOfTheColourBarCounts()
     {
         QVERIFY(save());
-        const QRgb before = testing::pdfImages(target()).value(0).pixel(300, 400);
+        const QImage whole = testing::pdfImages(target()).value(0);
+        const QRgb before = whole.pixel(300, 400);
         auto* bar = m_window->findChild<My_ColorSlider*>();
         bar->startValue = 250; // all but the coldest take one colour
         QVERIFY(save());
         const QImage canvas = testing::pdfImages(target()).value(0);
         QVERIFY(canvas.pixel(300, 400) != before);
         QCOMPARE(canvas.pixel(300, 400), canvas.pixel(900, 400));
+        // The strip beside the picture is of the whole palette: red at the top, blue at the bottom.
+        const QRect strip(80, 0, 60, 960);
+        QCOMPARE(canvas.copy(strip), whole.copy(strip));
+        QCOMPARE(canvas.pixel(100, 1), qRgb(248, 0, 0));
+        QCOMPARE(canvas.pixel(100, 958), qRgb(0, 0, 248));
+    }
+
+    void kindsOfToolsAreTranslated()
+    {
+        QTranslator english;
+        QVERIFY(english.load(":/Demo_EN.qm"));
+        QVERIFY(QCoreApplication::installTranslator(&english));
+        measure();
+        QCOMPARE(rowTexts().at(1), QString("Point"));
+        QVERIFY(save());
+        QVERIFY(testing::pdfText(target()).simplified().contains("P0 Point"));
+    }
+
+    void aDeletedToolIsNotInTheReport()
+    {
+        measure();
+        m_window->findChild<QPushButton*>("pushButton_3")->click();
+        QVERIFY(save());
+        QVERIFY(testing::pdfText(target()).simplified().contains("名称 类型 高 低 平均"));
+        QVERIFY(!testing::pdfText(target()).contains("P0"));
     }
 
     void theConfiguredLanguageMovesTheTexts()
