@@ -920,8 +920,6 @@ private slots:
         QTest::addColumn<QString>("kind");
         for (const char* kind : {"another machine", "deleted meanwhile", "empty", "cut"})
             QTest::newRow(kind) << QString::fromLatin1(kind);
-        if (!testing::onWindows())
-            QTest::newRow("pipe meanwhile") << QStringLiteral("pipe meanwhile");
     }
     void whatCannotBeOpenedIsReported()
     {
@@ -944,10 +942,6 @@ private slots:
         tabs().setCurrentIndex(0);
         if (kind.endsWith(QLatin1String("meanwhile")))
             QVERIFY(QFile::remove(bad));
-#ifndef Q_OS_WIN
-        if (kind.startsWith(QLatin1String("pipe")))
-            QCOMPARE(::mkfifo(QFile::encodeName(bad).constData(), 0600), 0); // waits for ever
-#endif
 
         window->list_item_doubleclicked(list()->item(0));
         QTRY_VERIFY(message() && message()->isVisible());
