@@ -7,6 +7,7 @@
 #include "analysis/tool_statistics.h"
 #include "config/configuration_record.h"
 #include "dialogs/dialogs.h"
+#include "files/paths.h"
 
 #include "ui_analysis_widget.h"
 
@@ -450,7 +451,7 @@ void Analysis_Widget::on_tableWidget_itemClicked(QTableWidgetItem* item)
 void Analysis_Widget::on_tableWidget_2_itemEntered(QTableWidgetItem* item)
 {
     if (item->row() == int(InformationRow::FileName) && item->column() == 1)
-        QToolTip::showText(QCursor::pos(), toolTipOf(item->text()));
+        QToolTip::showText(QCursor::pos(), files::toolTipOf(item->text()));
     else
         QToolTip::hideText();
 }

@@ -1,6 +1,7 @@
 #include "analysis/file_buffer.h"
 
-#include <QFile>
+#include "files/paths.h"
+#include "files/reading.h"
 
 #include <algorithm>
 #include <new>
@@ -16,8 +17,8 @@ FileBuffer::FileBuffer() : m_bytes(static_cast<uchar*>(std::calloc(size, 1)))
 
 int FileBuffer::read(const QString& path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+    QFile file(files::localPath(path));
+    if (!files::openForReading(file, QIODevice::ReadOnly | QIODevice::Unbuffered).isGood())
         return -1;
     const int count = int(file.read(reinterpret_cast<char*>(m_bytes.get()), size));
     m_used = std::max(m_used, count);

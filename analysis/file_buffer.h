@@ -18,7 +18,7 @@ public:
     FileBuffer();
 
     /// Reads the first 2,000,000 bytes of a file, or all if it is shorter. Returns how many there
-    /// were; −1 when the file cannot be opened or read, and then the bytes stay as they were.
+    /// were; −1 when it is no regular file or cannot be read, and then the bytes stay as they were.
     int read(const QString& path);
 
     /// All bytes back to zero, so that the next photograph owes nothing to the ones before. Costs

@@ -3,18 +3,12 @@
 #include <QDateTime>
 #include <QFileInfo>
 #include <QLocale>
-#include <QTextDocument>
 
 namespace analysis {
 
 QString kilobytes(qint64 bytes)
 {
     return oneDecimal(double(bytes) * 0.0009765625);
-}
-
-QString toolTipOf(const QString& name)
-{
-    return Qt::mightBeRichText(name) ? Qt::convertFromPlainText(name) : name;
 }
 
 QString createdText(const QFileInfo& file)

@@ -35,10 +35,6 @@ QString kilobytes(qint64 bytes);
 /// that, the last change of its entry.
 QString createdText(const QFileInfo& file);
 
-/// A file's or volume's name as a tool tip: shown as it is, never as mark-up, which could name
-/// other files to be shown.
-QString toolTipOf(const QString& name);
-
 /// The values of the information table. `unitIndex` is what the unit selector shows; `conversion`
 /// applies to the four temperatures.
 std::array<QString, informationRows> informationTexts(const QString& fileName,

@@ -5,6 +5,7 @@
 #include "analysis/information.h"
 #include "config/configuration_record.h"
 #include "dialogs/dialogs.h"
+#include "files/paths.h"
 #include "platform/picture_file.h"
 #include "platform/removable_drives.h"
 
@@ -165,7 +166,7 @@ QStringList photo_window::listDrives()
                          : drive.scaled(32, 32, Qt::KeepAspectRatio, Qt::SmoothTransformation));
     for (const QString& root : roots) {
         auto* item = new QListWidgetItem(icon, root, ui->listWidget);
-        item->setToolTip(analysis::toolTipOf(root));
+        item->setToolTip(files::toolTipOf(root));
     }
     return roots;
 }
@@ -374,7 +375,7 @@ void photo_window::table_item_doubleclicked(QTableWidgetItem* item)
 void photo_window::open(const QString& name)
 {
     auto analysis = std::make_unique<Analysis_Widget>();
-    if (!analysis->set_Image_addr(imageFolder + QLatin1Char('/') + name, modelIndex)) {
+    if (!analysis->set_Image_addr(files::pathIn(imageFolder, name), modelIndex)) {
         dialogs::open(new QMessageBox(QMessageBox::Information, tr("警告"),
                                       tr("该图片解析失败，请确认型号是否正确!"), QMessageBox::Ok,
                                       window()),
@@ -474,7 +475,7 @@ void photo_window::readRequested()
 void photo_window::readThumbnail(int index)
 {
     const QPixmap picture =
-        platform::pictureInFile(imageFolder + QLatin1Char('/') + fileNames.at(index));
+        platform::pictureInFile(files::pathIn(imageFolder, fileNames.at(index)));
     thumbnails[index] = roundedThumbnail(picture, thumbnailSize, thumbnailRadius);
     m_read[index] = true;
     m_kept.enqueue(index);

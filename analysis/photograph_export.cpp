@@ -1,7 +1,6 @@
 #include "analysis/photograph_export.h"
 
 #include "analysis/false_colour.h"
-#include "analysis/whole_file.h"
 
 #include <QBuffer>
 #include <QFileInfo>
@@ -11,6 +10,9 @@
 #include <charconv>
 #include <cmath>
 #include <cstring>
+
+using files::Outcome;
+using files::Problem;
 
 namespace analysis {
 namespace {
@@ -244,12 +246,12 @@ std::vector<float> shownRows(const Photograph& photograph, Conversion conversion
 
 Outcome PhotographExporter::run(const QString& photographPath, const QString& targetPath)
 {
-    if (!m_options.overwrite && QFileInfo(targetPath).exists())
+    if (isRefused(targetPath, m_options.existing))
         return {Problem::AlreadyThere, {}};
     const Outcome reading = m_reader.read(photographPath, m_options.modelIndex);
     if (!reading.isGood())
         return reading;
-    return writeWholeFile(targetPath, exported(m_reader, m_options), m_options.overwrite);
+    return writeWholeFile(targetPath, exported(m_reader, m_options), m_options.existing);
 }
 
 } // namespace analysis

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/photograph_reader.h"
+#include "files/whole_file.h"
 
 #include <QByteArray>
 
@@ -28,7 +29,7 @@ struct ExportOptions
 {
     ExportFormat format = ExportFormat::Csv;
     std::optional<int> modelIndex; ///< as PhotographReader::read() takes it
-    bool overwrite = false;        ///< replace a file that exists
+    files::Existing existing = files::Existing::Refuse;
 
     // Temperatures: all but Png.
     UnitChoice unit = UnitChoice::AsStored;
@@ -59,7 +60,7 @@ public:
 
     /// Reads one photograph and writes one file, complete or absent. The target's folder must
     /// exist.
-    Outcome run(const QString& photographPath, const QString& targetPath);
+    files::Outcome run(const QString& photographPath, const QString& targetPath);
 
 private:
     ExportOptions m_options;

@@ -1,7 +1,12 @@
 #include "analysis/photograph_reader.h"
 
-#include <QFile>
+#include "files/paths.h"
+#include "files/reading.h"
+
 #include <QtEndian>
+
+using files::Outcome;
+using files::Problem;
 
 namespace analysis {
 namespace {
@@ -23,12 +28,14 @@ constexpr bool isKnown(quint32 machineId)
 }
 
 /// FileBuffer only says that it failed; the system is asked once more for the reason.
-QString whyUnreadable(const QString& path)
+Outcome whyUnreadable(const QString& path)
 {
-    QFile file(path);
-    if (file.open(QIODevice::ReadOnly))
-        file.read(1);
-    return file.errorString();
+    QFile file(files::localPath(path));
+    const Outcome opened = files::openForReading(file);
+    if (!opened.isGood())
+        return opened;
+    file.read(1);
+    return {Problem::CannotRead, file.errorString()};
 }
 
 } // namespace
@@ -40,7 +47,7 @@ Outcome PhotographReader::read(const QString& path, std::optional<int> modelInde
     m_buffer.clear();
     m_readCount = m_buffer.read(path);
     if (m_readCount < 0)
-        return {Problem::CannotRead, whyUnreadable(path)};
+        return whyUnreadable(path);
     const int fewest = bytesNeeded(modelIndex.value_or(1));
     if (m_readCount < fewest)
         return {Problem::TooShort, QStringLiteral("%1/%2").arg(m_readCount).arg(fewest)};

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "analysis/file_buffer.h"
-#include "analysis/outcome.h"
 #include "analysis/photograph.h"
 #include "analysis/units.h"
+#include "files/outcome.h"
 
 #include <memory>
 #include <optional>
@@ -24,7 +24,7 @@ public:
     /// imager stands, and 0 if that goes for both. After Problem::OtherImager readCount(),
     /// modelIndex() and the parameters are this photograph's and nothing else is; after any other
     /// problem nothing is.
-    Outcome read(const QString& path, std::optional<int> modelIndex);
+    files::Outcome read(const QString& path, std::optional<int> modelIndex);
 
     int readCount() const { return m_readCount; } ///< bytes, at most FileBuffer::size
     int modelIndex() const { return m_modelIndex; }

@@ -1,8 +1,9 @@
 #include "analysis/report.h"
 
+#include "files/whole_file.h"
+
 #include <QBuffer>
 #include <QCoreApplication>
-#include <QFileInfo>
 #include <QFontMetrics>
 #include <QHash>
 #include <QPagedPaintDevice>
@@ -10,7 +11,6 @@
 #include <QPdfWriter>
 #include <QRawFont>
 #include <QRegularExpression>
-#include <QSaveFile>
 
 #include <algorithm>
 
@@ -398,13 +398,8 @@ QByteArray reportPdf(const Report& report)
 
 bool writeReport(const Report& report, const QString& path)
 {
-    // Putting a file in place would replace a pipe or a device by it.
-    const QFileInfo target(path);
-    QSaveFile file(path);
-    if ((target.exists() && !target.isFile()) || !file.open(QIODevice::WriteOnly))
-        return false;
-    const QByteArray pdf = reportPdf(report);
-    return file.write(pdf) == pdf.size() && file.commit();
+    files::WholeFile file(path, files::Existing::Replace);
+    return file.open().isGood() && file.write(reportPdf(report)).isGood() && file.finish().isGood();
 }
 
 } // namespace analysis

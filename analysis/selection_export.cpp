@@ -1,12 +1,12 @@
 #include "analysis/selection_export.h"
 
 #include "analysis/photograph_report.h"
-#include "analysis/whole_file.h"
+#include "files/paths.h"
+#include "files/whole_file.h"
 
-#include <QDateTime>
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
+using files::Existing;
+using files::Outcome;
+using files::Problem;
 
 namespace analysis {
 namespace {
@@ -27,28 +27,6 @@ ExportOptions exportOptions(const SelectionOrder& order)
     return options;
 }
 
-/// The copy keeps the time of the last change where the file system can; that is no reason to fail.
-Outcome copyFile(const QString& path, const QString& target)
-{
-    if (QFileInfo(target).exists())
-        return {Problem::AlreadyThere, {}};
-    QFile photograph(path);
-    if (!photograph.open(QIODevice::ReadOnly))
-        return {Problem::CannotRead, photograph.errorString()};
-    const qint64 size = photograph.size();
-    const QByteArray bytes = photograph.readAll();
-    if (photograph.error() != QFile::NoError)
-        return {Problem::CannotRead, photograph.errorString()};
-    if (bytes.size() != size)
-        return {Problem::TooShort, QStringLiteral("%1/%2").arg(bytes.size()).arg(size)};
-    const QDateTime changed = photograph.fileTime(QFileDevice::FileModificationTime);
-    const Outcome outcome = writeWholeFile(target, bytes, false);
-    QFile copy(target);
-    if (outcome.isGood() && copy.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
-        copy.setFileTime(changed, QFileDevice::FileModificationTime);
-    return outcome;
-}
-
 } // namespace
 
 SelectionExport::SelectionExport(SelectionOrder order, OverlayPainter overlay)
@@ -58,28 +36,40 @@ SelectionExport::SelectionExport(SelectionOrder order, OverlayPainter overlay)
 
 void SelectionExport::step()
 {
-    const QString& name = nextName();
-    const Outcome outcome = writeFileOf(name);
+    const bool isCopy = m_order.task == SelectionTask::Copy;
+    if (isCopy && !copyPiece())
+        return;
+    const Outcome outcome = isCopy ? m_copy->outcome() : writeFileOf(nextName());
+    m_copy.reset();
     if (!outcome.isGood())
-        m_failures.push_back({name, outcome});
+        m_failures.push_back({nextName(), outcome});
     ++m_done;
+}
+
+/// True when that was the last piece of this photograph.
+bool SelectionExport::copyPiece()
+{
+    if (!m_copy)
+        m_copy.emplace(files::pathIn(m_order.folder, nextName()),
+                       files::pathIn(m_order.target, nextName()));
+    m_copy->step();
+    return m_copy->isDone();
 }
 
 Outcome SelectionExport::writeFileOf(const QString& name)
 {
-    const QString path = QDir(m_order.folder).filePath(name);
-    const QDir target(m_order.target);
-    if (m_order.task == SelectionTask::Copy)
-        return copyFile(path, target.filePath(name));
+    const QString path = files::pathIn(m_order.folder, name);
+    const auto target = [&](const QString& suffix) {
+        return files::pathIn(m_order.target, exportName(name, suffix));
+    };
     if (m_order.task == SelectionTask::Report)
-        return writeReport(path, target.filePath(exportName(name, QStringLiteral("pdf"))));
-    const QString suffix = suffixOf(exportOptions(m_order).format);
-    return m_exporter.run(path, target.filePath(exportName(name, suffix)));
+        return writeReport(path, target(QStringLiteral("pdf")));
+    return m_exporter.run(path, target(suffixOf(exportOptions(m_order).format)));
 }
 
 Outcome SelectionExport::writeReport(const QString& path, const QString& target)
 {
-    if (QFileInfo(target).exists())
+    if (isRefused(target, Existing::Refuse))
         return {Problem::AlreadyThere, {}};
     const Outcome reading = m_reader.read(path, layoutOf(m_order));
     if (!reading.isGood())
@@ -87,7 +77,7 @@ Outcome SelectionExport::writeReport(const QString& path, const QString& target)
     const ToolLists noTools{{}, {}, {}, {}};
     const Report report = photographReport(path, m_reader, UnitChoice::AsStored, noTools,
                                            m_overlay(m_reader.photograph()), m_order.language);
-    return writeWholeFile(target, reportPdf(report), false);
+    return writeWholeFile(target, reportPdf(report), Existing::Refuse);
 }
 
 } // namespace analysis

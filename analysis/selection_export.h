@@ -1,6 +1,7 @@
 #pragma once
 
 #include "analysis/photograph_export.h"
+#include "files/file_copy.h"
 
 #include <QImage>
 #include <QStringList>
@@ -35,12 +36,12 @@ struct SelectionOrder
 struct SelectionFailure
 {
     QString name;
-    Outcome outcome; ///< never good
+    files::Outcome outcome; ///< never good
 };
 
-/// Carries out an order, one photograph at a time, so that whoever calls decides what happens in
-/// between and when to stop. Files are complete or absent, and a file that is there already is
-/// never replaced: its photograph counts as failed. Writes nothing outside the target folder.
+/// Carries out an order step by step, so that whoever calls decides what happens in between and
+/// when to stop. Files are complete or absent, and a file that is there already is never replaced:
+/// its photograph counts as failed. Writes nothing outside the target folder.
 ///
 /// Temperatures are in each photograph's own unit, reports and pictures as the analysis window
 /// shows a photograph that it has just opened. A photograph that has lost its end is refused.
@@ -52,7 +53,8 @@ public:
 
     SelectionExport(SelectionOrder order, OverlayPainter overlay);
 
-    /// Deals with the next photograph; there must be one. Takes up to a tenth of a second.
+    /// Deals with the next photograph, or with a piece of it where it is copied; there must be one.
+    /// Takes up to a tenth of a second.
     void step();
 
     const SelectionOrder& order() const { return m_order; }
@@ -63,13 +65,15 @@ public:
     const std::vector<SelectionFailure>& failures() const { return m_failures; }
 
 private:
-    Outcome writeFileOf(const QString& name);
-    Outcome writeReport(const QString& path, const QString& target);
+    bool copyPiece();
+    files::Outcome writeFileOf(const QString& name);
+    files::Outcome writeReport(const QString& path, const QString& target);
 
     const SelectionOrder m_order;
     const OverlayPainter m_overlay;
     PhotographExporter m_exporter;
-    PhotographReader m_reader; ///< of reports
+    PhotographReader m_reader;             ///< of reports
+    std::optional<files::FileCopy> m_copy; ///< while one is being made
     int m_done = 0;
     std::vector<SelectionFailure> m_failures;
 };

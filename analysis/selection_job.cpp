@@ -9,10 +9,10 @@
 #include <QMessageBox>
 #include <QProgressBar>
 
-using analysis::Outcome;
 using analysis::Photograph;
-using analysis::Problem;
 using analysis::SelectionFailure;
+using files::Outcome;
+using files::Problem;
 
 namespace {
 
@@ -122,6 +122,9 @@ QStringList SelectionJob::failureTexts() const
             break;
         case Problem::CannotRead:
             return tr("无法读取（%1）").arg(outcome.detail);
+        case Problem::NotAFile:
+            return tr("不是普通文件");
+        case Problem::TooLarge:
         case Problem::TooShort:
             return tr("文件不完整（%1 字节）").arg(outcome.detail);
         case Problem::OtherImager:

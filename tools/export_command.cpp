@@ -7,9 +7,9 @@
 
 using analysis::ExportFormat;
 using analysis::ExportOptions;
-using analysis::Outcome;
 using analysis::PhotographExporter;
 using analysis::UnitChoice;
+using files::Outcome;
 
 namespace tools {
 namespace {
@@ -81,7 +81,7 @@ ExportOptions readOptions(CommandLine& line)
                                                              {"npy", ExportFormat::Npy},
                                                              {"png", ExportFormat::Png}});
     options.modelIndex = line.modelIndex();
-    options.overwrite = line.isSet(QStringLiteral("force"));
+    options.existing = existing(line);
     options.unit =
         line.choice<UnitChoice>(QStringLiteral("unit"), {{"C", UnitChoice::Celsius},
                                                          {"F", UnitChoice::Fahrenheit},

@@ -8,10 +8,10 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-using analysis::Outcome;
 using analysis::Parameters;
 using analysis::PhotographReader;
-using analysis::Problem;
+using files::Outcome;
+using files::Problem;
 using overlay::Marker;
 
 namespace tools {

@@ -8,11 +8,11 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-using analysis::Outcome;
 using analysis::PhotographReader;
 using analysis::ToolKind;
 using analysis::ToolRow;
 using analysis::UnitChoice;
+using files::Outcome;
 
 namespace tools {
 namespace {

@@ -4,8 +4,8 @@
 
 namespace tools {
 
-using analysis::Outcome;
-using analysis::Problem;
+using files::Outcome;
+using files::Problem;
 
 bool print(const QByteArray& text)
 {
@@ -36,6 +36,10 @@ QString reason(const Outcome& outcome)
         return {};
     case Problem::CannotRead:
         return QStringLiteral("cannot be read: ") + outcome.detail;
+    case Problem::NotAFile:
+        return QStringLiteral("is not a regular file");
+    case Problem::TooLarge:
+        return QStringLiteral("too large: %1 bytes").arg(outcome.detail);
     case Problem::TooShort:
         return QStringLiteral("too short for a photograph: %1 bytes").arg(outcome.detail);
     case Problem::OtherImager:

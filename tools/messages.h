@@ -1,6 +1,6 @@
 #pragma once
 
-#include "analysis/outcome.h"
+#include "files/outcome.h"
 
 #include <QElapsedTimer>
 
@@ -16,7 +16,7 @@ bool flushOutput();
 void printError(const QString& text);
 
 /// What went wrong, in a few words.
-QString reason(const analysis::Outcome& outcome);
+QString reason(const files::Outcome& outcome);
 
 /// A line on the error output that tells how far the work is. Does nothing unless `shown`.
 class ProgressBar

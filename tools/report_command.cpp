@@ -1,7 +1,7 @@
 #include "analysis/photograph_report.h"
 #include "analysis/report_overlay.h"
-#include "analysis/whole_file.h"
 #include "config/configuration_record.h"
+#include "files/whole_file.h"
 #include "overlay/my_label.h"
 #include "platform/console.h"
 #include "resources/resources.h"
@@ -12,15 +12,15 @@
 #include "tools/target_files.h"
 
 #include <QApplication>
-#include <QFileInfo>
 #include <QTranslator>
 
 #include <thread>
 
-using analysis::Outcome;
 using analysis::PhotographReader;
-using analysis::Problem;
 using analysis::UnitChoice;
+using files::Existing;
+using files::Outcome;
+using files::Problem;
 
 namespace tools {
 namespace {
@@ -68,11 +68,6 @@ QString configuredLanguage()
     return translated.contains(language) ? language : QStringLiteral("CH");
 }
 
-Outcome writeReport(const QString& target, const analysis::Report& report, bool overwrite)
-{
-    return analysis::writeWholeFile(target, reportPdf(report), overwrite);
-}
-
 } // namespace
 
 std::unique_ptr<QCoreApplication> drawingApplication(int& argc, char** argv)
@@ -100,7 +95,7 @@ int reportCommand(const QStringList& arguments)
     photographs.writesFiles = true;
     const std::optional<int> modelIndex = line.modelIndex();
     const UnitChoice unit = readUnit(line);
-    const bool overwrite = line.isSet(QStringLiteral("force"));
+    const Existing mode = existing(line);
     const auto language =
         line.choice<QString>(QStringLiteral("language"), {{"CH", QStringLiteral("CH")},
                                                           {"EN", QStringLiteral("EN")},
@@ -128,7 +123,7 @@ int reportCommand(const QStringList& arguments)
         return [&, reader](int index) -> Result {
             const QString& path = photographs.entries[std::size_t(index)].path;
             const QString& target = targets->at(index);
-            if (!overwrite && QFileInfo(target).exists())
+            if (isRefused(target, mode))
                 return {{}, targetReason({Problem::AlreadyThere, {}}, target)};
             const Outcome reading = reader->read(path, modelIndex);
             if (!reading.isGood())
@@ -136,7 +131,7 @@ int reportCommand(const QStringList& arguments)
             const QImage overlay = painter.draw(reader->photograph());
             const analysis::Report report =
                 photographReport(path, *reader, unit, tools.lists(), overlay, language);
-            return {{}, targetReason(writeReport(target, report, overwrite), target)};
+            return {{}, targetReason(writeWholeFile(target, reportPdf(report), mode), target)};
         };
     };
 

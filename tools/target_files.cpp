@@ -9,8 +9,8 @@
 #include <QHash>
 #include <QSet>
 
-using analysis::Outcome;
-using analysis::Problem;
+using files::Outcome;
+using files::Problem;
 
 namespace tools {
 namespace {
@@ -36,6 +36,11 @@ void addTargetOptions(CommandLine& line)
              QStringLiteral("DIR"), QStringLiteral("."));
     line.add({QStringLiteral("f"), QStringLiteral("force")},
              QStringLiteral("Replace files that are there already."));
+}
+
+files::Existing existing(const CommandLine& line)
+{
+    return line.isSet(QStringLiteral("force")) ? files::Existing::Replace : files::Existing::Refuse;
 }
 
 std::optional<QStringList> prepareTargets(const CommandLine& line, const QString& suffix,

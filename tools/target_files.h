@@ -1,6 +1,6 @@
 #pragma once
 
-#include "analysis/outcome.h"
+#include "files/whole_file.h"
 #include "tools/photograph_list.h"
 
 #include <optional>
@@ -13,6 +13,9 @@ class CommandLine;
 /// --output and --force.
 void addTargetOptions(CommandLine& line);
 
+/// What --force says.
+files::Existing existing(const CommandLine& line);
+
 /// Decides on the path of each entry's file and makes the folders: the photograph's name with
 /// another suffix, in the output folder, below which the way from the folder that the user named is
 /// kept. Entries whose file would replace one of this run, or one of its photographs, get their
@@ -21,6 +24,6 @@ std::optional<QStringList> prepareTargets(const CommandLine& line, const QString
                                           std::vector<Entry>& entries);
 
 /// What went wrong, naming the file to be written where it is about that; empty if nothing did.
-QString targetReason(const analysis::Outcome& outcome, const QString& target);
+QString targetReason(const files::Outcome& outcome, const QString& target);
 
 } // namespace tools

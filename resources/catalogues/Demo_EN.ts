@@ -315,6 +315,10 @@
         <translation>cannot be read (%1)</translation>
     </message>
     <message>
+        <source>不是普通文件</source>
+        <translation>is not a regular file</translation>
+    </message>
+    <message>
         <source>文件不完整（%1 字节）</source>
         <translation>the file is incomplete (%1 bytes)</translation>
     </message>

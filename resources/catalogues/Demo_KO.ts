@@ -311,6 +311,10 @@
         <translation>읽을 수 없음(%1)</translation>
     </message>
     <message>
+        <source>不是普通文件</source>
+        <translation>일반 파일이 아님</translation>
+    </message>
+    <message>
         <source>文件不完整（%1 字节）</source>
         <translation>파일이 불완전함(%1바이트)</translation>
     </message>

@@ -319,6 +319,10 @@
         <translation>не удалось прочитать (%1)</translation>
     </message>
     <message>
+        <source>不是普通文件</source>
+        <translation>не обычный файл</translation>
+    </message>
+    <message>
         <source>文件不完整（%1 字节）</source>
         <translation>файл неполный (байт: %1)</translation>
     </message>

@@ -1,6 +1,5 @@
 #include "tests/tools/thermaphoto.h"
 
-#include <QDirIterator>
 #include <QJsonDocument>
 
 namespace testing {
@@ -67,33 +66,6 @@ Ended thermaphoto(const QStringList& arguments, const QString& folder)
 Ended shell(const QString& command, const QString& folder)
 {
     return run(QStringLiteral("sh"), {QStringLiteral("-c"), command}, folder);
-}
-
-QString Folder::write(const QString& name, const QByteArray& bytes) const
-{
-    const QString path = m_folder.filePath(name);
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        qFatal("cannot write %s", qPrintable(path));
-    return path;
-}
-
-QByteArray Folder::read(const QString& name) const
-{
-    QFile file(m_folder.filePath(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-QStringList Folder::files() const
-{
-    QStringList names;
-    QDirIterator file(path(), QDir::Files | QDir::Hidden | QDir::System,
-                      QDirIterator::Subdirectories);
-    while (file.hasNext())
-        names.append(QDir(path()).relativeFilePath(file.next()));
-    names.sort();
-    return names;
 }
 
 QByteArray Sample::bytes() const

@@ -1,13 +1,12 @@
 #pragma once
 
 #include "simulator/photograph.h"
+#include "tests/support/folder.h"
 
-#include <QDir>
 #include <QJsonArray>
 #include <QProcess>
-#include <QTemporaryDir>
 
-#include <memory>
+#include <vector>
 
 /// The program under test and the files it works on.
 namespace testing {
@@ -31,22 +30,6 @@ Ended thermaphoto(const QStringList& arguments, const QString& folder = {});
 
 /// Starts a shell command in which "$thermaphoto" is the program.
 Ended shell(const QString& command, const QString& folder);
-
-/// A folder that is gone after the test.
-class Folder
-{
-public:
-    QString path() const { return m_folder.path(); }
-    QString operator/(const QString& name) const { return m_folder.filePath(name); }
-    /// Writes a file, making its folder, and returns its whole path.
-    QString write(const QString& name, const QByteArray& bytes) const;
-    QByteArray read(const QString& name) const;
-    /// Names of all files below, hidden ones too, sorted.
-    QStringList files() const;
-
-private:
-    QTemporaryDir m_folder;
-};
 
 /// One photograph of every kind the imager makes, with the name of its kind.
 struct Sample

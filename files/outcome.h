@@ -2,13 +2,15 @@
 
 #include <QString>
 
-namespace analysis {
+namespace files {
 
-/// Why a photograph, or a file made of one, could not be had.
+/// Why a file, a photograph, or a file made of one could not be had.
 enum class Problem
 {
     None,
     CannotRead,    ///< detail: the system's reason
+    NotAFile,      ///< a folder, pipe, socket or device; detail: empty
+    TooLarge,      ///< detail: bytes there and bytes allowed, "9000/4096"
     TooShort,      ///< detail: bytes there and bytes needed, "54/307792"
     OtherImager,   ///< the layout was given; detail: the machine ID found
     NeitherLayout, ///< the layout was to be found out; detail: what stands where, "0: 7, 1: -"
@@ -16,8 +18,8 @@ enum class Problem
     CannotWrite    ///< detail: the system's reason
 };
 
-/// How one piece of work on one photograph ended. `detail` is no sentence and in no language of
-/// ours: whoever tells a user puts the words round it.
+/// How one piece of work on one file ended. `detail` is no sentence and in no language of ours:
+/// whoever tells a user puts the words round it.
 struct Outcome
 {
     Problem problem = Problem::None;
@@ -26,4 +28,4 @@ struct Outcome
     bool isGood() const { return problem == Problem::None; }
 };
 
-} // namespace analysis
+} // namespace files

@@ -1,0 +1,25 @@
+#include "files/paths.h"
+
+#include <QTextDocument>
+
+namespace files {
+
+QString localPath(const QString& path)
+{
+    return path.startsWith(QLatin1Char(':')) ? QStringLiteral("./") + path : path;
+}
+
+QString pathIn(const QString& folder, const QString& name)
+{
+    if (folder.isEmpty())
+        return localPath(name);
+    const bool isClosed = folder.endsWith(QLatin1Char('/'));
+    return localPath(isClosed ? folder + name : folder + QLatin1Char('/') + name);
+}
+
+QString toolTipOf(const QString& name)
+{
+    return Qt::mightBeRichText(name) ? Qt::convertFromPlainText(name) : name;
+}
+
+} // namespace files

@@ -1,0 +1,34 @@
+#include "tests/support/folder.h"
+
+#include <QDirIterator>
+
+namespace testing {
+
+QString Folder::write(const QString& name, const QByteArray& bytes) const
+{
+    const QString path = *this / name;
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        qFatal("cannot write %s", qPrintable(path));
+    return path;
+}
+
+QByteArray Folder::read(const QString& name) const
+{
+    QFile file(*this / name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QStringList Folder::files() const
+{
+    QStringList names;
+    QDirIterator file(path(), QDir::Files | QDir::Hidden | QDir::System,
+                      QDirIterator::Subdirectories);
+    while (file.hasNext())
+        names.append(QDir(path()).relativeFilePath(file.next()));
+    names.sort();
+    return names;
+}
+
+} // namespace testing
