@@ -6,7 +6,7 @@
 #include "config/configuration_record.h"
 #include "dialogs/dialogs.h"
 #include "files/paths.h"
-#include "platform/picture_file.h"
+#include "files/picture_file.h"
 #include "platform/removable_drives.h"
 
 #include "ui_photo_window.h"
@@ -474,8 +474,7 @@ void photo_window::readRequested()
 
 void photo_window::readThumbnail(int index)
 {
-    const QPixmap picture =
-        platform::pictureInFile(files::pathIn(imageFolder, fileNames.at(index)));
+    const QPixmap picture = files::pictureInFile(files::pathIn(imageFolder, fileNames.at(index)));
     thumbnails[index] = roundedThumbnail(picture, thumbnailSize, thumbnailRadius);
     m_read[index] = true;
     m_kept.enqueue(index);

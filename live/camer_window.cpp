@@ -2,10 +2,10 @@
 
 #include "config/configuration_record.h"
 #include "dialogs/dialogs.h"
+#include "files/picture_file.h"
 #include "live/alarm_records.h"
 #include "live/imager_camera.h"
 #include "live/qt_camera_capture.h"
-#include "platform/picture_file.h"
 
 #include "ui_camer_window.h"
 
@@ -468,7 +468,7 @@ void camer_window::on_listWidget_2_itemClicked(QListWidgetItem* item)
     historyPixmaps.clear();
     ui->listWidget_3->clear();
     for (const QString& path : live::recordPicturePaths(historyFolder, item->text())) {
-        const QPixmap picture = platform::pictureInFile(path);
+        const QPixmap picture = files::pictureInFile(path);
         historyPixmaps.append(picture);
         ui->listWidget_3->addItem(new QListWidgetItem(QIcon(picture), QFileInfo(path).fileName()));
     }

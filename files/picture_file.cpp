@@ -1,15 +1,16 @@
-#include "platform/picture_file.h"
+#include "files/picture_file.h"
+
+#include "files/paths.h"
+#include "files/reading.h"
 
 #include <QBuffer>
-#include <QFile>
-#include <QFileInfo>
 #include <QImageReader>
 #include <QtEndian>
 
 #include <algorithm>
 #include <cstdlib>
 
-namespace platform {
+namespace files {
 
 namespace {
 
@@ -166,8 +167,8 @@ QPixmap png(const QByteArray& bytes)
 
 QPixmap pictureInFile(const QString& path)
 {
-    QFile file(path);
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+    QFile file(localPath(path));
+    if (!openForReading(file).isGood())
         return {};
     const QByteArray start = file.peek(54);
     if (start.startsWith(bitmapStart)) {
@@ -183,4 +184,4 @@ QPixmap pictureInFile(const QString& path)
     return {};
 }
 
-} // namespace platform
+} // namespace files

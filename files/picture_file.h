@@ -4,7 +4,7 @@
 #include <QString>
 
 /// Pictures in files that anyone may have made.
-namespace platform {
+namespace files {
 
 /// The picture in a file: a BMP, JPEG or PNG, whatever its name says. Null when it is none of
 /// these, is not a regular file or a link to one, or cannot be read; when the file ends before its
@@ -13,4 +13,4 @@ namespace platform {
 /// JPEG, 1 million of a progressive JPEG. Texts in a PNG are left out.
 QPixmap pictureInFile(const QString& path);
 
-} // namespace platform
+} // namespace files

@@ -1,4 +1,4 @@
-#include "platform/picture_file.h"
+#include "files/picture_file.h"
 #include "tests/support/test_run.h"
 
 #include <QBuffer>
@@ -81,30 +81,30 @@ private slots:
             QImage picture(240, 320, QImage::Format_RGB888);
             picture.fill(Qt::red);
             QVERIFY(picture.save(path(), format));
-            QCOMPARE(platform::pictureInFile(path()).size(), QSize(240, 320));
+            QCOMPARE(files::pictureInFile(path()).size(), QSize(240, 320));
         }
     }
 
     void whatIsNoPictureIsNull()
     {
-        QVERIFY(platform::pictureInFile(path()).isNull());
+        QVERIFY(files::pictureInFile(path()).isNull());
         put({});
-        QVERIFY(platform::pictureInFile(path()).isNull());
+        QVERIFY(files::pictureInFile(path()).isNull());
         put("no picture");
-        QVERIFY(platform::pictureInFile(path()).isNull());
+        QVERIFY(files::pictureInFile(path()).isNull());
     }
 
     void otherFormatsAreNoPictures()
     {
         put("<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"9\" height=\"9\"><rect width=\"9\" "
             "height=\"9\"/></svg>");
-        QVERIFY(platform::pictureInFile(path()).isNull());
+        QVERIFY(files::pictureInFile(path()).isNull());
         put("P6 1 1 255 abc");
-        QVERIFY(platform::pictureInFile(path()).isNull());
+        QVERIFY(files::pictureInFile(path()).isNull());
         QImage picture(16, 16, QImage::Format_ARGB32);
         picture.fill(Qt::red);
         QVERIFY(picture.save(path(), "ico")); // one that holds a PNG
-        QVERIFY(platform::pictureInFile(path()).isNull());
+        QVERIFY(files::pictureInFile(path()).isNull());
     }
 
     void aPictureHasItsLimit_data()
@@ -125,9 +125,9 @@ private slots:
         QFETCH(QSize, largest);
         QFETCH(QSize, tooLarge);
         put(encoded(black(largest), format));
-        QCOMPARE(platform::pictureInFile(path()).size(), largest);
+        QCOMPARE(files::pictureInFile(path()).size(), largest);
         put(encoded(black(tooLarge), format));
-        QVERIFY(platform::pictureInFile(path()).isNull());
+        QVERIFY(files::pictureInFile(path()).isNull());
     }
 
     void upsideDownBitmapsAreRead()
@@ -136,15 +136,14 @@ private slots:
         const auto height = qFromLittleEndian<qint32>(bitmap.constData() + 22);
         bitmap.replace(22, 4, bigEndian(qbswap(quint32(-height))));
         put(bitmap);
-        QCOMPARE(platform::pictureInFile(path()).toImage(),
-                 picture().toImage().mirrored(false, true));
+        QCOMPARE(files::pictureInFile(path()).toImage(), picture().toImage().mirrored(false, true));
     }
 
     void whatFollowsAPictureDoesNotMatter()
     {
         for (const char* format : {"bmp", "png", "jpg", "progressive"}) {
             put(encoded(picture().toImage(), format) + QByteArray(175000, '\xFF'));
-            QCOMPARE(platform::pictureInFile(path()).size(), picture().size());
+            QCOMPARE(files::pictureInFile(path()).size(), picture().size());
         }
     }
 
@@ -162,13 +161,13 @@ private slots:
     {
         QFETCH(QByteArray, whole);
         put(whole);
-        QCOMPARE(platform::pictureInFile(path()).size(), picture().size());
+        QCOMPARE(files::pictureInFile(path()).size(), picture().size());
         for (int length = 0; length < whole.size(); length += length < 150 ? 9 : 479) {
             put(whole.left(length));
-            QVERIFY2(platform::pictureInFile(path()).isNull(), qPrintable(QString::number(length)));
+            QVERIFY2(files::pictureInFile(path()).isNull(), qPrintable(QString::number(length)));
         }
         put(whole.chopped(1));
-        QVERIFY(platform::pictureInFile(path()).isNull());
+        QVERIFY(files::pictureInFile(path()).isNull());
     }
 
     /// Run lengths have no size that a header could tell.
@@ -178,7 +177,7 @@ private slots:
             encoded(picture().toImage().convertToFormat(QImage::Format_Indexed8), "bmp");
         bitmap[30] = 1; // says run lengths of eight bits
         put(bitmap);
-        QVERIFY(platform::pictureInFile(path()).isNull());
+        QVERIFY(files::pictureInFile(path()).isNull());
     }
 
     void aProgressivePictureHasFewScans()
@@ -187,7 +186,7 @@ private slots:
         const int scan = picture.lastIndexOf("\xFF\xDA");
         const QByteArray last = picture.mid(scan).chopped(2);
         put(picture.left(scan) + last.repeated(5000) + QByteArray("\xFF\xD9"));
-        QVERIFY(platform::pictureInFile(path()).isNull());
+        QVERIFY(files::pictureInFile(path()).isNull());
     }
 
     void textsInAPictureAreNotUnfolded()
@@ -198,22 +197,22 @@ private slots:
             bigEndian(quint32(text.size() - 4)) + text + bigEndian(crcOf(text));
         const QByteArray plain = encoded(picture().toImage(), "png");
         put(plain.left(33) + chunk + plain.mid(33));
-        const QPixmap shown = platform::pictureInFile(path());
+        const QPixmap shown = files::pictureInFile(path());
         QCOMPARE(shown.size(), picture().size());
         QVERIFY(shown.toImage().textKeys().isEmpty());
     }
 
     void onlyFilesArePictures()
     {
-        QVERIFY(platform::pictureInFile(m_folder.path()).isNull());
+        QVERIFY(files::pictureInFile(m_folder.path()).isNull());
 #ifndef Q_OS_WIN
         const QString pipe = m_folder.filePath(QStringLiteral("pipe.bmp"));
         QCOMPARE(::mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
-        QVERIFY(platform::pictureInFile(pipe).isNull()); // would wait for ever
+        QVERIFY(files::pictureInFile(pipe).isNull()); // would wait for ever
         put(encoded(picture().toImage(), "png"));
         const QString link = m_folder.filePath(QStringLiteral("link.bmp"));
         QVERIFY(QFile::link(path(), link));
-        QCOMPARE(platform::pictureInFile(link).size(), picture().size());
+        QCOMPARE(files::pictureInFile(link).size(), picture().size());
 #endif
     }
 
@@ -248,7 +247,7 @@ private slots:
         set(26, quint16(1));
         set(28, quint16(24));
         put(bitmap);
-        QVERIFY(platform::pictureInFile(path()).isNull());
+        QVERIFY(files::pictureInFile(path()).isNull());
     }
 };
 
