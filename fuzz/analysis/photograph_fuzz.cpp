@@ -18,6 +18,9 @@
 
 #include <cmath>
 
+using files::Outcome;
+using files::Problem;
+
 namespace {
 
 using namespace analysis;
