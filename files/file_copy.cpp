@@ -19,12 +19,12 @@ void FileCopy::step()
     const QByteArray bytes = m_from.read(piece);
     if (m_from.error() != QFile::NoError)
         return end({Problem::CannotRead, m_from.errorString()});
-    if (bytes.isEmpty())
-        return finish();
     m_copied += bytes.size();
     const Outcome written = m_to.write(bytes);
     if (!written.isGood())
         end(written);
+    else if (bytes.size() < piece)
+        finish();
 }
 
 void FileCopy::start()

@@ -47,11 +47,13 @@ public:
         return taken;
     }
 
-    void stop()
+    /// Returns how many were begun.
+    int stop()
     {
         const std::lock_guard lock(m_mutex);
         m_isStopped = true;
         m_room.notify_all();
+        return m_next;
     }
 
 private:
@@ -92,11 +94,11 @@ void inOrder(int count, int jobs, const std::function<Work()>& makeWork,
         }));
         threads.back()->start();
     }
-    for (int index = 0; index < count; ++index) {
+    int begun = count;
+    for (int index = 0; index < begun; ++index) {
         if (!deliver(index, queue.next()))
-            break;
+            begun = queue.stop();
     }
-    queue.stop();
     for (const auto& thread : threads)
         thread->wait();
 }

@@ -21,7 +21,7 @@ using Work = std::function<Result(int index)>;
 /// Runs work on 0 … count − 1 in `jobs` threads and hands the results over in this order, one after
 /// another, in the calling thread. Each thread gets its own work from `makeWork`, so that it can
 /// keep its own buffers. Threads run only so far ahead of `deliver` that memory stays small. When
-/// `deliver` returns false no new work is begun and nothing more is handed over.
+/// `deliver` returns false no new work is begun; what was begun is still handed over.
 void inOrder(int count, int jobs, const std::function<Work()>& makeWork,
              const std::function<bool(int index, const Result&)>& deliver);
 

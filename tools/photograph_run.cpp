@@ -57,7 +57,7 @@ int run(const PhotographRun& photographs)
 
     bar.hide();
     if (platform::isInterrupted()) {
-        printError(QStringLiteral("interrupted after %1 of %2").arg(good + failed).arg(count));
+        printError(QStringLiteral("interrupted: %1 of %2 files are written").arg(good).arg(count));
         platform::endAsInterrupted();
     }
     if (!canPrint || !print(photographs.after) || !flushOutput()) {
