@@ -114,7 +114,7 @@ public:
     {
         if (role == Qt::DecorationRole)
             return m_window.shownThumbnail(m_index);
-        return role == Qt::ToolTipRole ? analysis::toolTipOf(m_window.fileNames.at(m_index))
+        return role == Qt::ToolTipRole ? files::toolTipOf(m_window.fileNames.at(m_index))
                                        : Item::data(role);
     }
 
@@ -346,7 +346,7 @@ void photo_window::on_pushButton_3_clicked()
         put(row, NumberColumn, new QTableWidgetItem(QString::number(row + 1)));
         put(row, PictureColumn, new PhotographItem<QTableWidgetItem>(*this, row));
         put(row, NameColumn, new QTableWidgetItem(fileNames.at(row)));
-        table->item(row, NameColumn)->setToolTip(analysis::toolTipOf(fileNames.at(row)));
+        table->item(row, NameColumn)->setToolTip(files::toolTipOf(fileNames.at(row)));
         put(row, DateColumn, new QTableWidgetItem(fileDates.at(row)));
         put(row, SizeColumn, new QTableWidgetItem(fileSizes.at(row)));
     }
