@@ -4,6 +4,7 @@
 #include <QDebug>
 #include <QDir>
 #include <QFile>
+#include <QSaveFile>
 #include <QStandardPaths>
 #include <QStringList>
 #include <QtEndian>
@@ -34,7 +35,8 @@ QString readText()
     return text;
 }
 
-void writeText(const QString& text)
+/// Over what the file holds. The tail of a longer record stays behind it.
+void rewrite(const QString& text)
 {
     QFile file(filePath());
     if (!file.open(fileMode))
@@ -79,9 +81,16 @@ Record read()
 
 void create(const QString& language)
 {
-    QDir(documentsPath()).mkdir(folderName);
+    QDir().mkpath(folderPath());
     qDebug().noquote() << QStringLiteral("文件夹创建成功");
-    writeText(joined({QStringLiteral("000"), language, folderPath()}));
+    // The whole record or no file: an empty one would count as there ever after.
+    QSaveFile file(filePath());
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
+        return;
+    QDataStream stream(&file);
+    stream << joined({QStringLiteral("000"), language, folderPath()});
+    if (file.flush()) // what commit() flushes by itself may be lost without a word
+        file.commit();
 }
 
 QString replaceLanguage(const QString& language)
@@ -90,7 +99,7 @@ QString replaceLanguage(const QString& language)
         return {};
     Record record = read();
     record.language = language;
-    writeText(joined(record));
+    rewrite(joined(record));
     return joined(record);
 }
 
@@ -100,7 +109,7 @@ void replaceAlarmFolder(const QString& folder)
         return;
     Record record = read();
     record.alarmFolder = folder;
-    writeText(joined(record));
+    rewrite(joined(record));
 }
 
 } // namespace config

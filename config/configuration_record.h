@@ -35,8 +35,9 @@ bool exists();
 /// The record as it stands in the file; missing fields are empty.
 Record read();
 
-/// Makes the folder and the file with the given language and folderPath() as the alarm folder.
-/// Logs the folder's creation. Without the right to write, nothing happens.
+/// Makes the folder, the documents location too where it is missing, and the file with the given
+/// language and folderPath() as the alarm folder. Logs the folder's creation. Without the right or
+/// the room to write there is no file afterwards.
 void create(const QString& language);
 
 /// Rewrites the record with another language. Nothing is written when the file does not exist.

@@ -4,6 +4,11 @@
 #include <QDir>
 #include <QFile>
 
+#ifndef Q_OS_WIN
+#include <csignal>
+#include <sys/resource.h>
+#endif
+
 namespace {
 
 /// The bytes of a record, put together by hand: big-endian byte count, then UTF-16 big-endian.
@@ -31,6 +36,28 @@ QByteArray asThisSystemStoresThem(const QByteArray& bytes)
 {
     return testing::onWindows() ? asWindowsStoresThem(bytes) : bytes;
 }
+
+#ifndef Q_OS_WIN
+/// While it lives, no file of this process grows beyond `bytes`.
+class FullDisk
+{
+public:
+    explicit FullDisk(int bytes)
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        rlimit full = m_before;
+        full.rlim_cur = rlim_t(bytes);
+        setrlimit(RLIMIT_FSIZE, &full);
+    }
+    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &m_before); }
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+
+private:
+    rlimit m_before{};
+};
+#endif
 
 void putFile(const QByteArray& bytes)
 {
@@ -85,12 +112,38 @@ private slots:
         QVERIFY(blocker.remove());
     }
 
-    void creationMakesNoDocumentsFolder()
+    void creationMakesTheDocumentsFolderToo()
     {
         QVERIFY(QDir().rmdir(config::documentsPath()));
         config::create(QStringLiteral("EN"));
-        QVERIFY(!QFileInfo::exists(config::documentsPath()));
+        QCOMPARE(config::read().language, QStringLiteral("EN"));
+        QCOMPARE(config::read().alarmFolder, config::folderPath());
     }
+
+#ifndef Q_OS_WIN
+    /// Nothing is left behind either: an empty file would count as there for good.
+    void creationIsWholeOrNotAtAll_data()
+    {
+        QTest::addColumn<int>("room");
+        QTest::newRow("nothing fits") << 0;
+        QTest::newRow("the count fits") << 4;
+        QTest::newRow("half of the text fits") << 40;
+    }
+    void creationIsWholeOrNotAtAll()
+    {
+        QFETCH(int, room);
+        {
+            const FullDisk full(room);
+            config::create(QStringLiteral("EN"));
+        }
+        QVERIFY(!config::exists());
+        const QDir folder(config::folderPath());
+        QCOMPARE(folder.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+                 QStringList());
+        config::create(QStringLiteral("EN"));
+        QCOMPARE(config::read().language, QStringLiteral("EN"));
+    }
+#endif
 
     void exactBytes()
     {
