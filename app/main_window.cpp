@@ -17,6 +17,7 @@
 #include <QDir>
 #include <QListWidgetItem>
 #include <QMenu>
+#include <QShortcut>
 
 #include <algorithm>
 
@@ -68,16 +69,21 @@ void MainWindow::readConfiguration()
 void MainWindow::buildMenuBar()
 {
     m_fileMenu = ui->menuBar->addMenu(tr("文件"));
-    const auto icon = [](const char* name) {
-        return QIcon(QStringLiteral(":/photo/%1.png").arg(QLatin1String(name)));
+    const auto add = [this](QMenu* menu, const char* icon, const QString& text, auto slot,
+                            const QKeySequence& shortcut) {
+        return menu->addAction(QIcon(QStringLiteral(":/photo/%1.png").arg(QLatin1String(icon))),
+                               text, this, slot, shortcut);
     };
-    m_fileMenu->addAction(icon("connect"), tr("连接"), this, &MainWindow::Action_connect);
-    m_fileMenu->addAction(icon("Disconnect"), tr("断开"), this, &MainWindow::Action_Disconnect)
+    add(m_fileMenu, "connect", tr("连接"), &MainWindow::Action_connect, Qt::CTRL + Qt::Key_K);
+    add(m_fileMenu, "Disconnect", tr("断开"), &MainWindow::Action_Disconnect, Qt::CTRL + Qt::Key_D)
         ->setEnabled(false);
-    m_fileMenu->addAction(icon("setting"), tr("选项"), this, &MainWindow::Action_chose);
-    m_fileMenu->addAction(icon("colse"), tr("关闭"), this, &MainWindow::Action_Close);
-    ui->menuBar->addMenu(tr("帮助"))
-        ->addAction(icon("doc"), tr("用户手册"), this, &MainWindow::Action_Doc);
+    add(m_fileMenu, "setting", tr("选项"), &MainWindow::Action_chose, Qt::CTRL + Qt::Key_Comma);
+    add(m_fileMenu, "colse", tr("关闭"), &MainWindow::Action_Close, Qt::CTRL + Qt::Key_Q);
+    add(ui->menuBar->addMenu(tr("帮助")), "doc", tr("用户手册"), &MainWindow::Action_Doc,
+        Qt::Key_F1);
+    // The texts have no letters underlined, in no language: F10 opens the first menu.
+    connect(new QShortcut(Qt::Key_F10, this), &QShortcut::activated, this,
+            [this] { ui->menuBar->setActiveAction(m_fileMenu->menuAction()); });
 }
 
 void MainWindow::Get_Addr(QString str)
@@ -98,6 +104,9 @@ void MainWindow::Action_photo()
     auto page = std::make_unique<photo_window>(this);
     qDebug().noquote() << QStringLiteral("按下了图片分析按键-------MainWindow::Action_photo");
     clearModeArea();
+    // A live page in full screen has left the mode area, but ends with its mode all the same.
+    if (m_liveWindow)
+        endPage(m_liveWindow);
     m_browserWindow = page.get();
     enterMode(device_poll::diskMode, page.release(), tr("U盘模式"));
 }
@@ -160,9 +169,8 @@ void MainWindow::Action_Disconnect()
         return;
     m_pollTimer.stop();
     clearModeArea();
-    // A live page in full screen has left the mode area, but ends with its mode all the same.
     if (m_liveWindow)
-        endPage(m_liveWindow);
+        endPage(m_liveWindow); // out of the mode area, in full screen
     ui->label->setText(tr("已断开连接"));
     m_fileMenu->actions().at(0)->setEnabled(true);
     m_fileMenu->actions().at(1)->setEnabled(false);
@@ -184,12 +192,12 @@ void MainWindow::Action_Doc()
 
 void MainWindow::Photo_itemEntered(QListWidgetItem* item)
 {
-    if (!ui || !item || !m_browserWindow)
+    if (!ui || !item)
         return;
-    const QString name = item->text();
-    ui->label_2->setText(name == QLatin1String("?")
-                             ? QString()
-                             : m_browserWindow->imageFolder + QLatin1Char('/') + name);
+    if (item->text() == QLatin1String("?"))
+        ui->label_2->clear();
+    else if (m_browserWindow)
+        ui->label_2->setText(m_browserWindow->imageFolder + QLatin1Char('/') + item->text());
 }
 
 void MainWindow::fullscr(bool /*sta*/)

@@ -7,6 +7,7 @@
 
 #include <QDebug>
 #include <QFileDialog>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QStringList>
 
@@ -16,12 +17,26 @@ namespace {
 const QStringList languageCodes{QStringLiteral("CH"), QStringLiteral("EN"), QStringLiteral("RU"),
                                 QStringLiteral("KO")};
 
+QString buttonSheet(int radius, const QString& size)
+{
+    return QStringLiteral("QPushButton{color: rgb(255, 255, 255);background-color: rgb(91, 91, 91);"
+                          "border: 1px solid rgb(91, 91, 91);border-radius: %1px;%2}"
+                          "QPushButton:hover{background-color: rgb(140, 140, 140);}"
+                          "QPushButton:pressed{background-color: rgb(108, 108, 108);}"
+                          "QPushButton:focus{border-color: rgb(20, 20, 20);}")
+        .arg(radius)
+        .arg(size);
+}
+
 } // namespace
 
 seting::seting(QWidget* parent) : QWidget(parent), ui(std::make_unique<Ui::seting>())
 {
     ui->setupUi(this);
     ui->lineEdit->setReadOnly(true);
+    ui->pushButton->setStyleSheet(buttonSheet(6, QStringLiteral("padding: 4px 12px;")));
+    for (QPushButton* button : {ui->pushButton_2, ui->pushButton_3})
+        button->setStyleSheet(buttonSheet(8, QStringLiteral("padding: 6px 20px;min-width: 64px;")));
     setWindowFlags(Qt::Dialog);
     setWindowModality(Qt::ApplicationModal);
 
@@ -43,6 +58,21 @@ void seting::setOwner(QObject* windowOwner)
 {
     owner = windowOwner;
     connect(this, SIGNAL(send_addr(QString)), owner, SLOT(Get_Addr(QString)));
+}
+
+void seting::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_Escape:
+        ui->pushButton_3->click();
+        break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        ui->pushButton_2->click();
+        break;
+    default:
+        QWidget::keyPressEvent(event);
+    }
 }
 
 void seting::on_pushButton_3_clicked()

@@ -36,6 +36,10 @@ signals:
     /// The alarm history folder; back-slashes when the user has just chosen it.
     void send_addr(QString str);
 
+protected:
+    /// Escape cancels, Return confirms.
+    void keyPressEvent(QKeyEvent* event) override;
+
 private slots:
     void on_pushButton_3_clicked();
     void on_pushButton_2_clicked();

@@ -299,6 +299,16 @@ void camer_window::keyPressEvent(QKeyEvent* event)
 
 void camer_window::closeEvent(QCloseEvent* event)
 {
+    // The window manager asks: the user has had enough of the whole screen, not of the page. Not in
+    // the middle of the event, whose window goes with it.
+    if (isFull && event->spontaneous()) {
+        event->ignore();
+        QTimer::singleShot(0, this, [this] {
+            if (isFull)
+                toggleFullScreen(true);
+        });
+        return;
+    }
     QWidget::closeEvent(event);
     ui.reset();
     stopEverything();

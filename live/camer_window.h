@@ -22,7 +22,8 @@ class camer_window;
 
 /// The live page: the imager's picture with its three read-outs, the temperature alarm, and the
 /// history of alarm records. The main window embeds it; a double-click on the picture takes it out
-/// of its parent to fill the screen, another one or Escape brings it back.
+/// of its parent to fill the screen, another one, Escape or a
+/// request to close it brings it back.
 ///
 /// It opens the imager's camera when it is made and lets go of it when it is closed or destroyed,
 /// whichever comes first and in whatever state it is. After a close every slot does nothing.

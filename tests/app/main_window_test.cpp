@@ -9,6 +9,7 @@
 #include "tests/support/dialogs.h"
 #include "tests/support/test_run.h"
 
+#include <QCloseEvent>
 #include <QDir>
 #include <QFileDialog>
 #include <QLabel>
@@ -130,6 +131,36 @@ private slots:
         QCOMPARE(menus.at(1)->menu()->actions().at(0)->text(), QStringLiteral("用户手册"));
         QVERIFY(fileAction(window, 0)->isEnabled());
         QVERIFY(!fileAction(window, 1)->isEnabled());
+    }
+
+    void everyMenuEntryHasAShortcutOfItsOwn()
+    {
+        const MainWindow window;
+        QSet<QString> shortcuts;
+        int entries = 0;
+        for (const QAction* menu : window.menuBar()->actions()) {
+            for (const QAction* action : menu->menu()->actions()) {
+                QVERIFY2(!action->shortcut().isEmpty(), qPrintable(action->text()));
+                shortcuts.insert(action->shortcut().toString());
+                ++entries;
+            }
+        }
+        QCOMPARE(shortcuts.size(), entries);
+    }
+
+    void theKeyboardOpensTheMenus()
+    {
+        MainWindow window;
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QTest::keyClick(&window, Qt::Key_F10);
+        const QMenu* menu = window.menuBar()->actions().at(0)->menu();
+        QTRY_VERIFY(menu->isVisible());
+        QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+        QTRY_VERIFY(!menu->isVisible());
+        testing::LogRecorder log;
+        QTest::keyClick(&window, Qt::Key_F1);
+        QVERIFY(log.contains(QStringLiteral("点击了用户手册")));
     }
 
     void theUserManualIsOnlyLogged()
@@ -385,6 +416,55 @@ private slots:
         item.setText(QStringLiteral("?"));
         window.Photo_itemEntered(&item);
         QCOMPARE(pathText(window), QString());
+    }
+
+    void aQuestionMarkClearsThePathAlsoWithoutABrowser()
+    {
+        MainWindow window;
+        drives.append(makeDrive(QStringLiteral("imager")));
+        window.timeout_connect();
+        QListWidgetItem item(QStringLiteral("a.bmp"));
+        window.Photo_itemEntered(&item);
+        window.Action_Disconnect();
+        QVERIFY(!pathText(window).isEmpty());
+        item.setText(QStringLiteral("?"));
+        window.Photo_itemEntered(&item);
+        QCOMPARE(pathText(window), QString());
+    }
+
+    void diskModeEndsALivePageInFullScreen()
+    {
+        MainWindow window;
+        window.show();
+        camera().plug();
+        window.timeout_connect();
+        const QPointer<camer_window> page = window.liveWindow();
+        page->toggleFullScreen(false);
+        window.Action_photo();
+        QVERIFY(!page);
+        QVERIFY(!window.liveWindow());
+        QVERIFY(!camera().isRunning());
+        QCOMPARE(window.mode(), 2);
+        QCOMPARE(modeArea(window)->count(), 1);
+    }
+
+    /// Alt+F4 on the picture that fills the screen: it goes back into its place.
+    void aCloseRequestEndsFullScreen()
+    {
+        MainWindow window;
+        window.show();
+        camera().plug();
+        window.timeout_connect();
+        const QPointer<camer_window> page = window.liveWindow();
+        page->toggleFullScreen(false);
+        QCloseEvent request;
+        QCoreApplication::sendEvent(page->windowHandle(), &request);
+        QVERIFY(page->isOpen());
+        QTRY_VERIFY(!page->isFull);
+        QCOMPARE(modeArea(window)->count(), 1);
+        QTRY_VERIFY(page->isVisible());
+        QVERIFY(!page->isWindow());
+        QTRY_VERIFY(camera().isRunning());
     }
 
     void aLivePageInFullScreenComesBack()

@@ -85,6 +85,73 @@ private slots:
         QCOMPARE(dialog.language, QStringLiteral("CH"));
     }
 
+    void eachPartHasItsOwnStyle()
+    {
+        const seting dialog;
+        QCOMPARE(dialog.styleSheet(),
+                 QStringLiteral("QWidget#seting{\nbackground-color: rgb(231, 231, 231);\n}"));
+        const std::pair<const char*, const char*> radii[] = {
+            {"pushButton", "6px"}, {"pushButton_2", "8px"}, {"pushButton_3", "8px"}};
+        for (const auto& [name, radius] : radii) {
+            const QString sheet = dialog.findChild<QPushButton*>(QLatin1String(name))->styleSheet();
+            for (const char* part : {"rgb(255, 255, 255)", "rgb(91, 91, 91)", "rgb(140, 140, 140)",
+                                     "rgb(108, 108, 108)"})
+                QVERIFY2(sheet.contains(QLatin1String(part)), part);
+            QVERIFY(sheet.contains(QStringLiteral("border-radius: ") + QLatin1String(radius)));
+        }
+        for (const char* name : {"label", "label_2"}) {
+            const auto* label = dialog.findChild<QLabel*>(QLatin1String(name));
+            QCOMPARE(label->font().family(), QStringLiteral("Microsoft YaHei"));
+        }
+    }
+
+    void escapeCancels()
+    {
+        seting dialog;
+        dialog.show();
+        activate(dialog, 2);
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_Escape);
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(config::read().language, QStringLiteral("EN"));
+    }
+
+    void returnConfirms_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<QString>("focused");
+        for (const char* focused : {"comboBox", "lineEdit", "pushButton_2"}) {
+            QTest::addRow("Return in %s", focused) << int(Qt::Key_Return) << focused;
+            QTest::addRow("Enter in %s", focused) << int(Qt::Key_Enter) << focused;
+        }
+    }
+    void returnConfirms()
+    {
+        QFETCH(int, key);
+        QFETCH(QString, focused);
+        seting dialog;
+        dialog.show();
+        activate(dialog, 3);
+        auto* widget = dialog.findChild<QWidget*>(focused);
+        widget->setFocus();
+        const testing::Answer<QMessageBox> notice([](QMessageBox& box) { box.accept(); });
+        QTest::keyClick(widget, Qt::Key(key));
+        QVERIFY(notice.wasAsked());
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(config::read().language, QStringLiteral("KO"));
+    }
+
+    void returnOnCancelCancels()
+    {
+        seting dialog;
+        dialog.show();
+        activate(dialog, 3);
+        auto* cancel = dialog.findChild<QPushButton*>(QStringLiteral("pushButton_3"));
+        cancel->setFocus();
+        QTest::keyClick(cancel, Qt::Key_Return);
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(config::read().language, QStringLiteral("EN"));
+    }
+
     void entriesInTheirOrder()
     {
         const seting dialog;
