@@ -2,7 +2,11 @@
 
 #include "config/configuration_record.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QStyle>
+#include <QStyleFactory>
+
+#include <memory>
 
 namespace startup {
 
@@ -10,6 +14,12 @@ void setAttributes()
 {
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+}
+
+void useLightPalette()
+{
+    const std::unique_ptr<QStyle> light(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setPalette(light->standardPalette());
 }
 
 QString languageCode()

@@ -9,6 +9,10 @@ namespace startup {
 /// High-DPI scaling and icons; to be called before the application object exists.
 void setAttributes();
 
+/// Light colours for every window, whatever the desktop has: the forms have light backgrounds of
+/// their own, on which a dark desktop's white texts would be lost. Needs the application object.
+void useLightPalette();
+
 /// The language code of this run, from the configuration record. On the very first start the record
 /// does not exist yet: it is made with "EN", and "EN" is the answer even when it cannot be written.
 /// (The main window's own fallback writes "CH"; the two defaults differ on purpose.)

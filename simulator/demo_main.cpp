@@ -11,6 +11,7 @@ int main(int argc, char** argv)
 {
     startup::setAttributes();
     QApplication application(argc, argv);
+    startup::useLightPalette();
     resources::load();
     const startup::Translators translators(startup::languageCode());
 

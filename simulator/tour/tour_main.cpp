@@ -68,6 +68,7 @@ int main(int argc, char** argv)
     }
 
     config::create(parser.value(language));
+    startup::useLightPalette();
     resources::load();
     const startup::Translators translators(startup::languageCode());
     return walkThrough(parser.value(language), parser.value(output));
