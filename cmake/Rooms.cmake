@@ -14,14 +14,35 @@ if(THERMADESK_SANITIZE)
     set(patience 900)
 endif()
 
-# thermadesk_add_test(NAME SOURCES file... [USES target...] [LABELS label...])
+# thermadesk_add_test(NAME SOURCES file... [USES target...] [LABELS label...] [SECONDS n])
 #
 # One QtTest program registered with CTest: no display, no audio device, a profile of its own.
+# SECONDS, of a test that takes more than a few: the longest start first, so that none is waited for
+# at the end.
 function(thermadesk_add_test name)
-    cmake_parse_arguments(TEST "" "" "SOURCES;USES;LABELS" ${ARGN})
+    cmake_parse_arguments(TEST "" "SECONDS" "SOURCES;USES;LABELS" ${ARGN})
     add_executable(${name} ${TEST_SOURCES})
     target_link_libraries(${name} PRIVATE ${TEST_USES} thermadesk_test_support thermadesk_warnings)
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
     add_test(NAME ${name} COMMAND ${name})
-    set_tests_properties(${name} PROPERTIES TIMEOUT ${patience} LABELS "${TEST_LABELS}")
+    set_tests_properties(${name} PROPERTIES
+        TIMEOUT ${patience} LABELS "${TEST_LABELS}" COST "0${TEST_SECONDS}")
+endfunction()
+
+# thermadesk_add_variant(TEST NAME ENVIRONMENT variable=value... [SECONDS n] [LONG])
+#
+# The same program once more in other surroundings, as TEST_NAME. LONG ones are for .ci/nightly: they
+# are run by "ctest -C Long -L long" alone.
+function(thermadesk_add_variant test name)
+    cmake_parse_arguments(VARIANT "LONG" "SECONDS" "ENVIRONMENT" ${ARGN})
+    set(configurations)
+    if(VARIANT_LONG)
+        set(configurations CONFIGURATIONS Long)
+    endif()
+    add_test(NAME ${test}_${name} COMMAND ${test} ${configurations})
+    set_tests_properties(${test}_${name} PROPERTIES
+        TIMEOUT ${patience} COST "0${VARIANT_SECONDS}" ENVIRONMENT "${VARIANT_ENVIRONMENT}")
+    if(VARIANT_LONG)
+        set_tests_properties(${test}_${name} PROPERTIES LABELS long TIMEOUT 3600)
+    endif()
 endfunction()

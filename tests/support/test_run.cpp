@@ -3,6 +3,7 @@
 #include "config/configuration_record.h"
 
 #include <QDir>
+#include <QTextCodec>
 
 #include <algorithm>
 
@@ -65,7 +66,10 @@ void prepareEnvironment()
     profile();
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("LC_ALL", "C.UTF-8");
+    // Qt has every locale's data. Where the system lacks it, file names would be taken for ASCII.
+    const QByteArray locale = qgetenv("THERMADESK_TEST_LOCALE");
+    qputenv("LC_ALL", locale.isEmpty() ? QByteArrayLiteral("C.UTF-8") : locale);
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     qputenv("QT_LOGGING_RULES", "qt.qpa.*=false");
 }
 

@@ -6,8 +6,9 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
-/// How every test program starts: with no display and no audio device, the C locale, and a home
-/// folder of its own, so that no test meets a user's files or another test's.
+/// How every test program starts: with no display and no audio device, the C locale unless
+/// THERMADESK_TEST_LOCALE names another ("ar_EG.UTF-8", with digits of its own), and a home folder
+/// of its own, so that no test meets a user's files or another test's.
 namespace testing {
 
 /// A throw-away home folder. While it lives, the documents location lies inside it.
@@ -28,6 +29,13 @@ private:
 inline bool onWindows()
 {
     return QSysInfo::kernelType() == QLatin1String("winnt");
+}
+
+/// True when THERMADESK_LONG_RUN is set, as in .ci/nightly: random cases are tried in great
+/// numbers.
+inline bool isLongRun()
+{
+    return qEnvironmentVariableIsSet("THERMADESK_LONG_RUN");
 }
 
 /// The profile of this test program.
