@@ -476,6 +476,64 @@ private slots:
         QCOMPARE(QFileInfo(target + QLatin1Char('/') + odd).lastModified().toUTC(), changed);
     }
 
+    /// A path that begins with a colon is something built into the program; a name may.
+    void aNameMayBeginWithAColon_data()
+    {
+        QTest::addColumn<int>("entry");
+        QTest::addColumn<QString>("file");
+        QTest::newRow("csv") << int(Csv) << QStringLiteral(":night.csv");
+        QTest::newRow("tiff") << int(Tiff) << QStringLiteral(":night.tiff");
+        QTest::newRow("png") << int(Png) << QStringLiteral(":night.png");
+        QTest::newRow("report") << int(Report) << QStringLiteral(":night.pdf");
+        QTest::newRow("copy") << int(Copy) << QStringLiteral(":night.bmp");
+    }
+    void aNameMayBeginWithAColon()
+    {
+        QFETCH(int, entry);
+        QFETCH(QString, file);
+        write(QStringLiteral(":night.bmp"), photographBytes(Shot()));
+        openBrowser();
+        choose({0});
+        start(Entry(entry));
+        QCOMPARE(messageText(), successText(1));
+        QCOMPARE(written(), QStringList({file}));
+        QVERIFY(QFileInfo(target + QLatin1Char('/') + file).size() > 1000);
+    }
+
+    /// Other events have their turn all the time, and a copy that is stopped leaves nothing.
+    void aLargeFileIsCopiedInPieces_data()
+    {
+        QTest::addColumn<bool>("stopped");
+        QTest::newRow("to its end") << false;
+        QTest::newRow("stopped") << true;
+    }
+    void aLargeFileIsCopiedInPieces()
+    {
+        QFETCH(bool, stopped);
+        constexpr qint64 size = 100'000'000;
+        QFile large(photograph(name(0)));
+        QVERIFY(large.open(QIODevice::WriteOnly) && large.resize(size));
+        openBrowser();
+        choose({0});
+        int rounds = 0;
+        QTimer idle;
+        connect(&idle, &QTimer::timeout, this, [&] {
+            if (++rounds == 20 && stopped)
+                job()->reject();
+        });
+        start(Copy);
+        idle.start(0);
+        const QString text = messageText();
+        QVERIFY2(rounds >= 20, qPrintable(QString::number(rounds)));
+        if (stopped) {
+            QVERIFY(text.startsWith(QStringLiteral("没有写入任何文件。")));
+            QCOMPARE(written(), QStringList());
+        } else {
+            QCOMPARE(text, successText(1));
+            QCOMPARE(QFileInfo(target + QLatin1Char('/') + name(0)).size(), size);
+        }
+    }
+
     void noFolderNoWork()
     {
         addPhotographs(1);
