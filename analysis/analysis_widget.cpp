@@ -129,7 +129,7 @@ bool Analysis_Widget::set_Image_addr(const QString& imagePath, int modelIndex)
     ui->label->markerA = photograph.markerA;
     ui->label->markerB = photograph.markerB;
     ui->label->markerC = photograph.markerC;
-    if (modelIndex == 1)
+    if (format::layoutOf(modelIndex).hasFirmware)
         qDebug().noquote() << QStringLiteral("版本号:") << parameters.firmware10 / 10.0;
     qDebug().noquote() << QStringLiteral("中心灰度:")
                        << nearestTemperature(photograph.temperatures, 120, 160);

@@ -1,18 +1,13 @@
 #pragma once
 
-#include <QIcon>
-#include <QList>
-#include <QPixmap>
-#include <QQueue>
-#include <QStringList>
-#include <QTimer>
-#include <QVector>
+#include "analysis/imager_folder.h"
+#include "analysis/thumbnails.h"
+
 #include <QWidget>
 
 #include <memory>
 
 class QAbstractItemView;
-class QFileInfo;
 class QListWidgetItem;
 class QTableWidgetItem;
 
@@ -26,7 +21,7 @@ class photo_window;
 /// However many photographs there are, a picture is read only when it comes into view, between
 /// events, and only the most recent few hundred thumbnails are kept. Whatever the disk does
 /// meanwhile, at worst a thumbnail stays empty. GUI thread only.
-class photo_window : public QWidget
+class photo_window : public QWidget, public analysis::ImagerFolder
 {
     Q_OBJECT
 
@@ -40,14 +35,8 @@ public:
     /// back as it is.
     static QPixmap roundedThumbnail(const QPixmap& picture, const QSize& size, int radius);
 
-    int driveIndex = 0;  ///< row of the drive in use
-    QString imageFolder; ///< where the photographs are, whether or not it exists
-    int modelIndex = -1; ///< file layout for Analysis_Widget::set_Image_addr()
-    /// One entry for each photograph, by name.
-    QStringList fileNames;
-    QStringList fileDates;     ///< of creation, "yyyy/MM/dd HH:mm"
-    QStringList fileSizes;     ///< kilobytes, one decimal
-    QList<QPixmap> thumbnails; ///< null until shown, or when it cannot be read
+    int driveIndex = 0;        ///< row of the drive in use
+    QList<QPixmap> thumbnails; ///< of the photographs; null until shown, or when it cannot be read
 
     /// Fills the drive list. Returns the drives' roots, each ending in "/".
     QStringList listDrives();
@@ -59,10 +48,6 @@ public:
     /// Which folder of the drive at `root`, and which file layout, given the names of its
     /// sub-folders. Asks the user when both kinds seem to be there. False as above.
     bool chooseFolder(const QString& root, const QStringList& folderNames);
-    /// A photograph's thumbnail as its item in the view shows it: an empty one of the same size
-    /// until the picture has been read, which this asks for.
-    QIcon shownThumbnail(int index);
-
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 public slots:
@@ -79,8 +64,6 @@ private:
     void open(const QString& name);
     QStringList chosenNames() const;
     void showMenu(const QPoint& place);
-    void readRequested();
-    void readThumbnail(int index);
     bool isInView(int index) const;
 
     const std::unique_ptr<Ui::photo_window> ui;
@@ -88,8 +71,5 @@ private:
     bool m_russian = false;
     QAbstractItemView* m_view = nullptr; ///< the list or table shown, a child
     int m_pictureColumn = 0;             ///< of m_view
-    QTimer m_reading;                    ///< runs while thumbnails are wanted
-    QVector<int> m_requested;            ///< indices wanted since the last reading
-    QVector<bool> m_read;                ///< whose thumbnail stands as it is to be shown
-    QQueue<int> m_kept;                  ///< indices with a thumbnail, oldest first
+    analysis::Thumbnails m_thumbnails;
 };

@@ -7,11 +7,6 @@ namespace {
 
 using namespace format;
 
-const Layout& layoutOf(int modelIndex)
-{
-    return modelIndex == 1 ? modelOne : modelZero;
-}
-
 template<typename T>
 T number(const uchar* bytes)
 {
@@ -24,7 +19,7 @@ Rgb widened(quint16 entry)
     return {uchar((entry >> 8) & 0xF8), uchar((entry >> 3) & 0xFC), uchar((entry << 3) & 0xFF)};
 }
 
-Parameters readParameters(const uchar* block, int modelIndex)
+Parameters readParameters(const uchar* block, const Layout& layout)
 {
     Parameters parameters;
     parameters.unit = block[parameter::unit];
@@ -35,13 +30,12 @@ Parameters readParameters(const uchar* block, int modelIndex)
     parameters.centre10 = number<qint16>(block + parameter::centre);
     parameters.emissivity100 = block[parameter::emissivity];
     parameters.machineId = number<quint32>(block + parameter::machineId);
-    if (modelIndex == 1)
+    if (layout.hasFirmware)
         parameters.firmware10 = number<quint16>(block + parameter::firmwareVersion);
     return parameters;
 }
 
-/// `file` holds x and y. Model index 1 stores positions turned by 180°, counted from `lastX`,
-/// `lastY`.
+/// `file` holds x and y. A turned layout counts from `lastX`, `lastY`.
 overlay::Marker readMarker(const uchar* file, bool turned, int lastX, int lastY)
 {
     const int x = number<quint16>(file);
@@ -108,10 +102,10 @@ void readPicture(const uchar* bytes, int modelIndex, Photograph& photograph)
 {
     const Layout& layout = layoutOf(modelIndex);
     const uchar* gray = bytes + layout.gray;
-    if (modelIndex == 0)
-        std::copy_n(gray, grayBytes, photograph.gray.begin());
-    else if (modelIndex == 1)
+    if (isKnown(modelIndex) && layout.isTurned)
         std::reverse_copy(gray, gray + grayBytes, photograph.gray.begin());
+    else if (isKnown(modelIndex))
+        std::copy_n(gray, grayBytes, photograph.gray.begin());
 
     const uchar* entry = bytes + layout.palette;
     for (Rgb& colour : photograph.palette) {
@@ -123,11 +117,12 @@ void readPicture(const uchar* bytes, int modelIndex, Photograph& photograph)
 
 bool readMeasurements(const uchar* bytes, int readCount, int modelIndex, Photograph& photograph)
 {
-    const uchar* block = bytes + layoutOf(modelIndex).parameters;
-    photograph.parameters = readParameters(block, modelIndex);
-    if (photograph.parameters.machineId != 5 && photograph.parameters.machineId != 6)
+    const Layout& layout = layoutOf(modelIndex);
+    const uchar* block = bytes + layout.parameters;
+    photograph.parameters = readParameters(block, layout);
+    if (!isSupported(layout, photograph.parameters.machineId))
         return false;
-    readMarkers(block, modelIndex == 1, photograph);
+    readMarkers(block, layout.isTurned, photograph);
     if (hasRawImage(readCount))
         fillFromRawImage(bytes + rawOffset, photograph);
     else

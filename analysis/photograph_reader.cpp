@@ -3,7 +3,10 @@
 #include "files/paths.h"
 #include "files/reading.h"
 
+#include <QStringList>
 #include <QtEndian>
+
+#include <algorithm>
 
 using files::Outcome;
 using files::Problem;
@@ -11,20 +14,23 @@ using files::Problem;
 namespace analysis {
 namespace {
 
-constexpr const format::Layout& layoutOf(int modelIndex)
-{
-    return modelIndex == 1 ? format::modelOne : format::modelZero;
-}
+using format::Layout;
+using format::layouts;
 
 /// Everything that is measured and shown ends with the third marker.
-constexpr int bytesNeeded(int modelIndex)
+constexpr int bytesNeeded(const Layout& layout)
 {
-    return layoutOf(modelIndex).parameters + format::parameter::markerC + 4;
+    return layout.parameters + format::parameter::markerC + 4;
 }
 
-constexpr bool isKnown(quint32 machineId)
+/// What any photograph has, in whichever layout.
+int fewestBytes()
 {
-    return machineId == 5 || machineId == 6;
+    const auto* const shortest =
+        std::min_element(layouts.begin(), layouts.end(), [](const Layout& a, const Layout& b) {
+            return bytesNeeded(a) < bytesNeeded(b);
+        });
+    return bytesNeeded(*shortest);
 }
 
 /// FileBuffer only says that it failed; the system is asked once more for the reason.
@@ -48,7 +54,7 @@ Outcome PhotographReader::read(const QString& path, std::optional<int> modelInde
     m_readCount = m_buffer.read(path);
     if (m_readCount < 0)
         return whyUnreadable(path);
-    const int fewest = bytesNeeded(modelIndex.value_or(1));
+    const int fewest = modelIndex ? bytesNeeded(format::layoutOf(*modelIndex)) : fewestBytes();
     if (m_readCount < fewest)
         return {Problem::TooShort, QStringLiteral("%1/%2").arg(m_readCount).arg(fewest)};
 
@@ -61,33 +67,35 @@ Outcome PhotographReader::read(const QString& path, std::optional<int> modelInde
     return {};
 }
 
-bool PhotographReader::holdsBlocks(int modelIndex) const
+/// Nothing where the photograph ends before its blocks do.
+std::optional<quint32> PhotographReader::machineId(const Layout& layout) const
 {
-    return m_readCount >= bytesNeeded(modelIndex);
-}
-
-quint32 PhotographReader::machineId(int modelIndex) const
-{
-    return qFromLittleEndian<quint32>(m_buffer.bytes() + layoutOf(modelIndex).parameters +
+    if (m_readCount < bytesNeeded(layout))
+        return std::nullopt;
+    return qFromLittleEndian<quint32>(m_buffer.bytes() + layout.parameters +
                                       format::parameter::machineId);
 }
 
 std::optional<int> PhotographReader::knownLayout() const
 {
-    for (const int modelIndex : {0, 1}) {
-        if (holdsBlocks(modelIndex) && isKnown(machineId(modelIndex)))
-            return modelIndex;
+    for (const Layout& layout : layouts) {
+        const std::optional<quint32> id = machineId(layout);
+        if (id && format::isSupported(layout, *id))
+            return layout.modelIndex;
     }
     return std::nullopt;
 }
 
 QString PhotographReader::machineIds() const
 {
-    const auto text = [this](int modelIndex) {
-        return holdsBlocks(modelIndex) ? QString::number(machineId(modelIndex))
-                                       : QStringLiteral("-");
-    };
-    return QStringLiteral("0: %1, 1: %2").arg(text(0), text(1));
+    QStringList texts;
+    for (const Layout& layout : layouts) {
+        const std::optional<quint32> id = machineId(layout);
+        texts.append(QStringLiteral("%1: %2")
+                         .arg(layout.modelIndex)
+                         .arg(id ? QString::number(*id) : QStringLiteral("-")));
+    }
+    return texts.join(QStringLiteral(", "));
 }
 
 ShownUnit shownUnit(UnitChoice choice, int fileUnit, bool raw)

@@ -32,8 +32,7 @@ public:
     const Photograph& photograph() const { return *m_photograph; }
 
 private:
-    bool holdsBlocks(int modelIndex) const;
-    quint32 machineId(int modelIndex) const;
+    std::optional<quint32> machineId(const format::Layout& layout) const;
     std::optional<int> knownLayout() const;
     QString machineIds() const;
 

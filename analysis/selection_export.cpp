@@ -13,7 +13,7 @@ namespace {
 
 int layoutOf(const SelectionOrder& order)
 {
-    return order.modelIndex == 1 ? 1 : 0;
+    return format::layoutOf(order.modelIndex).modelIndex;
 }
 
 ExportOptions exportOptions(const SelectionOrder& order)

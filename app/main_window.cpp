@@ -1,6 +1,7 @@
 #include "app/main_window.h"
 
 #include "analysis/photo_window.h"
+#include "analysis/photograph_format.h"
 #include "app/device_poll.h"
 #include "app/seting.h"
 #include "config/configuration_record.h"
@@ -304,8 +305,9 @@ void MainWindow::checkFolders()
     const QFileInfoList folders =
         QDir(platform::removableDrives().value(0)).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot);
     for (const QFileInfo& folder : folders) {
-        if (folder.fileName() == QLatin1String("DCIM_100") ||
-            folder.fileName() == QLatin1String("Images"))
-            Action_photo();
+        for (const auto& layout : analysis::format::layouts) {
+            if (folder.fileName() == QLatin1String(layout.folder))
+                Action_photo();
+        }
     }
 }

@@ -144,7 +144,7 @@ QByteArray photographInput(int scene, const simulator::PhotographSettings& setti
 {
     namespace format = analysis::format;
     const QByteArray file = simulator::photograph(field(scene), settings);
-    const format::Layout& layout = settings.modelIndex == 1 ? format::modelOne : format::modelZero;
+    const format::Layout& layout = format::layoutOf(settings.modelIndex);
     constexpr int row = 160;
     const int from = settings.raw ? format::rawOffset + row * format::rawColumns
                                   : layout.gray + row * format::columns;

@@ -1,5 +1,7 @@
 #include "simulator/control_panel.h"
 
+#include "analysis/photograph_format.h"
+
 #include "ui_control_panel.h"
 
 #include <QFileInfo>
@@ -7,22 +9,36 @@
 #include <QScreen>
 
 #include <algorithm>
-#include <array>
 #include <cmath>
+#include <vector>
 
 namespace simulator {
 namespace {
 
 struct FileLayout
 {
-    const char* title;
+    QString title;
     int modelIndex;
     bool raw;
 };
 
-constexpr std::array<FileLayout, 3> fileLayouts{{{"Model 0", 0, false},
-                                                 {"Model 0 with raw image", 0, true},
-                                                 {"Model 1 (sensor turned)", 1, false}}};
+/// Only imagers whose sensor stands upright keep a raw image.
+std::vector<FileLayout> makeFileLayouts()
+{
+    std::vector<FileLayout> all;
+    for (const auto& layout : analysis::format::layouts) {
+        const QString title = QStringLiteral("Model %1").arg(layout.modelIndex);
+        if (layout.isTurned) {
+            all.push_back({title + QStringLiteral(" (sensor turned)"), layout.modelIndex, false});
+            continue;
+        }
+        all.push_back({title, layout.modelIndex, false});
+        all.push_back({title + QStringLiteral(" with raw image"), layout.modelIndex, true});
+    }
+    return all;
+}
+
+const std::vector<FileLayout> fileLayouts = makeFileLayouts();
 
 int indexOfLayout(const PhotographSettings& settings)
 {
@@ -44,7 +60,7 @@ ControlPanel::ControlPanel(SimulatedImager& imager, QWidget* parent)
     for (const Palette palette : {Palette::Iron, Palette::Rainbow, Palette::WhiteHot})
         m_ui->paletteCombo->addItem(paletteTitle(palette), int(palette));
     for (const FileLayout& layout : fileLayouts)
-        m_ui->layoutCombo->addItem(QString::fromLatin1(layout.title));
+        m_ui->layoutCombo->addItem(layout.title);
     m_ui->unitCombo->addItems({QStringLiteral("°C"), QStringLiteral("°F")});
     showSettings();
 

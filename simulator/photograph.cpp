@@ -76,8 +76,7 @@ QByteArray rawImage(const Field& celsius)
 
 QByteArray photograph(const Field& celsius, const PhotographSettings& settings)
 {
-    const bool isModelOne = settings.modelIndex == 1;
-    const format::Layout& layout = isModelOne ? format::modelOne : format::modelZero;
+    const format::Layout& layout = format::layoutOf(settings.modelIndex);
 
     Field field = celsius;
     if (settings.fahrenheit)
@@ -86,17 +85,17 @@ QByteArray photograph(const Field& celsius, const PhotographSettings& settings)
     const GrayPicture picture = grayPicture(field);
     const PaletteTable& palette = paletteTable(settings.palette);
 
-    QByteArray file = bitmap(falseColour(picture.gray, palette), isModelOne ? 16 : 24);
+    QByteArray file = bitmap(falseColour(picture.gray, palette), 8 * layout.pixelBytes);
     // Between picture and gray image model index 1 leaves three bytes; unused bytes are zero.
-    const int end = settings.raw
-                        ? format::rawFileBytes
-                        : layout.parameters + (isModelOne ? format::parameter::firmwareVersion + 2
-                                                          : format::parameter::markerC + 4);
+    const int end = settings.raw ? format::rawFileBytes
+                                 : layout.parameters + (layout.hasFirmware
+                                                            ? format::parameter::firmwareVersion + 2
+                                                            : format::parameter::markerC + 4);
     file.append(end - file.size(), '\0');
     put<quint32>(file, fileSizeOffset, quint32(end));
 
     QByteArray gray = picture.gray;
-    if (isModelOne)
+    if (layout.isTurned)
         std::reverse(gray.begin(), gray.end());
     file.replace(layout.gray, format::grayBytes, gray);
     for (int i = 0; i < format::paletteEntries; ++i)
@@ -108,9 +107,9 @@ QByteArray photograph(const Field& celsius, const PhotographSettings& settings)
         put(file, base + offset, quint16(place.x()));
         put(file, base + offset + 2, quint16(place.y()));
     };
-    // Model index 1 looks through a sensor that hangs upside down, in the markers too.
-    const auto stored = [isModelOne](QPoint place) {
-        return isModelOne ? QPoint(format::columns - 1, format::rows - 1) - place : place;
+    // Who looks through a sensor that hangs upside down does so in the markers, too.
+    const auto stored = [&layout](QPoint place) {
+        return layout.isTurned ? QPoint(format::columns - 1, format::rows - 1) - place : place;
     };
     put(file, base + parameter::unit, quint8(settings.fahrenheit ? 1 : 0));
     put(file, base + parameter::maximum, qint16(picture.maximum10));
@@ -122,9 +121,9 @@ QByteArray photograph(const Field& celsius, const PhotographSettings& settings)
     put(file, base + parameter::machineId, settings.machineId);
     putMarker(parameter::markerA, stored(picture.coldest));
     putMarker(parameter::markerB, stored(picture.hottest));
-    // Counted from one; turning 240 − x and counting from one cancel each other in model index 1.
-    putMarker(parameter::markerC, isModelOne ? stored(centre) : centre + QPoint(1, 1));
-    if (isModelOne)
+    // Counted from one; turning 240 − x and counting from one cancel each other.
+    putMarker(parameter::markerC, layout.isTurned ? stored(centre) : centre + QPoint(1, 1));
+    if (layout.hasFirmware)
         put(file, base + parameter::firmwareVersion, quint16(settings.firmware10));
 
     if (settings.raw)

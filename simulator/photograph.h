@@ -9,14 +9,14 @@ namespace simulator {
 /// How the imager keeps a photograph.
 struct PhotographSettings
 {
-    int modelIndex = 0; ///< 0 or 1: which of the two layouts of analysis::format
+    int modelIndex = 0; ///< which of analysis::format::layouts
     /// With the raw image at its end, the file then has analysis::format::rawFileBytes.
     bool raw = false;
     bool fahrenheit =
         false;             ///< the scale of the parameter block; the raw image is in kelvin always
     quint32 machineId = 5; ///< 5 and 6 are known to the analysis, others are refused
     double emissivity = 0.95;
-    int firmware10 = 12; ///< version × 10; kept by model index 1 only
+    int firmware10 = 12; ///< version × 10; kept where the layout has it
     Palette palette = Palette::Iron;
 };
 

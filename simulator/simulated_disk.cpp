@@ -1,5 +1,6 @@
 #include "simulator/simulated_disk.h"
 
+#include "analysis/photograph_format.h"
 #include "platform/removable_drives.h"
 
 #include <QDir>
@@ -25,7 +26,7 @@ Drives& drives()
 
 QString SimulatedDisk::photographFolderName(int modelIndex)
 {
-    return modelIndex == 1 ? QStringLiteral("Images") : QStringLiteral("DCIM_100");
+    return QString::fromLatin1(analysis::format::layoutOf(modelIndex).folder);
 }
 
 SimulatedDisk::SimulatedDisk(Content content, QObject* parent)

@@ -1,5 +1,6 @@
 #include "tools/command_line.h"
 
+#include "analysis/photograph_format.h"
 #include "tools/messages.h"
 
 #include <QThread>
@@ -80,8 +81,10 @@ bool CommandLine::isGood()
 
 std::optional<int> CommandLine::modelIndex()
 {
-    return choice<std::optional<int>>(QStringLiteral("layout"),
-                                      {{"auto", std::nullopt}, {"0", 0}, {"1", 1}});
+    std::vector<std::pair<const char*, std::optional<int>>> names{{"auto", std::nullopt}};
+    for (const auto& layout : analysis::format::layouts)
+        names.emplace_back(layout.name, layout.modelIndex);
+    return choice(QStringLiteral("layout"), names);
 }
 
 int CommandLine::jobs()

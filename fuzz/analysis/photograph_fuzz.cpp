@@ -40,11 +40,6 @@ enum Way
 /// Pixels looked at: all of them would take longer than reading the photograph.
 constexpr int stride = 61;
 
-const format::Layout& layoutOf(int modelIndex)
-{
-    return modelIndex == 1 ? format::modelOne : format::modelZero;
-}
-
 template<typename T>
 T stored(const PhotographFile& file, int offset)
 {
@@ -63,7 +58,7 @@ bool same(float a, float b)
 
 void mustBePicture(const Photograph& photograph, const PhotographFile& file)
 {
-    const format::Layout& layout = layoutOf(file.modelIndex);
+    const format::Layout& layout = format::layoutOf(file.modelIndex);
     for (int i = 0; i < format::grayBytes; i += stride) {
         const int expected = file.modelIndex == 0 ? file.bytes[layout.gray + i]
                              : file.modelIndex == 1
@@ -88,7 +83,7 @@ bool isAt(const overlay::Marker& marker, int x, int y)
 void mustBeMarked(const Photograph& photograph, const PhotographFile& file)
 {
     const auto word = [&file](int offset) {
-        return int(stored<quint16>(file, layoutOf(file.modelIndex).parameters + offset));
+        return int(stored<quint16>(file, format::layoutOf(file.modelIndex).parameters + offset));
     };
     const int turned = file.modelIndex == 1;
     const auto place = [turned](int stored, int last) {
@@ -137,7 +132,7 @@ Extremes extremesOf(const Temperatures& temperatures)
 void mustBeMeasured(const Photograph& photograph, const PhotographFile& file,
                     const Extremes& extremes)
 {
-    const int block = layoutOf(file.modelIndex).parameters;
+    const int block = format::layoutOf(file.modelIndex).parameters;
     const Parameters& p = photograph.parameters;
     mustHold(p.maximum10 == stored<qint16>(file, block + 1) &&
                  p.minimum10 == stored<qint16>(file, block + 3) &&
@@ -174,7 +169,7 @@ const Photograph* photographOf(const PhotographFile& file)
     static Photograph photograph;
     photograph = untouched;
     const bool read = analysis::read(file.bytes, file.size, file.modelIndex, photograph);
-    const auto machineId = stored<quint32>(file, layoutOf(file.modelIndex).parameters + 10);
+    const auto machineId = stored<quint32>(file, format::layoutOf(file.modelIndex).parameters + 10);
     mustHold(read == isKnown(machineId), "known imagers are read, others are not");
     mustHold(photograph.parameters.machineId == machineId, "the machine ID is what stands there");
     mustBePicture(photograph, file);
@@ -193,11 +188,11 @@ void readStrictly(const PhotographFile& file)
     static PhotographReader reader;
     const QString path = fuzz::putInMemory(file);
     const auto holds = [&file](int modelIndex) {
-        return file.size >= layoutOf(modelIndex).parameters + 26;
+        return file.size >= format::layoutOf(modelIndex).parameters + 26;
     };
     const auto knows = [&file, holds](int modelIndex) {
         return holds(modelIndex) &&
-               isKnown(stored<quint32>(file, layoutOf(modelIndex).parameters + 10));
+               isKnown(stored<quint32>(file, format::layoutOf(modelIndex).parameters + 10));
     };
     const bool told = file.modelIndex == 0 || file.modelIndex == 1;
     const std::optional<int> modelIndex = told ? std::optional<int>(file.modelIndex) : std::nullopt;

@@ -76,7 +76,7 @@ void fill(const QByteArray& piece, int fileSize)
 PhotographFile takePhotograph(Input& input)
 {
     const int modelIndex = modelOf(input.byte());
-    const format::Layout& layout = modelIndex == 1 ? format::modelOne : format::modelZero;
+    const format::Layout& layout = format::layoutOf(modelIndex);
     const int sizeChoice = input.byte();
     const int low = input.number<quint16>();
     const int size = sizeOf(layout, sizeChoice, low + input.byte() * 65536);
