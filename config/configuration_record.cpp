@@ -112,4 +112,12 @@ void replaceAlarmFolder(const QString& folder)
     rewrite(joined(record));
 }
 
+QString usedFolder(const QString& alarmFolder)
+{
+    QString folder = alarmFolder;
+    if (QDir::separator() == QLatin1Char('/'))
+        folder.replace(QLatin1Char('\\'), QLatin1Char('/'));
+    return folder;
+}
+
 } // namespace config

@@ -47,4 +47,10 @@ QString replaceLanguage(const QString& language);
 /// Rewrites the record with another alarm folder. Nothing is written when the file does not exist.
 void replaceAlarmFolder(const QString& folder);
 
+/// Where an alarm folder is on this disk. A folder that was chosen in the settings is kept with
+/// back-slashes on every system; where folders are separated by "/", these are no separators and
+/// become some. Whoever reads or writes in the folder goes through this; shown and stored is the
+/// text as it stands.
+QString usedFolder(const QString& alarmFolder);
+
 } // namespace config

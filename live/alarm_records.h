@@ -11,18 +11,21 @@
 ///     "L2.JPG", "L3.JPG", oldest first, and
 ///   * the file NAME + ".ini": one line of UTF-8 without a line end, "36.2,34.0,0.97": maximum
 ///     temperature, alarm threshold, emissivity. Despite its name it is not an INI file.
-/// NAME is the local time as "yyyyMMddhhmmss"; a second record of the same second is NAME-2, and so
-/// on.
+/// NAME is the local time as "yyyyMMddhhmmss", in Latin digits; a second record of the same second
+/// is NAME-2, and so on. A record is made in the hidden folder ".making" and gets its name when it
+/// is made.
 ///
-/// Nothing is reported; what cannot be read is empty. Any thread, one at a time per folder.
+/// Others may have put anything there: only regular files, and links to them, are opened, and no
+/// more of them than below. Nothing is reported; what cannot be read is empty. Any thread; several
+/// programs may write into one folder.
 namespace live {
 
 constexpr int recordPictures = 7; ///< pictures of one record
 
-/// Writes a record of exactly recordPictures pictures. The text goes last and only behind seven
+/// Writes a record of exactly recordPictures pictures. The text comes last and only with seven
 /// whole pictures: a record with read-outs is a whole record. Pictures that were saved before a
-/// disk filled up stay as evidence, without a text; a folder in which nothing could be saved is
-/// taken away again.
+/// disk filled up stay as evidence, without a text. What programs that were killed have left behind
+/// goes first.
 /// Returns the record's name; empty when the pictures are not seven, the history folder cannot be
 /// entered, or the record is not whole.
 QString writeRecord(const QString& historyFolder, const QDateTime& time,
@@ -40,10 +43,11 @@ struct RecordReadings
     QString emissivity;
 };
 
-/// The three parts of the last line of the record's text; missing parts are empty.
+/// The three parts of the last line in the first 4 KB of the record's text; missing parts are
+/// empty.
 RecordReadings recordReadings(const QString& historyFolder, const QString& name);
 
-/// The paths of the record's pictures (png, jpg, bmp in either case), sorted by name.
+/// The paths of the record's pictures (png, jpg, bmp in either case), sorted by name; the first 64.
 QStringList recordPicturePaths(const QString& historyFolder, const QString& name);
 
 } // namespace live

@@ -2,25 +2,24 @@
 
 #include "config/configuration_record.h"
 #include "dialogs/dialogs.h"
-#include "files/picture_file.h"
+#include "files/paths.h"
 #include "live/alarm_records.h"
 #include "live/imager_camera.h"
 #include "live/qt_camera_capture.h"
+#include "live/saved_picture.h"
 
 #include "ui_camer_window.h"
 
-#include <QBuffer>
 #include <QCamera>
 #include <QCameraInfo>
-#include <QDateTime>
 #include <QDebug>
+#include <QDir>
 #include <QFileDialog>
-#include <QFileInfo>
 #include <QKeyEvent>
 #include <QMediaPlayer>
 #include <QMouseEvent>
 #include <QNetworkRequest>
-#include <QSaveFile>
+#include <QTabBar>
 #include <QTimer>
 #include <QUrl>
 
@@ -47,60 +46,17 @@ const QString wideTabStyle =
                    "QTabBar::tab:!selected {background-color: #929697;}"
                    "QTabBar::tab:selected {background-color:#303030;}");
 
-QIcon folderIcon(const QPixmap& folder, const QSize& size)
-{
-    return folder.isNull()
-               ? QIcon()
-               : QIcon(folder.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
-}
+/// In every language: a line below the title. With the padding it is as high as no line.
+const QString focusedTabStyle =
+    QStringLiteral("QTabBar::tab:focus{border-bottom: 2px solid rgb(85, 170, 255);"
+                   "padding-bottom: 3px;}");
 
-void configureList(QListWidget* list)
+/// The dialog takes a name that begins with a colon for a whole path.
+QString chosenPath(const QFileDialog& dialog)
 {
-    list->setDragEnabled(false);
-    list->setMovement(QListView::Static);
-    list->setResizeMode(QListView::Adjust);
-}
-
-/// Makes the list show `names` with the fewest changes, so that what the user has selected stays
-/// selected and nothing jumps when a record comes in.
-void showNames(QListWidget* list, const QStringList& names, const QSet<QString>& known,
-               const QIcon& icon)
-{
-    int row = 0;
-    for (const QString& name : names) {
-        while (row < list->count() && !known.contains(list->item(row)->text()))
-            delete list->takeItem(row);
-        if (row == list->count() || list->item(row)->text() != name)
-            list->insertItem(row, new QListWidgetItem(icon, name));
-        ++row;
-    }
-    while (list->count() > row)
-        delete list->takeItem(row);
-}
-
-void showScaled(QLabel* label, const QPixmap& picture)
-{
-    if (picture.isNull() || label->size().isEmpty())
-        label->clear();
-    else
-        label->setPixmap(
-            picture.scaled(label->size(), Qt::KeepAspectRatio, Qt::SmoothTransformation));
-}
-
-/// The bytes of a picture file; empty when there is no such format.
-QByteArray encoded(const QPixmap& picture, const QByteArray& format)
-{
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    return picture.save(&buffer, format.constData()) ? bytes : QByteArray();
-}
-
-/// Leaves the whole file, or what was there before.
-void writeWhole(const QString& path, const QByteArray& bytes)
-{
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size())
-        file.commit();
+    const QString chosen = dialog.selectedFiles().value(0);
+    return chosen.startsWith(QLatin1Char(':')) ? files::pathIn(dialog.directory().path(), chosen)
+                                               : chosen;
 }
 
 } // namespace
@@ -117,6 +73,7 @@ camer_window::camer_window(QWidget* parent)
     ui->pushButton_2->setIcon(QIcon(QStringLiteral(":/photo/stop.png")));
 
     readConfiguration();
+    ui->tabWidget->tabBar()->setStyleSheet(focusedTabStyle);
 
     warnTimer = std::make_unique<QTimer>();
     connect(warnTimer.get(), &QTimer::timeout, this, &camer_window::timeout_warn);
@@ -137,19 +94,10 @@ camer_window::camer_window(QWidget* parent)
     connect(healthTimer.get(), &QTimer::timeout, this, &camer_window::timeout_connect);
     healthTimer->start(healthInterval);
 
-    for (QListWidget* list : {ui->listWidget, ui->listWidget_2, ui->listWidget_3})
-        configureList(list);
-    ui->listWidget->setUniformItemSizes(true);
-    ui->listWidget->setIconSize({20, 20});
-    ui->listWidget_2->setUniformItemSizes(true);
-    ui->listWidget_2->setIconSize({30, 30});
-    ui->listWidget_3->setViewMode(QListView::IconMode);
-    ui->listWidget_3->setIconSize({70, 70});
-    ui->listWidget_3->setSpacing(30);
-    const QPixmap folder(QStringLiteral("://photo/folder.png"));
-    m_smallFolder = folderIcon(folder, ui->listWidget->iconSize());
-    m_largeFolder = folderIcon(folder, ui->listWidget_2->iconSize());
-    refreshHistory();
+    m_history = std::make_unique<live::AlarmHistory>(
+        *this, live::AlarmHistory::View{ui->listWidget, ui->listWidget_2, ui->listWidget_3,
+                                        ui->label_18, ui->label_12, ui->label_14, ui->label_16});
+    m_history->refresh();
 }
 
 camer_window::~camer_window()
@@ -222,7 +170,7 @@ void camer_window::display_cap(QImage cap_image) // NOLINT(performance-unnecessa
     if (!ui)
         return;
     currentPixmap = QPixmap::fromImage(cap_image);
-    showScaled(ui->label_17, currentPixmap);
+    live::showScaled(*ui->label_17, currentPixmap);
     if (recentFrames.size() >= live::recordPictures)
         recentFrames.removeFirst();
     recentFrames.append(cap_image);
@@ -239,24 +187,19 @@ void camer_window::timeout_connect()
 
 void camer_window::on_pushButton_clicked()
 {
-    if (!ui || currentPixmap.isNull())
+    if (!ui)
         return;
-    const QPixmap picture =
-        currentPixmap.scaled(480, 640, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    const QImage picture = currentPixmap.toImage(); // of the press
     const dialogs::Waiting waiting(this);
-    QFileDialog dialog(this, tr("保存的文件"), historyFolder + QStringLiteral("/cap.png"),
+    QFileDialog dialog(this, tr("保存的文件"),
+                       config::usedFolder(historyFolder) + QStringLiteral("/cap.png"),
                        QStringLiteral("Items files(*.png)"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setDefaultSuffix(QStringLiteral("png"));
-    if (dialog.exec() != QDialog::Accepted)
-        return;
-    // The name is the user's; one whose suffix names no picture format gets a PNG all the same.
-    const QString name = dialog.selectedFiles().value(0);
-    QByteArray bytes = encoded(picture, QFileInfo(name).suffix().toLatin1());
-    if (bytes.isEmpty())
-        bytes = encoded(picture, "PNG");
-    writeWhole(name, bytes);
+    if (dialog.exec() == QDialog::Accepted && !picture.isNull())
+        live::savePicture(chosenPath(dialog),
+                          picture.scaled(480, 640, Qt::KeepAspectRatio, Qt::SmoothTransformation));
 }
 
 void camer_window::mouseDoubleClickEvent(QMouseEvent* event)
@@ -436,20 +379,13 @@ void camer_window::saveAlarmRecord()
         return;
     lastAlarmText = ui->label_6->text() + QLatin1Char(',') + ui->label_7->text() +
                     QLatin1Char(',') + ui->label_8->text();
-    const QString name =
-        live::writeRecord(historyFolder, QDateTime::currentDateTime(), recentFrames, lastAlarmText);
-    if (!name.isEmpty())
-        refreshHistory();
+    m_history->save(recentFrames, lastAlarmText);
 }
 
 void camer_window::refreshHistory()
 {
-    if (!ui)
-        return;
-    const QStringList names = live::recordNames(historyFolder);
-    const QSet<QString> known(names.begin(), names.end());
-    showNames(ui->listWidget, names, known, m_smallFolder);
-    showNames(ui->listWidget_2, names, known, m_largeFolder);
+    if (ui)
+        m_history->refresh();
 }
 
 void camer_window::on_listWidget_itemClicked(QListWidgetItem*) {}
@@ -468,49 +404,19 @@ void camer_window::on_listWidget_itemDoubleClicked(QListWidgetItem*)
 
 void camer_window::on_listWidget_2_itemClicked(QListWidgetItem* item)
 {
-    if (!ui || !item)
-        return;
-    const live::RecordReadings readings = live::recordReadings(historyFolder, item->text());
-    ui->label_12->setText(readings.maximum);
-    ui->label_14->setText(readings.threshold);
-    ui->label_16->setText(readings.emissivity);
-
-    historyPixmaps.clear();
-    ui->listWidget_3->clear();
-    for (const QString& path : live::recordPicturePaths(historyFolder, item->text())) {
-        const QPixmap picture = files::pictureInFile(path);
-        historyPixmaps.append(picture);
-        ui->listWidget_3->addItem(new QListWidgetItem(QIcon(picture), QFileInfo(path).fileName()));
-    }
-    ui->listWidget_3->setCurrentRow(0);
-    if (historyPixmaps.isEmpty())
-        on_listWidget_3_currentRowChanged(-1);
+    if (ui && item)
+        m_history->open(item->text());
 }
 
 void camer_window::on_listWidget_3_currentRowChanged(int currentRow)
 {
-    if (!ui)
-        return;
-    historyRow = currentRow;
-    showHistoryPicture(qMax(currentRow, 0));
-}
-
-void camer_window::showHistoryPicture(int row)
-{
-    const QPixmap picture = historyPixmaps.value(row);
-    const QSize size = ui->label_18->size();
-    if (picture.cacheKey() == m_shownKey && size == m_shownSize)
-        return;
-    m_shownKey = picture.cacheKey();
-    m_shownSize = size;
-    showScaled(ui->label_18, picture);
+    if (ui)
+        m_history->showPicture(currentRow);
 }
 
 void camer_window::paintEvent(QPaintEvent* event)
 {
     QWidget::paintEvent(event);
-    // The picture follows its label's size. Setting it while painting asks for another paint, so
-    // nothing is set that is shown already.
-    if (ui && historyRow != -1)
-        showHistoryPicture(historyRow);
+    if (ui)
+        m_history->fitPicture(); // it follows its label's size
 }

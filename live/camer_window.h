@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QIcon>
+#include "live/alarm_history.h"
+
 #include <QImage>
 #include <QList>
 #include <QPixmap>
@@ -30,7 +31,7 @@ class camer_window;
 ///
 /// GUI thread only. Device and file problems are not reported: the picture and the lists show what
 /// there is.
-class camer_window : public QWidget
+class camer_window : public QWidget, public live::HistoryState
 {
     Q_OBJECT
 
@@ -42,7 +43,7 @@ public:
 
     /// The folder with the alarm records. Another folder than before is listed at once.
     void setAlarmFolder(const QString& folder);
-    /// Brings both lists of records up to date with the disk. Selections stay where they can.
+    /// Brings both lists of records up to date with the disk.
     void refreshHistory();
     /// Makes `owner` hear of this page: fullscr(bool) reaches its slot fullscr(bool), dis() its
     /// slot Action_Disconnect(). Both must exist; the owner does not become the parent.
@@ -71,9 +72,6 @@ public:
     bool blinkPhase = false;        ///< which of the two blink styles comes next
     QList<QImage> recentFrames;     ///< the last seven pictures, oldest first
     QString lastAlarmText;          ///< text of the last alarm record
-    QList<QPixmap> historyPixmaps;  ///< pictures of the record being viewed, in list order
-    int historyRow = -1;            ///< row shown in "label_18", -1 for none
-    QString historyFolder;
     QString languageCode;
 
     // Each outlives those below it, which use it.
@@ -115,10 +113,6 @@ private:
     void stopEverything();
     void setReadoutStyle(const QString& style);
     void playAlarm();
-    void showHistoryPicture(int row);
 
-    QIcon m_smallFolder;   ///< 20 × 20, for the list beside the picture
-    QIcon m_largeFolder;   ///< 30 × 30, for the history
-    qint64 m_shownKey = 0; ///< what "label_18" shows: the picture's cache key …
-    QSize m_shownSize;     ///< … scaled to this size
+    std::unique_ptr<live::AlarmHistory> m_history;
 };

@@ -402,6 +402,18 @@
         <source>保存的文件</source>
         <translation>Save file</translation>
     </message>
+    <message>
+        <source>实时图像</source>
+        <translation>Live picture</translation>
+    </message>
+    <message>
+        <source>报警图像</source>
+        <translation>Alarm picture</translation>
+    </message>
+    <message>
+        <source>记录的图像</source>
+        <translation>Pictures of the record</translation>
+    </message>
 </context>
 <context>
     <name>photo_window</name>

@@ -398,6 +398,18 @@
         <source>保存的文件</source>
         <translation>파일 저장</translation>
     </message>
+    <message>
+        <source>实时图像</source>
+        <translation>실시간 이미지</translation>
+    </message>
+    <message>
+        <source>报警图像</source>
+        <translation>경보 이미지</translation>
+    </message>
+    <message>
+        <source>记录的图像</source>
+        <translation>기록의 이미지</translation>
+    </message>
 </context>
 <context>
     <name>photo_window</name>

@@ -406,6 +406,18 @@
         <source>保存的文件</source>
         <translation>Сохранить файл</translation>
     </message>
+    <message>
+        <source>实时图像</source>
+        <translation>Текущее изображение</translation>
+    </message>
+    <message>
+        <source>报警图像</source>
+        <translation>Изображение тревоги</translation>
+    </message>
+    <message>
+        <source>记录的图像</source>
+        <translation>Изображения записи</translation>
+    </message>
 </context>
 <context>
     <name>photo_window</name>

@@ -8,6 +8,9 @@
 #include <QListWidget>
 #include <QTabWidget>
 
+#include <chrono>
+#include <filesystem>
+
 using testing::Page;
 using testing::PaintCounter;
 
@@ -57,6 +60,8 @@ private slots:
     void listsRecordsInBothTabs();
     void refreshFollowsTheDisk();
     void refreshKeepsTheSelection();
+    void aNewRecordIsListedWithoutReadingTheFolder();
+    void whatOthersChangeComesWithTheNextRecord();
     void anotherFolder();
     void showsARecord();
     void picturesSortedByName();
@@ -140,6 +145,49 @@ void CamerWindowHistoryTest::refreshKeepsTheSelection()
     page->refreshHistory();
     QCOMPARE(list->count(), 31);
     QCOMPARE(list->currentItem()->text(), first);
+}
+
+void CamerWindowHistoryTest::aNewRecordIsListedWithoutReadingTheFolder()
+{
+    const Page page;
+    page.frames(7, 20);
+    page->saveAlarmRecord();
+    const QStringList one = page.rows("listWidget");
+    QCOMPARE(one.size(), 1);
+    // A folder that claims that nobody has touched it since.
+    const std::filesystem::path folder(m_folder.toStdString());
+    const auto time = std::filesystem::last_write_time(folder);
+    QVERIFY(QDir(m_folder).mkdir(first));
+    std::filesystem::last_write_time(folder, time);
+    page->saveAlarmRecord();
+    QStringList rows = page.rows("listWidget");
+    QCOMPARE(rows.size(), 2);
+    QCOMPARE(rows.first(), one.first());
+    QVERIFY(!rows.contains(first));
+    QCOMPARE(page.rows("listWidget_2"), rows);
+    QCOMPARE(page.get<QListWidget>("listWidget")->item(1)->icon().actualSize({100, 100}),
+             QSize(20, 20));
+    QCOMPARE(page.get<QListWidget>("listWidget_2")->item(1)->icon().actualSize({100, 100}),
+             QSize(30, 30));
+    page->refreshHistory();
+    QVERIFY(page.rows("listWidget").contains(first));
+}
+
+void CamerWindowHistoryTest::whatOthersChangeComesWithTheNextRecord()
+{
+    const Page page;
+    page.frames(7, 20);
+    page->saveAlarmRecord();
+    const QString gone = page.rows("listWidget").value(0);
+    QVERIFY(QDir(path(gone)).removeRecursively());
+    QVERIFY(QDir(m_folder).mkdir(first));
+    const std::filesystem::path folder(m_folder.toStdString());
+    std::filesystem::last_write_time(folder, std::filesystem::last_write_time(folder) +
+                                                 std::chrono::seconds(2));
+    page->saveAlarmRecord();
+    QCOMPARE(page.rows("listWidget").size(), 2);
+    QVERIFY(page.rows("listWidget").contains(first));
+    QVERIFY(!page.rows("listWidget").contains(gone));
 }
 
 void CamerWindowHistoryTest::anotherFolder()

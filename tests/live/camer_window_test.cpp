@@ -163,7 +163,8 @@ private slots:
     void saveDialogProposesAName();
     void cancelledSaveWritesNothing();
     void savesThePictureOfThePress();
-    void withoutPictureNothingIsAsked();
+    void withoutPictureNothingIsWritten();
+    void savedPictureIsScaledSmoothly();
     void pageMayGoWhileTheDialogIsOpen();
 
 private:
@@ -763,6 +764,12 @@ void CamerWindowTest::savesAPicture_data()
                               << "SHOT.PNG" << QByteArray("png");
     QTest::newRow("no picture format") << "joint v1.2"
                                        << "joint v1.2" << QByteArray("png");
+    QTest::newRow("a format nobody writes") << "a.gif"
+                                            << "a.gif.png" << QByteArray("png");
+    // On Windows there is no such name.
+    if (!testing::onWindows())
+        QTest::newRow("begins with a colon") << ":a.gif"
+                                             << ":a.gif.png" << QByteArray("png");
     QTest::newRow("Korean") << QStringLiteral("사진") << QStringLiteral("사진.png")
                             << QByteArray("png");
 }
@@ -824,12 +831,39 @@ void CamerWindowTest::savesThePictureOfThePress()
     QCOMPARE(page->currentPixmap.toImage().pixelColor(0, 0), QColor(220, 220, 220));
 }
 
-void CamerWindowTest::withoutPictureNothingIsAsked()
+void CamerWindowTest::withoutPictureNothingIsWritten()
 {
     const Page page;
+    const testing::LogRecorder log;
+    bool asked = false;
+    withFileDialog([&asked](QFileDialog* dialog) {
+        asked = true;
+        QVERIFY(QMetaObject::invokeMethod(dialog, "accept"));
+    });
     QTest::mouseClick(page.get<QPushButton>("pushButton"), Qt::LeftButton);
-    QVERIFY(!page->findChild<QFileDialog*>());
+    QVERIFY(asked);
     QVERIFY(QDir(m_folder).isEmpty());
+    QVERIFY(!log.contains(QStringLiteral("null")));
+}
+
+void CamerWindowTest::savedPictureIsScaledSmoothly()
+{
+    const Page page;
+    QImage stripes(240, 320, QImage::Format_RGB888);
+    for (int y = 0; y < stripes.height(); ++y)
+        for (int x = 0; x < stripes.width(); ++x)
+            stripes.setPixelColor(x, y, x % 2 == 0 ? Qt::black : Qt::white);
+    page->display_cap(stripes);
+    answerFileDialog(QStringLiteral("cap.png"));
+    QTest::mouseClick(page.get<QPushButton>("pushButton"), Qt::LeftButton);
+    const QImage saved(m_folder + QStringLiteral("/cap.png"));
+    QCOMPARE(saved.size(), QSize(480, 640));
+    int between = 0;
+    for (int x = 0; x < saved.width(); ++x) {
+        const int gray = saved.pixelColor(x, 320).red();
+        between += gray > 30 && gray < 225;
+    }
+    QVERIFY(between > saved.width() / 4);
 }
 
 void CamerWindowTest::pageMayGoWhileTheDialogIsOpen()

@@ -1,0 +1,52 @@
+#include "live/saved_picture.h"
+
+#include "files/whole_file.h"
+
+#include <QBuffer>
+#include <QFileInfo>
+#include <QMimeDatabase>
+
+namespace live {
+namespace {
+
+/// The bytes of a picture file; empty when there is no such format.
+QByteArray encoded(const QImage& picture, const QByteArray& format)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    return picture.save(&buffer, format.constData()) ? bytes : QByteArray();
+}
+
+bool namesPictureFormat(const QString& path)
+{
+    return QMimeDatabase()
+        .mimeTypeForFile(path, QMimeDatabase::MatchExtension)
+        .name()
+        .startsWith(QLatin1String("image/"));
+}
+
+QString freePngName(const QString& path)
+{
+    QString name = path + QStringLiteral(".png");
+    for (int number = 2; QFileInfo::exists(name); ++number)
+        name = path + QLatin1Char('-') + QString::number(number) + QStringLiteral(".png");
+    return name;
+}
+
+} // namespace
+
+QString savePicture(const QString& path, const QImage& picture)
+{
+    QString name = path;
+    QByteArray bytes = encoded(picture, QFileInfo(path).suffix().toLatin1());
+    if (bytes.isEmpty()) {
+        bytes = encoded(picture, "PNG");
+        if (namesPictureFormat(path))
+            name = freePngName(path);
+    }
+    if (bytes.isEmpty())
+        return {};
+    return files::writeWholeFile(name, bytes, files::Existing::Replace).isGood() ? name : QString();
+}
+
+} // namespace live
