@@ -22,17 +22,9 @@
 #include <QUrl>
 
 using namespace analysis;
+using overlay::ToolMode;
 
 namespace {
-
-enum Tool
-{
-    cursorTool = 1,
-    pointTool,
-    lineTool,
-    rectTool,
-    ellipseTool
-};
 
 const QString loadTag = QStringLiteral("---------Anlyxix-set_Image_addr");
 
@@ -89,9 +81,8 @@ void Analysis_Widget::prepareTables()
     tools->setSelectionBehavior(QAbstractItemView::SelectRows);
     tools->setColumnWidth(0, 50);
     int kindWidth = 70;
-    for (const ToolKind kind :
-         {ToolKind::Point, ToolKind::Line, ToolKind::Rect, ToolKind::Circle}) {
-        const QString text = toolCells({{}, kind, {}, {}, {}})[1];
+    for (const overlay::KindRow& row : overlay::toolKinds) {
+        const QString text = kindCaption(row.kind);
         kindWidth = std::max(kindWidth, tools->fontMetrics().horizontalAdvance(text) + 12);
     }
     tools->setColumnWidth(1, kindWidth);
@@ -126,9 +117,7 @@ bool Analysis_Widget::set_Image_addr(const QString& imagePath, int modelIndex)
     if (!supported)
         return false;
 
-    ui->label->markerA = photograph.markerA;
-    ui->label->markerB = photograph.markerB;
-    ui->label->markerC = photograph.markerC;
+    static_cast<overlay::Spots&>(*ui->label) = photograph;
     if (format::layoutOf(modelIndex).hasFirmware)
         qDebug().noquote() << QStringLiteral("版本号:") << parameters.firmware10 / 10.0;
     qDebug().noquote() << QStringLiteral("中心灰度:")
@@ -219,10 +208,7 @@ void Analysis_Widget::updat_XY_Temp(int x, int y)
 
 void Analysis_Widget::updat_Tool_Temp()
 {
-    const MyLabel& label = *ui->label;
-    const std::vector<ToolRow> rows =
-        toolRows({label.pointList, label.lineList, label.rectList, label.circleList},
-                 photograph.temperatures, conversion);
+    const std::vector<ToolRow> rows = toolRows(*ui->label, photograph.temperatures, conversion);
 
     QTableWidget& table = *ui->tableWidget;
     table.setRowCount(0);
@@ -248,10 +234,10 @@ void Analysis_Widget::on_comboBox_currentIndexChanged(int index)
     showScale();
 }
 
-void Analysis_Widget::selectTool(int tool)
+void Analysis_Widget::selectTool(overlay::ToolMode mode)
 {
-    currentTool = tool;
-    ui->label->setToolMode(tool);
+    currentTool = int(mode);
+    ui->label->setToolMode(currentTool);
 }
 
 void Analysis_Widget::setFocus(int bt_focus)
@@ -265,23 +251,23 @@ void Analysis_Widget::setFocus(int bt_focus)
         break;
     case 1:
         focus(ui->pushButton_9);
-        selectTool(cursorTool);
+        selectTool(ToolMode::Select);
         break;
     case 2:
         focus(ui->pushButton_8);
-        selectTool(pointTool);
+        selectTool(ToolMode::Point);
         break;
     case 3:
         focus(ui->pushButton_7);
-        selectTool(lineTool);
+        selectTool(ToolMode::Line);
         break;
     case 4:
         focus(ui->pushButton_6);
-        selectTool(rectTool);
+        selectTool(ToolMode::Rect);
         break;
     case 5:
         focus(ui->pushButton_5);
-        selectTool(ellipseTool);
+        selectTool(ToolMode::Circle);
         break;
     case 6:
         focus(ui->pushButton_4);
@@ -311,28 +297,28 @@ void Analysis_Widget::Set_Select(int row)
 
 void Analysis_Widget::on_pushButton_9_clicked()
 {
-    selectTool(cursorTool);
+    selectTool(ToolMode::Select);
     ui->pushButton_9->setFocus(Qt::OtherFocusReason);
 }
 
 void Analysis_Widget::on_pushButton_8_clicked()
 {
-    selectTool(pointTool);
+    selectTool(ToolMode::Point);
 }
 
 void Analysis_Widget::on_pushButton_7_clicked()
 {
-    selectTool(lineTool);
+    selectTool(ToolMode::Line);
 }
 
 void Analysis_Widget::on_pushButton_6_clicked()
 {
-    selectTool(rectTool);
+    selectTool(ToolMode::Rect);
 }
 
 void Analysis_Widget::on_pushButton_5_clicked()
 {
-    selectTool(ellipseTool);
+    selectTool(ToolMode::Circle);
 }
 
 void Analysis_Widget::on_pushButton_4_clicked()
@@ -358,19 +344,8 @@ void Analysis_Widget::on_pushButton_4_clicked()
 /// the label must be placed.
 int Analysis_Widget::rowOfSelection() const
 {
-    const MyLabel& label = *ui->label;
-    int row = 0;
-    int selected = -1;
-    const auto count = [&](const QString& type, int tools) {
-        if (label.currentType == type && label.selectedIndex < tools)
-            selected = row + label.selectedIndex;
-        row += tools;
-    };
-    count(QStringLiteral("P"), label.pointList.size());
-    count(QStringLiteral("L"), label.lineList.size());
-    count(QStringLiteral("R"), label.rectList.size());
-    count(QStringLiteral("C"), label.circleList.size());
-    return selected >= 0 ? selected : row;
+    const int place = overlay::selectedPlace(*ui->label);
+    return place >= 0 ? place : overlay::countOf(*ui->label);
 }
 
 /// The label says nothing of a deletion. Its selection stays where it is, on the tool that moved
@@ -417,7 +392,7 @@ Report Analysis_Widget::report()
     for (int row = 0; row < informationRows; ++row)
         report.information[std::size_t(row)] = ui->tableWidget_2->item(row, 1)->text();
     report.picture = falseColourImage;
-    report.overlay = reportOverlay(*ui->label, falseColourImage.size());
+    report.overlay = reportOverlay(*ui->label, *ui->label, falseColourImage.size());
     report.colourStrip = colourStrip.toImage();
     report.maximum10 = photograph.parameters.maximum10;
     report.minimum10 = photograph.parameters.minimum10;

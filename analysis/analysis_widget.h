@@ -3,6 +3,7 @@
 #include "analysis/file_buffer.h"
 #include "analysis/photograph.h"
 #include "analysis/units.h"
+#include "overlay/tools.h"
 
 #include <QImage>
 #include <QPixmap>
@@ -46,7 +47,7 @@ public:
     bool set_Image_addr(const QString& imagePath, int modelIndex);
 
     int displayUnitState = -1; ///< 0 since the first load; steers the unit conversion
-    int currentTool = 0;       ///< 0 none yet, 1 cursor, 2 point, 3 line, 4 rectangle, 5 ellipse
+    int currentTool = 0;       ///< an overlay::ToolMode, 0 for none yet
     int selectedRow = 0;       ///< what Set_Select was given last
     QString path;
     QString fileName;
@@ -89,7 +90,7 @@ protected:
 
 private:
     void prepareTables();
-    void selectTool(int tool);
+    void selectTool(overlay::ToolMode mode);
     int rowOfSelection() const;
     void takePalette();
     void fillInformation();

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "analysis/photograph_format.h"
-#include "overlay/tool_records.h"
+#include "overlay/spots.h"
 
 #include <QtGlobal>
 
@@ -60,15 +60,13 @@ struct Parameters
 };
 
 /// One photograph, about 385 KB. Reading replaces its parts one after another in the order of the
-/// members; reading stops at a photograph of another make, and the parts behind stay as they were.
-struct Photograph
+/// members, the spots after the parameters; reading stops at a photograph of another make, and the
+/// parts behind stay as they were. The reticle is zero-based, unlike in the file.
+struct Photograph : overlay::Spots
 {
     std::array<uchar, format::grayBytes> gray{}; ///< 320 rows of 240 pixels
     Palette palette{};                           ///< file order
     Parameters parameters;
-    overlay::Marker markerA; ///< as the measurement label takes them
-    overlay::Marker markerB;
-    overlay::Marker markerC; ///< zero-based, unlike in the file
     Temperatures temperatures{};
     double mean = 0; ///< of all temperatures
 };

@@ -1,13 +1,14 @@
 #include "analysis/photograph_report.h"
 
 #include "analysis/false_colour.h"
+#include "analysis/report_overlay.h"
 
 #include <QFileInfo>
 
 namespace analysis {
 
 Report photographReport(const QString& path, const PhotographReader& reader, UnitChoice unit,
-                        const ToolLists& tools, const QImage& overlay, const QString& language)
+                        const overlay::Tools& tools, const QString& language)
 {
     const Photograph& photograph = reader.photograph();
     const Parameters& parameters = photograph.parameters;
@@ -18,7 +19,7 @@ Report photographReport(const QString& path, const PhotographReader& reader, Uni
         informationTexts(file.fileName(), createdText(file), reader.readCount(), parameters,
                          photograph.mean, shown.index, shown.conversion);
     report.picture = falseColourPicture(photograph, 0, format::paletteEntries - 1);
-    report.overlay = overlay;
+    report.overlay = reportOverlay(tools, photograph, report.picture.size());
     report.colourStrip = colourStrip(photograph.palette);
     report.maximum10 = parameters.maximum10;
     report.minimum10 = parameters.minimum10;

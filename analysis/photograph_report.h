@@ -8,9 +8,8 @@ namespace analysis {
 
 /// The report of a photograph that no window shows: as the save button of a window would write it
 /// that has just opened the photograph and was switched to `unit`, the colour bar untouched.
-/// `overlay` are the drawn tools, as reportOverlay() gives them. `language` is the code of the
-/// installed translators.
+/// `language` is the code of the installed translators.
 Report photographReport(const QString& path, const PhotographReader& reader, UnitChoice unit,
-                        const ToolLists& tools, const QImage& overlay, const QString& language);
+                        const overlay::Tools& tools, const QString& language);
 
 } // namespace analysis

@@ -29,8 +29,8 @@ ExportOptions exportOptions(const SelectionOrder& order)
 
 } // namespace
 
-SelectionExport::SelectionExport(SelectionOrder order, OverlayPainter overlay)
-    : m_order(std::move(order)), m_overlay(std::move(overlay)), m_exporter(exportOptions(m_order))
+SelectionExport::SelectionExport(SelectionOrder order)
+    : m_order(std::move(order)), m_exporter(exportOptions(m_order))
 {
 }
 
@@ -74,9 +74,8 @@ Outcome SelectionExport::writeReport(const QString& path, const QString& target)
     const Outcome reading = m_reader.read(path, layoutOf(m_order));
     if (!reading.isGood())
         return reading;
-    const ToolLists noTools{{}, {}, {}, {}};
-    const Report report = photographReport(path, m_reader, UnitChoice::AsStored, noTools,
-                                           m_overlay(m_reader.photograph()), m_order.language);
+    const Report report =
+        photographReport(path, m_reader, UnitChoice::AsStored, {}, m_order.language);
     return writeWholeFile(target, reportPdf(report), Existing::Refuse);
 }
 

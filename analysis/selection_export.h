@@ -6,7 +6,6 @@
 #include <QImage>
 #include <QStringList>
 
-#include <functional>
 #include <vector>
 
 namespace analysis {
@@ -48,10 +47,7 @@ struct SelectionFailure
 class SelectionExport
 {
 public:
-    /// Draws the markers of a photograph for its report; see reportOverlay().
-    using OverlayPainter = std::function<QImage(const Photograph&)>;
-
-    SelectionExport(SelectionOrder order, OverlayPainter overlay);
+    explicit SelectionExport(SelectionOrder order);
 
     /// Deals with the next photograph, or with a piece of it where it is copied; there must be one.
     /// Takes up to a tenth of a second.
@@ -70,7 +66,6 @@ private:
     files::Outcome writeReport(const QString& path, const QString& target);
 
     const SelectionOrder m_order;
-    const OverlayPainter m_overlay;
     PhotographExporter m_exporter;
     PhotographReader m_reader;             ///< of reports
     std::optional<files::FileCopy> m_copy; ///< while one is being made

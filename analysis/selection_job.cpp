@@ -1,7 +1,5 @@
 #include "analysis/selection_job.h"
 
-#include "analysis/photograph_format.h"
-#include "analysis/report_overlay.h"
 #include "dialogs/dialogs.h"
 
 #include <QDir>
@@ -9,7 +7,6 @@
 #include <QMessageBox>
 #include <QProgressBar>
 
-using analysis::Photograph;
 using analysis::SelectionFailure;
 using files::Outcome;
 using files::Problem;
@@ -22,23 +19,11 @@ constexpr int nameWidth = 400;
 /// So many failures stand in the message itself; more fill its details.
 constexpr int shownFailures = 8;
 
-QImage overlayOf(MyLabel& label, const Photograph& photograph)
-{
-    label.markerA = photograph.markerA;
-    label.markerB = photograph.markerB;
-    label.markerC = photograph.markerC;
-    return analysis::reportOverlay(label, {analysis::format::columns, analysis::format::rows});
-}
-
 } // namespace
 
 SelectionJob::SelectionJob(const analysis::SelectionOrder& order, QWidget* window)
-    : QProgressDialog(window),
-      m_export(order,
-               [this](const Photograph& photograph) { return overlayOf(m_markers, photograph); }),
-      m_name(new QLabel), m_bar(new QProgressBar)
+    : QProgressDialog(window), m_export(order), m_name(new QLabel), m_bar(new QProgressBar)
 {
-    m_markers.resize(620, 800); // any will do; a report has a size of its own
     m_name->setTextFormat(Qt::PlainText);
     m_name->setMinimumWidth(nameWidth);
     setLabel(m_name);

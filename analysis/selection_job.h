@@ -1,7 +1,6 @@
 #pragma once
 
 #include "analysis/selection_export.h"
-#include "overlay/my_label.h"
 
 #include <QProgressDialog>
 #include <QTimer>
@@ -29,7 +28,6 @@ private:
     QString summary() const;
     QStringList failureTexts() const;
 
-    MyLabel m_markers; ///< never shown: draws the markers of the reports
     analysis::SelectionExport m_export;
     QLabel* m_name;      ///< a child
     QProgressBar* m_bar; ///< a child

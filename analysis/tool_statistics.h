@@ -2,38 +2,20 @@
 
 #include "analysis/photograph.h"
 #include "analysis/units.h"
-#include "overlay/tool_records.h"
+#include "overlay/tools.h"
 
 #include <QString>
-#include <QVector>
 
 #include <array>
 #include <vector>
 
 namespace analysis {
 
-enum class ToolKind
-{
-    Point,
-    Line,
-    Rect,
-    Circle
-};
-
-/// The tools on a picture as the measurement label keeps them, one list for each kind.
-struct ToolLists
-{
-    const QVector<overlay::PointTool>& points;
-    const QVector<overlay::LineTool>& lines;
-    const QVector<overlay::RectTool>& rects;
-    const QVector<overlay::CircleTool>& circles;
-};
-
 /// One row of the tool table.
 struct ToolRow
 {
     QString name;
-    ToolKind kind;
+    overlay::ToolKind kind;
     QString high;
     QString low;
     QString average;
@@ -54,21 +36,20 @@ struct AreaStatistics
 };
 
 /// Measures lines, rectangles and circles, in this order and in that of their lists; unplaced tools
-/// (first coordinate negative) are left out. Pixels outside the picture do not count.
-///
-/// A line covers what lies less than two whole pixels from it within the box of its two ends; a
-/// line whose ends coincide has no direction and covers nothing. A rectangle includes its corners,
-/// given in any order. A circle covers what lies no more than `radius` whole pixels from its
-/// centre. Distances are truncated to whole pixels.
-std::vector<AreaStatistics> measureAreas(const ToolLists& tools, const Temperatures& temperatures);
+/// (first coordinate negative) are left out. Which pixels a tool covers is told by
+/// overlay::covers(); those outside the picture do not count.
+std::vector<AreaStatistics> measureAreas(const overlay::Tools& tools,
+                                         const Temperatures& temperatures);
 
 /// The whole tool table: placed points, lines, rectangles and circles, each in list order. A point
 /// outside the picture takes the nearest pixel inside.
-std::vector<ToolRow> toolRows(const ToolLists& tools, const Temperatures& temperatures,
+std::vector<ToolRow> toolRows(const overlay::Tools& tools, const Temperatures& temperatures,
                               Conversion conversion);
 
-/// The row's texts: name, type, high, low, average. The type is translated in the context of the
-/// analysis window.
+/// The kind as the table calls it, translated in the context of the analysis window.
+QString kindCaption(overlay::ToolKind kind);
+
+/// The row's texts: name, type, high, low, average.
 using ToolCells = std::array<QString, 5>;
 ToolCells toolCells(const ToolRow& row);
 

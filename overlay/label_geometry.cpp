@@ -1,7 +1,5 @@
 #include "overlay/label_geometry.h"
 
-#include "overlay/tool_records.h"
-
 #include <algorithm>
 #include <cstdint>
 #include <limits>

@@ -11,6 +11,10 @@
 /// lies. They are relied upon; do not even them out.
 namespace overlay {
 
+/// The thermal frame, whatever size it is shown at.
+constexpr int imageColumns = 240;
+constexpr int imageRows = 320;
+
 /// What the conversions need to know, in widget pixels.
 struct Geometry
 {

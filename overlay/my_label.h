@@ -1,16 +1,15 @@
 #pragma once
 
 #include "overlay/label_geometry.h"
-#include "overlay/tool_records.h"
+#include "overlay/spots.h"
+#include "overlay/tool_editing.h"
+#include "overlay/tool_painting.h"
 
 #include <QColor>
 #include <QLabel>
 #include <QPixmap>
 #include <QPoint>
 #include <QPointer>
-#include <QVector>
-
-#include <memory>
 
 /// The picture of the analysis window, with the measurement tools drawn and edited on it.
 ///
@@ -20,6 +19,10 @@
 /// are in image coordinates (240 × 320, see label_geometry.h), everything named press, mouse, label
 /// or image in the label's own pixels.
 ///
+/// What a hand does to the tools is in tool_editing.h, how they look in tool_painting.h; the label
+/// forwards its events, repaints and tells. It is the values that it shows, the tools, the spots of
+/// the photograph and the geometry of the last paint, and can be handed to whoever works on these.
+///
 /// The label paints its whole rectangle, so it is opaque: a host may set the pixmap in its own
 /// paintEvent, which then repaints the label alone. The size hints do not follow the pixmap,
 /// because the pixmap follows the size.
@@ -27,12 +30,13 @@
 /// The lists and the selection are read by the host, which may also set `currentType`,
 /// `selectedIndex`, `toolColor` and the markers; they take effect with the next paint.
 ///
-/// To draw the tools for a report at another size: set `frozenGeometry` and the four geometry
-/// values, render() the label into a pixmap of its own (or repaint() it, which shows the result for
-/// a moment, and does nothing while the label is hidden), take `overlay`, clear `frozenGeometry`,
-/// update(). While frozen, `overlay` has exactly labelWidth × labelHeight pixels, whatever the
-/// screen, and transparent margins.
-class MyLabel : public QLabel
+/// With `frozenGeometry` set, painting takes the four geometry values as they are, and `overlay`
+/// has exactly labelWidth × labelHeight pixels, whatever the screen, and transparent margins. Who
+/// only wants the picture asks overlay::paintedTools() for it.
+class MyLabel : public QLabel,
+                public overlay::ToolEditing,
+                public overlay::Spots,
+                public overlay::Geometry
 {
     Q_OBJECT
 
@@ -59,28 +63,11 @@ public:
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
-    int toolMode = 1;
-    QVector<overlay::PointTool> pointList; ///< in number order, as all four
-    QVector<overlay::LineTool> lineList;
-    QVector<overlay::RectTool> rectList;
-    QVector<overlay::CircleTool> circleList;
-    QString currentType = QStringLiteral("null"); ///< "P", "L", "R", "C", or "null" for none
-    int selectedIndex = -1;                       ///< within the list of `currentType`
-    overlay::Marker markerA; ///< the photograph's marked spots, shown as "L" and "H"
-    overlay::Marker markerB;
-    overlay::Marker markerC; ///< its reticle; not shown when x or y is 0
-    bool drawing = false;    ///< a new line, rectangle or circle is being dragged out
-    int newIndex = 0;        ///< where setToolMode() put the tool it made
     bool frozenGeometry = false;
     QPoint pressPos;
     QPoint mousePos;
     QPixmap overlay; ///< what the last paint drew over the picture
-    int labelWidth = 0;
-    int imageWidth = 0;
-    int labelHeight = 0;
-    int imageHeight = 0;
     QColor selectColor{0, 255, 0, 255};
-    QColor toolColor{255, 0, 0, 255};
 
 signals:
     void Point_XY(int px, int py); ///< image position under the mouse; 240 and 320 can occur
@@ -96,37 +83,12 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    struct Canvas;
-    struct Scene;
-    struct Layers;
-
     void refreshGeometry();
-    void toImage(int x, int y, int w, int h);
-    void toWidget(int x, int y, int w, int h);
-    void pruneUnplaced();
-    bool isSelected(QChar letter, int index) const;
-    void select(QChar letter, int index);
-    int overallSelection() const;
-    int activeTool() const;
+    overlay::Box toImage(const QPoint& position);
     void emitSelection();
-    void selectAt(const QPoint& position);
-    template<typename Tool, typename IsHit>
-    void selectHits(const QVector<Tool>& list, const QString& message, IsHit isHit);
-
     void drawOverlay();
-    void updateLayers(int active);
-    Canvas canvasOn(QPainter& painter);
-    void drawTools(const Canvas& canvas, int begin, int end);
-    void drawTool(const Canvas& canvas, const overlay::PointTool& point);
-    void drawTool(const Canvas& canvas, const overlay::LineTool& line);
-    void drawTool(const Canvas& canvas, const overlay::RectTool& rect);
-    void drawTool(const Canvas& canvas, const overlay::CircleTool& circle);
-    void drawSpot(const Canvas& canvas, const overlay::Marker& marker, const QColor& colour,
-                  const QString& letter);
-    void drawReticle(const Canvas& canvas);
-    void drawMargins(QPainter& painter) const;
 
     QPointer<QObject> m_owner;
     overlay::Box m_scratch; ///< the last result of either conversion
-    const std::unique_ptr<Layers> m_layers;
+    overlay::ToolLayers m_layers;
 };

@@ -1,5 +1,8 @@
 #include "overlay/tool_rules.h"
 
+#include "overlay/label_geometry.h"
+
+#include <algorithm>
 #include <cstdlib>
 
 namespace overlay {
@@ -18,38 +21,67 @@ bool strictlyBetween(int value, int end, int otherEnd)
     return std::min(end, otherEnd) < value && value < std::max(end, otherEnd);
 }
 
-} // namespace
-
-bool hits(const PointTool& point, int x, int y, int toleranceX, int toleranceY)
+template<typename Cornered>
+PixelBox boxOfCorners(const Cornered& tool)
 {
-    return std::abs(point.x - 2 - x) <= toleranceX / 2 &&
-           std::abs(point.y - 2 - y) <= toleranceY / 2;
+    return {std::min(tool.x1, tool.x2), std::max(tool.x1, tool.x2), std::min(tool.y1, tool.y2),
+            std::max(tool.y1, tool.y2)};
 }
 
-bool hits(const LineTool& line, int x, int y)
+template<typename Cornered>
+void placeBothEnds(Cornered& tool, int x, int y)
 {
-    if (!between(x, line.x1, line.x2) || !between(y, line.y1, line.y2))
+    tool.x1 = tool.x2 = x;
+    tool.y1 = tool.y2 = y;
+}
+
+template<typename Cornered>
+void dragEnd(Cornered& tool, int x, int y)
+{
+    tool.x2 = x;
+    tool.y2 = y;
+}
+
+} // namespace
+
+bool hits(const PointTool& point, const Press& press)
+{
+    return std::abs(point.x - 2 - press.x) <= press.toleranceX / 2 &&
+           std::abs(point.y - 2 - press.y) <= press.toleranceY / 2;
+}
+
+bool hits(const LineTool& line, const Press& press)
+{
+    if (!between(press.x, line.x1, line.x2) || !between(press.y, line.y1, line.y2))
         return false;
-    const std::optional<int> distance = truncatedDistance(line, x, y);
+    const std::optional<int> distance = truncatedDistance(line, press.x, press.y);
     return distance && *distance <= lineReach;
 }
 
-bool hits(const RectTool& rect, int x, int y)
+bool hits(const RectTool& rect, const Press& press)
 {
-    return strictlyBetween(x, rect.x1, rect.x2) && strictlyBetween(y, rect.y1, rect.y2);
+    return strictlyBetween(press.x, rect.x1, rect.x2) && strictlyBetween(press.y, rect.y1, rect.y2);
 }
 
-bool hits(const CircleTool& circle, int x, int y)
+bool hits(const CircleTool& circle, const Press& press)
 {
-    return circle.radius >= truncatedDistance(circle.cx, circle.cy, x, y);
+    return circle.radius >= truncatedDistance(circle.cx, circle.cy, press.x, press.y);
 }
 
-std::optional<int> draggedRadius(int cx, int cy, int x, int y)
+PixelBox boxOf(const LineTool& line)
 {
-    const int radius = truncatedDistance(cx, cy, x, y);
-    const bool fits =
-        cx + radius < imageColumns && cx - radius > 0 && cy + radius < imageRows && cy - radius > 0;
-    return fits ? std::optional<int>(radius) : std::nullopt;
+    return boxOfCorners(line);
+}
+
+PixelBox boxOf(const RectTool& rect)
+{
+    return boxOfCorners(rect);
+}
+
+PixelBox boxOf(const CircleTool& circle)
+{
+    return {circle.cx - circle.radius, circle.cx + circle.radius, circle.cy - circle.radius,
+            circle.cy + circle.radius};
 }
 
 bool isUnfinished(const PointTool& point)
@@ -72,18 +104,57 @@ bool isUnfinished(const CircleTool& circle)
     return !isPlaced(circle) || (circle.cx == circle.x2 && circle.cy == circle.y2);
 }
 
-int overallIndex(QChar letter, int index, const ToolCounts& counts)
+void place(PointTool& point, int x, int y)
 {
-    switch (letter.unicode()) {
-    case 'L':
-        return counts.points + index;
-    case 'R':
-        return counts.points + counts.lines + index;
-    case 'C':
-        return counts.points + counts.lines + counts.rects + index;
-    default:
-        return index;
+    point.x = x;
+    point.y = y;
+}
+
+void place(LineTool& line, int x, int y)
+{
+    placeBothEnds(line, x, y);
+}
+
+void place(RectTool& rect, int x, int y)
+{
+    placeBothEnds(rect, x, y);
+}
+
+void place(CircleTool& circle, int x, int y)
+{
+    circle.cx = circle.x2 = x;
+    circle.cy = circle.y2 = y;
+}
+
+void drag(PointTool& point, int x, int y)
+{
+    place(point, x, y);
+}
+
+void drag(LineTool& line, int x, int y)
+{
+    dragEnd(line, x, y);
+}
+
+void drag(RectTool& rect, int x, int y)
+{
+    dragEnd(rect, x, y);
+}
+
+void drag(CircleTool& circle, int x, int y)
+{
+    if (const std::optional<int> radius = draggedRadius(circle.cx, circle.cy, x, y)) {
+        dragEnd(circle, x, y);
+        circle.radius = *radius;
     }
+}
+
+std::optional<int> draggedRadius(int cx, int cy, int x, int y)
+{
+    const int radius = truncatedDistance(cx, cy, x, y);
+    const bool fits =
+        cx + radius < imageColumns && cx - radius > 0 && cy + radius < imageRows && cy - radius > 0;
+    return fits ? std::optional<int>(radius) : std::nullopt;
 }
 
 } // namespace overlay

@@ -1,17 +1,13 @@
 #pragma once
 
-#include "overlay/tool_records.h"
+#include "overlay/tools.h"
 
-#include <QVector>
-
-#include <algorithm>
 #include <cmath>
 #include <optional>
 
-/// The rules of the measurement tools: which are hit, what they are called, which go.
-///
-/// Everything here is arithmetic on image coordinates. Lists are in number order ("P0" before
-/// "P2"), and list indices count within one kind.
+/// The rules of the measurement tools, kind by kind: where they lie, what hits them, which pixels
+/// they measure, what a press and a drag make of them. Whoever needs one of these answers asks
+/// here. Everything is arithmetic on image coordinates.
 namespace overlay {
 
 // Distances
@@ -25,10 +21,8 @@ inline int truncatedDistance(int x1, int y1, int x2, int y2)
 }
 
 /// The truncated distance of (x, y) from the infinite line through the tool's ends, measured to the
-/// foot of the perpendicular with each of its coordinates truncated toward the start. A hit is at
-/// most 2 away, a pixel counts for the line's temperatures when it is less than 2 away; both look
-/// only inside the bounding box of the ends, which is the caller's to check. Nothing when the ends
-/// coincide: such a line has no direction.
+/// foot of the perpendicular with each of its coordinates truncated toward the start. Nothing when
+/// the ends coincide: such a line has no direction.
 inline std::optional<int> truncatedDistance(const LineTool& line, int x, int y)
 {
     const double dx = static_cast<double>(line.x2) - line.x1;
@@ -50,38 +44,60 @@ inline std::optional<int> truncatedDistance(const LineTool& line, int x, int y)
 constexpr int pointToleranceWidth = 12;
 constexpr int pointToleranceHeight = 16;
 
-/// `toleranceX` and `toleranceY` are in image pixels; half of each counts on either side. The box
-/// lies two pixels left of and above the point, where the hand expects the cross it sees.
-bool hits(const PointTool& point, int x, int y, int toleranceX, int toleranceY);
+/// A press on the picture, with the point's tolerance in image pixels; half of it counts on either
+/// side.
+struct Press
+{
+    int x;
+    int y;
+    int toleranceX = 0;
+    int toleranceY = 0;
+};
+
+/// Within the tolerance of a place two pixels left of and above the point, where the hand expects
+/// the cross it sees.
+bool hits(const PointTool& point, const Press& press);
 /// At most 2 pixels from the line and inside its bounding box, edges included.
-bool hits(const LineTool& line, int x, int y);
+bool hits(const LineTool& line, const Press& press);
 /// Strictly inside; the border itself is not a hit.
-bool hits(const RectTool& rect, int x, int y);
+bool hits(const RectTool& rect, const Press& press);
 /// Anywhere in the disc, by the truncated distance from the centre.
-bool hits(const CircleTool& circle, int x, int y);
+bool hits(const CircleTool& circle, const Press& press);
 
-/// The radius of a circle round (cx, cy) dragged to (x, y); nothing when it would leave the
-/// picture. It may touch the last column and row but not the first.
-std::optional<int> draggedRadius(int cx, int cy, int x, int y);
+// What is measured
 
-// Which tools there are
+/// A box of pixels, edges included; empty when a first is above its last.
+struct PixelBox
+{
+    int firstX;
+    int lastX;
+    int firstY;
+    int lastY;
+};
 
-constexpr QChar letterOf(const PointTool&)
+/// Outside its box a tool covers nothing. It may reach out of the picture.
+PixelBox boxOf(const LineTool& line);
+PixelBox boxOf(const RectTool& rect);
+PixelBox boxOf(const CircleTool& circle);
+
+/// Whether a pixel of the tool's box counts for its temperatures: less than two whole pixels from
+/// the line; anywhere in the rectangle; no more than `radius` whole pixels from the circle's
+/// centre.
+inline bool covers(const LineTool& line, int x, int y)
 {
-    return QLatin1Char('P');
+    const std::optional<int> distance = truncatedDistance(line, x, y);
+    return distance && *distance < 2;
 }
-constexpr QChar letterOf(const LineTool&)
+inline bool covers(const RectTool&, int, int)
 {
-    return QLatin1Char('L');
+    return true;
 }
-constexpr QChar letterOf(const RectTool&)
+inline bool covers(const CircleTool& circle, int x, int y)
 {
-    return QLatin1Char('R');
+    return truncatedDistance(circle.cx, circle.cy, x, y) <= circle.radius;
 }
-constexpr QChar letterOf(const CircleTool&)
-{
-    return QLatin1Char('C');
-}
+
+// What the mouse makes of a tool
 
 /// A tool is placed from its first press on. Only placed tools are painted and measured.
 constexpr bool isPlaced(const PointTool& point)
@@ -107,52 +123,20 @@ bool isUnfinished(const LineTool& line);
 bool isUnfinished(const RectTool& rect);
 bool isUnfinished(const CircleTool& circle);
 
-/// Removes the unfinished tools.
-template<typename Tool>
-void prune(QVector<Tool>& list)
-{
-    list.erase(std::remove_if(list.begin(), list.end(),
-                              [](const Tool& tool) { return isUnfinished(tool); }),
-               list.end());
-}
+/// Places a new tool, its end at its start.
+void place(PointTool& point, int x, int y);
+void place(LineTool& line, int x, int y);
+void place(RectTool& rect, int x, int y);
+void place(CircleTool& circle, int x, int y);
 
-/// The lowest number that no tool of the list, which is in number order, carries in its name.
-template<typename Tool>
-int lowestFreeNumber(const QVector<Tool>& list)
-{
-    int number = 0;
-    for (const Tool& tool : list) {
-        bool isNumber = false;
-        if (tool.name.midRef(1).toInt(&isNumber) == number && isNumber)
-            ++number;
-    }
-    return number;
-}
+/// A point moves, the others' end follows. A circle that would leave the picture stays as it is.
+void drag(PointTool& point, int x, int y);
+void drag(LineTool& line, int x, int y);
+void drag(RectTool& rect, int x, int y);
+void drag(CircleTool& circle, int x, int y);
 
-/// Makes an unplaced tool with the lowest free number and puts it where its number belongs. Returns
-/// its index.
-template<typename Tool>
-int insertNew(QVector<Tool>& list, const QColor& colour)
-{
-    const int number = lowestFreeNumber(list);
-    const int index = std::min(number, list.size());
-    Tool tool;
-    tool.name = letterOf(tool) + QString::number(number);
-    tool.colour = colour;
-    list.insert(index, tool);
-    return index;
-}
-
-/// How many tools there are of each kind.
-struct ToolCounts
-{
-    int points = 0;
-    int lines = 0;
-    int rects = 0;
-};
-
-/// The place of a tool among all tools: points first, then lines, rectangles and circles. `letter`
-/// is one of "PLRC"; any other answers `index`.
-int overallIndex(QChar letter, int index, const ToolCounts& counts);
+/// The radius of a circle round (cx, cy) dragged to (x, y); nothing when it would leave the
+/// picture. It may touch the last column and row but not the first.
+std::optional<int> draggedRadius(int cx, int cy, int x, int y);
 
 } // namespace overlay

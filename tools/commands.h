@@ -16,7 +16,7 @@ int measureCommand(const QStringList& arguments);
 /// Needs a drawingApplication().
 int reportCommand(const QStringList& arguments);
 
-/// The application object that can draw tools and texts, without a display.
+/// The application object that has fonts, without a display.
 std::unique_ptr<QCoreApplication> drawingApplication(int& argc, char** argv);
 
 } // namespace tools

@@ -1,4 +1,5 @@
 #include "analysis/photograph_reader.h"
+#include "analysis/tool_statistics.h"
 #include "tools/commands.h"
 #include "tools/measuring_options.h"
 #include "tools/messages.h"
@@ -9,7 +10,6 @@
 #include <QJsonObject>
 
 using analysis::PhotographReader;
-using analysis::ToolKind;
 using analysis::ToolRow;
 using analysis::UnitChoice;
 using files::Outcome;
@@ -25,19 +25,9 @@ struct Measured
     std::vector<ToolRow> rows;
 };
 
-QString nameOf(ToolKind kind)
+QString typeOf(const ToolRow& row)
 {
-    switch (kind) {
-    case ToolKind::Point:
-        return QStringLiteral("point");
-    case ToolKind::Line:
-        return QStringLiteral("line");
-    case ToolKind::Rect:
-        return QStringLiteral("rectangle");
-    case ToolKind::Circle:
-        return QStringLiteral("circle");
-    }
-    return {};
+    return QLatin1String(overlay::rowOf(row.kind).name);
 }
 
 QByteArray json(const Measured& measured)
@@ -45,7 +35,7 @@ QByteArray json(const Measured& measured)
     QJsonArray tools;
     for (const ToolRow& row : measured.rows)
         tools.append(QJsonObject{{QStringLiteral("name"), row.name},
-                                 {QStringLiteral("type"), nameOf(row.kind)},
+                                 {QStringLiteral("type"), typeOf(row)},
                                  {QStringLiteral("high"), row.high},
                                  {QStringLiteral("low"), row.low},
                                  {QStringLiteral("average"), row.average}});
@@ -73,7 +63,7 @@ QByteArray csv(const Measured& measured)
     const QString file = csvField(measured.file);
     QString lines;
     for (const ToolRow& row : measured.rows) {
-        const QStringList fields{file,     measured.unit, row.name,   nameOf(row.kind),
+        const QStringList fields{file,     measured.unit, row.name,   typeOf(row),
                                  row.high, row.low,       row.average};
         lines += fields.join(QLatin1Char(',')) + QLatin1Char('\n');
     }
@@ -95,7 +85,7 @@ QByteArray table(const Measured& measured)
     line(QStringLiteral("name"), QStringLiteral("type"), QStringLiteral("high"),
          QStringLiteral("low"), QStringLiteral("average"));
     for (const ToolRow& row : measured.rows)
-        line(row.name, nameOf(row.kind), row.high, row.low, row.average);
+        line(row.name, typeOf(row), row.high, row.low, row.average);
     return lines.toUtf8();
 }
 
@@ -125,7 +115,7 @@ int measureCommand(const QStringList& arguments)
                                            {{"csv", csv}, {"json", json}, {"table", table}});
     if (!line.isSet(QStringLiteral("tools")))
         line.refuse(QStringLiteral("--tools is missing"));
-    const ToolSet tools = readTools(line);
+    const overlay::Tools tools = readTools(line);
     if (!line.isGood())
         return line.status();
 
@@ -141,7 +131,7 @@ int measureCommand(const QStringList& arguments)
             const analysis::ShownUnit shown =
                 shownUnit(unit, photograph.parameters.unit, reader->isRaw());
             return {write({path, shown.letter(),
-                           toolRows(tools.lists(), photograph.temperatures, shown.conversion)}),
+                           toolRows(tools, photograph.temperatures, shown.conversion)}),
                     {}};
         };
     };

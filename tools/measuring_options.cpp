@@ -20,9 +20,9 @@ UnitChoice readUnit(CommandLine& line)
                                    {{"C", UnitChoice::Celsius}, {"F", UnitChoice::Fahrenheit}});
 }
 
-ToolSet readTools(CommandLine& line)
+overlay::Tools readTools(CommandLine& line)
 {
-    ToolSet tools;
+    overlay::Tools tools;
     const QString file = line.value(QStringLiteral("tools"));
     if (!line.isSet(QStringLiteral("tools")))
         return tools;

@@ -13,6 +13,6 @@ void addMeasuringOptions(CommandLine& line, const QString& toolsDescription);
 analysis::UnitChoice readUnit(CommandLine& line);
 
 /// No tools without --tools. A file that cannot be read or makes no sense is bad usage.
-ToolSet readTools(CommandLine& line);
+overlay::Tools readTools(CommandLine& line);
 
 } // namespace tools

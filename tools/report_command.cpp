@@ -1,8 +1,6 @@
 #include "analysis/photograph_report.h"
-#include "analysis/report_overlay.h"
 #include "config/configuration_record.h"
 #include "files/whole_file.h"
-#include "overlay/my_label.h"
 #include "platform/console.h"
 #include "resources/resources.h"
 #include "tools/commands.h"
@@ -11,10 +9,8 @@
 #include "tools/photograph_run.h"
 #include "tools/target_files.h"
 
-#include <QApplication>
+#include <QGuiApplication>
 #include <QTranslator>
-
-#include <thread>
 
 using analysis::PhotographReader;
 using analysis::UnitChoice;
@@ -24,39 +20,6 @@ using files::Problem;
 
 namespace tools {
 namespace {
-
-/// Draws tools and markers over photographs. A widget does that, so it lives in the application's
-/// thread and is asked from the others.
-class OverlayPainter
-{
-public:
-    explicit OverlayPainter(const ToolSet& tools)
-    {
-        m_label.pointList = tools.points;
-        m_label.lineList = tools.lines;
-        m_label.rectList = tools.rects;
-        m_label.circleList = tools.circles;
-        m_label.resize(620, 800); // any will do; a report has a size of its own
-    }
-
-    /// Any thread but the application's, which must be running its event loop.
-    QImage draw(const analysis::Photograph& photograph)
-    {
-        QImage overlay;
-        const auto drawHere = [&] {
-            m_label.markerA = photograph.markerA;
-            m_label.markerB = photograph.markerB;
-            m_label.markerC = photograph.markerC;
-            const QSize picture(analysis::format::columns, analysis::format::rows);
-            overlay = analysis::reportOverlay(m_label, picture);
-        };
-        QMetaObject::invokeMethod(&m_label, drawHere, Qt::BlockingQueuedConnection);
-        return overlay;
-    }
-
-private:
-    MyLabel m_label;
-};
 
 /// The language that the windows speak.
 QString configuredLanguage()
@@ -73,7 +36,7 @@ QString configuredLanguage()
 std::unique_ptr<QCoreApplication> drawingApplication(int& argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", platform::invisiblePlatform());
-    return std::make_unique<QApplication>(argc, argv);
+    return std::make_unique<QGuiApplication>(argc, argv);
 }
 
 int reportCommand(const QStringList& arguments)
@@ -103,7 +66,7 @@ int reportCommand(const QStringList& arguments)
                                                           {"KO", QStringLiteral("KO")}});
     if (!line.isSet(QStringLiteral("output")))
         line.refuse(QStringLiteral("--output is missing"));
-    const ToolSet tools = readTools(line);
+    const overlay::Tools tools = readTools(line);
     if (!line.isGood())
         return line.status();
 
@@ -117,7 +80,6 @@ int reportCommand(const QStringList& arguments)
     QTranslator translator;
     if (translator.load(QStringLiteral(":/Demo_%1.qm").arg(language)))
         QCoreApplication::installTranslator(&translator);
-    OverlayPainter painter(tools);
     photographs.makeWork = [&]() -> Work {
         const auto reader = std::make_shared<PhotographReader>();
         return [&, reader](int index) -> Result {
@@ -128,22 +90,11 @@ int reportCommand(const QStringList& arguments)
             const Outcome reading = reader->read(path, modelIndex);
             if (!reading.isGood())
                 return {{}, reason(reading)};
-            const QImage overlay = painter.draw(reader->photograph());
-            const analysis::Report report =
-                photographReport(path, *reader, unit, tools.lists(), overlay, language);
+            const analysis::Report report = photographReport(path, *reader, unit, tools, language);
             return {{}, targetReason(writeWholeFile(target, reportPdf(report), mode), target)};
         };
     };
-
-    // The application's thread draws; another one keeps the work going.
-    int status = status::good;
-    std::thread runner([&] {
-        status = run(photographs);
-        QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
-    });
-    QApplication::exec();
-    runner.join();
-    return status;
+    return run(photographs);
 }
 
 } // namespace tools

@@ -1,6 +1,6 @@
 #include "tools/tool_file.h"
 
-#include "overlay/tool_rules.h"
+#include "overlay/label_geometry.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -105,7 +105,7 @@ QString readKind(const QJsonObject& object, QLatin1String key, int count, QVecto
             return where + QStringLiteral("is not a list of %1 whole numbers").arg(count);
         Tool tool;
         place(tool, numbers);
-        tool.name = overlay::letterOf(tool) + QString::number(tools.size());
+        tool.name = QLatin1Char(overlay::rowOf(tool.kind).letter) + QString::number(tools.size());
         const QString wrong = wrongWith(tool);
         if (!wrong.isEmpty())
             return where + wrong;
@@ -114,7 +114,7 @@ QString readKind(const QJsonObject& object, QLatin1String key, int count, QVecto
     return {};
 }
 
-QString readTools(const QJsonObject& object, ToolSet& tools)
+QString readTools(const QJsonObject& object, overlay::Tools& tools)
 {
     for (const QString& key : object.keys()) {
         if (key != pointsKey && key != linesKey && key != rectanglesKey && key != circlesKey)
@@ -122,10 +122,10 @@ QString readTools(const QJsonObject& object, ToolSet& tools)
                                   "\"circles\"")
                 .arg(key);
     }
-    for (const QString& wrong :
-         {readKind(object, pointsKey, 2, tools.points), readKind(object, linesKey, 4, tools.lines),
-          readKind(object, rectanglesKey, 4, tools.rects),
-          readKind(object, circlesKey, 3, tools.circles)}) {
+    for (const QString& wrong : {readKind(object, pointsKey, 2, tools.pointList),
+                                 readKind(object, linesKey, 4, tools.lineList),
+                                 readKind(object, rectanglesKey, 4, tools.rectList),
+                                 readKind(object, circlesKey, 3, tools.circleList)}) {
         if (!wrong.isEmpty())
             return wrong;
     }
@@ -134,7 +134,7 @@ QString readTools(const QJsonObject& object, ToolSet& tools)
 
 } // namespace
 
-QString readToolFile(const QString& path, ToolSet& tools)
+QString readToolFile(const QString& path, overlay::Tools& tools)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))

@@ -123,7 +123,8 @@ void readAndMeasured(benchmark::State& state)
 {
     const QString files[] = {photographFile(0), photographFile(1)};
     const overlay::RectTool rect{QStringLiteral("R0"), 40, 50, 199, 249, {}};
-    const QVector<overlay::RectTool> rects{rect};
+    overlay::Tools tools;
+    tools.rectList = {rect};
     analysis::FileBuffer buffer;
     auto photograph = std::make_unique<analysis::Photograph>();
     int next = 0;
@@ -131,8 +132,7 @@ void readAndMeasured(benchmark::State& state)
         buffer.clear();
         const int count = buffer.read(files[next ^= 1]);
         analysis::read(buffer.bytes(), count, 0, *photograph);
-        benchmark::DoNotOptimize(
-            analysis::toolRows({{}, {}, rects, {}}, photograph->temperatures, {}));
+        benchmark::DoNotOptimize(analysis::toolRows(tools, photograph->temperatures, {}));
     }
     state.SetItemsProcessed(state.iterations());
 }

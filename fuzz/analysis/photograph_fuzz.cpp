@@ -229,23 +229,19 @@ void inform(const Photograph& photograph, const PhotographFile& file, int unitBy
 void measure(const Photograph& photograph, const Extremes& extremes, fuzz::Input& input)
 {
     const bool asTable = input.byte() % 2 == 1;
-    QVector<overlay::PointTool> points;
-    QVector<overlay::LineTool> lines;
-    QVector<overlay::RectTool> rects;
-    QVector<overlay::CircleTool> circles;
-    rects.append({QStringLiteral("R0"), 0, 0, 239, 319, {}});
+    overlay::Tools tools;
+    tools.rectList.append({QStringLiteral("R0"), 0, 0, 239, 319, {}});
     // Tools come from the mouse: inside the picture or one step beyond, not yet placed among them.
     if (!input.isEmpty()) {
         const int x1 = input.number<quint16>() % 242 - 1;
         const int y1 = input.number<quint16>() % 322 - 1;
         const int x2 = input.number<quint16>() % 242 - 1;
         const int y2 = input.number<quint16>() % 322 - 1;
-        points.append({QStringLiteral("P"), x1, y1, 9, {}});
-        lines.append({QStringLiteral("L"), x1, y1, x2, y2, {}});
-        rects.append({QStringLiteral("R"), x2, y2, x1, y1, {}});
-        circles.append({QStringLiteral("C"), x1, y1, x2, y2, y2 % 160, {}});
+        tools.pointList.append({QStringLiteral("P"), x1, y1, 9, {}});
+        tools.lineList.append({QStringLiteral("L"), x1, y1, x2, y2, {}});
+        tools.rectList.append({QStringLiteral("R"), x2, y2, x1, y1, {}});
+        tools.circleList.append({QStringLiteral("C"), x1, y1, x2, y2, y2 % 160, {}});
     }
-    const ToolLists tools{points, lines, rects, circles};
     if (asTable) {
         mustHold(!toolRows(tools, photograph.temperatures, unchanged).empty(),
                  "the whole picture has a row");
@@ -256,9 +252,9 @@ void measure(const Photograph& photograph, const Extremes& extremes, fuzz::Input
         return std::count_if(list.begin(), list.end(),
                              [first](const auto& tool) { return tool.*first >= 0; });
     };
-    const auto placedLines = placed(lines, &overlay::LineTool::x1);
-    const auto placedAreas = placedLines + placed(rects, &overlay::RectTool::x1) +
-                             placed(circles, &overlay::CircleTool::cx);
+    const auto placedLines = placed(tools.lineList, &overlay::LineTool::x1);
+    const auto placedAreas = placedLines + placed(tools.rectList, &overlay::RectTool::x1) +
+                             placed(tools.circleList, &overlay::CircleTool::cx);
     mustHold(std::size_t(placedAreas) == areas.size(), "every placed tool is measured");
     const AreaStatistics& whole = areas[std::size_t(placedLines)];
     mustHold(whole.pixels == format::grayBytes, "the whole picture is measured");

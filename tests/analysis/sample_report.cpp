@@ -11,29 +11,15 @@
 
 namespace testing {
 
-void placeSampleTools(MyLabel& label)
+SampleTools::SampleTools()
 {
-    label.setToolMode(2);
-    label.pointList[0].x = 120;
-    label.pointList[0].y = 190;
-    label.setToolMode(3);
-    label.lineList[0].x1 = 30;
-    label.lineList[0].y1 = 60;
-    label.lineList[0].x2 = 100;
-    label.lineList[0].y2 = 130;
-    label.setToolMode(4);
-    label.rectList[0].x1 = 140;
-    label.rectList[0].y1 = 200;
-    label.rectList[0].x2 = 200;
-    label.rectList[0].y2 = 260;
-    label.setToolMode(5);
-    label.circleList[0].cx = label.circleList[0].x2 = 80;
-    label.circleList[0].cy = 240;
-    label.circleList[0].y2 = 270;
-    label.circleList[0].radius = 30;
-    label.markerA = {85, 110};
-    label.markerB = {170, 230};
-    label.markerC = {120, 160};
+    pointList = {{QStringLiteral("P0"), 120, 190}};
+    lineList = {{QStringLiteral("L0"), 30, 60, 100, 130}};
+    rectList = {{QStringLiteral("R0"), 140, 200, 200, 260}};
+    circleList = {{QStringLiteral("C0"), 80, 240, 80, 270, 30}};
+    markerA = {85, 110};
+    markerB = {170, 230};
+    markerC = {120, 160};
 }
 
 analysis::Report sampleReport(const QString& language, int unitIndex, int toolCount)
@@ -77,9 +63,8 @@ analysis::Report sampleReport(const QString& language, int unitIndex, int toolCo
         palette[i] = {uchar(qRed(iron[i])), uchar(qGreen(iron[i])), uchar(qBlue(iron[i]))};
     report.colourStrip = analysis::colourStrip(palette);
 
-    MyLabel label;
-    placeSampleTools(label);
-    report.overlay = analysis::reportOverlay(label, report.picture.size());
+    const SampleTools tools;
+    report.overlay = analysis::reportOverlay(tools, tools, report.picture.size());
 
     const QHash<QString, QStringList> kinds{
         {"CH", {"点", "线", "矩形", "圆"}},

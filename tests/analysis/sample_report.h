@@ -1,12 +1,16 @@
 #pragma once
 
 #include "analysis/report.h"
-#include "overlay/my_label.h"
+#include "overlay/spots.h"
+#include "overlay/tools.h"
 
 namespace testing {
 
-/// Draws a point, a line, a rectangle and a circle on a label.
-void placeSampleTools(MyLabel& label);
+/// A point, a line, a rectangle, a circle and all three spots.
+struct SampleTools : overlay::Tools, overlay::Spots
+{
+    SampleTools();
+};
 
 /// A report with a made-up scene from 20.0 to 52.5 °C and tools on the picture, in the given unit;
 /// `toolCount` rows in the table, whose texts are in `language` ("CH", "EN", "RU" or "KO").

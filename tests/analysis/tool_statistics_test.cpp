@@ -12,17 +12,9 @@ using overlay::CircleTool;
 using overlay::LineTool;
 using overlay::PointTool;
 using overlay::RectTool;
+using overlay::Tools;
 
 namespace {
-
-struct Tools
-{
-    QVector<PointTool> points;
-    QVector<LineTool> lines;
-    QVector<RectTool> rects;
-    QVector<CircleTool> circles;
-    analysis::ToolLists lists() const { return {points, lines, rects, circles}; }
-};
 
 PointTool point(int x, int y)
 {
@@ -131,11 +123,11 @@ AreaStatistics plainly(const Tool& tool, const Temperatures& temperatures)
 std::vector<AreaStatistics> plainly(const Tools& tools, const Temperatures& temperatures)
 {
     std::vector<AreaStatistics> all;
-    for (const LineTool& tool : tools.lines)
+    for (const LineTool& tool : tools.lineList)
         all.push_back(plainly(tool, temperatures));
-    for (const RectTool& tool : tools.rects)
+    for (const RectTool& tool : tools.rectList)
         all.push_back(plainly(tool, temperatures));
-    for (const CircleTool& tool : tools.circles)
+    for (const CircleTool& tool : tools.circleList)
         all.push_back(plainly(tool, temperatures));
     return all;
 }
@@ -179,7 +171,7 @@ class ToolStatisticsTest : public QObject
 
     AreaStatistics measured(const Tools& tools)
     {
-        const auto all = analysis::measureAreas(tools.lists(), *temperatures);
+        const auto all = analysis::measureAreas(tools, *temperatures);
         return all.size() == 1 ? all.front() : AreaStatistics{0, 0, 0, -1};
     }
     AreaStatistics measured(const LineTool& tool) { return measured(Tools{{}, {tool}, {}, {}}); }
@@ -188,14 +180,14 @@ class ToolStatisticsTest : public QObject
 
     std::vector<analysis::ToolRow> rows(const Tools& tools, analysis::Conversion conversion = {})
     {
-        return analysis::toolRows(tools.lists(), *temperatures, conversion);
+        return analysis::toolRows(tools, *temperatures, conversion);
     }
 
     /// Compares with the plain rules; false with a message at the first difference.
     bool agrees(const Tools& tools)
     {
         const auto expected = plainly(tools, *temperatures);
-        const auto found = analysis::measureAreas(tools.lists(), *temperatures);
+        const auto found = analysis::measureAreas(tools, *temperatures);
         if (found.size() != expected.size())
             return false;
         for (std::size_t i = 0; i < found.size(); ++i) {
@@ -252,7 +244,7 @@ private slots:
         for (int dx = -25; dx <= 25; ++dx) {
             Tools tools;
             for (int dy = -25; dy <= 25; ++dy)
-                tools.lines.append(line(100, 100, 100 + dx, 100 + dy));
+                tools.lineList.append(line(100, 100, 100 + dx, 100 + dy));
             QVERIFY2(agrees(tools), qPrintable(QStringLiteral("dx %1").arg(dx)));
         }
     }
@@ -274,7 +266,7 @@ private slots:
                 tool.x2 = tool.x1;
             else if (i % 3 == 1)
                 tool.y2 = tool.y1;
-            tools.lines.append(tool);
+            tools.lineList.append(tool);
         }
         QVERIFY(agrees(tools));
     }
@@ -285,15 +277,15 @@ private slots:
         for (int round = 0; round < 40; ++round) {
             Tools tools;
             for (int i = 0; i < 10; ++i)
-                tools.lines.append(line(upTo(241), upTo(321), upTo(241), upTo(321)));
+                tools.lineList.append(line(upTo(241), upTo(321), upTo(241), upTo(321)));
             QVERIFY2(agrees(tools), qPrintable(QStringLiteral("round %1").arg(round)));
         }
         Tools borders;
         for (int x : {0, 1, 239, 240}) {
             for (int y : {0, 1, 319, 320}) {
-                borders.lines.append(line(0, 0, x, y));
-                borders.lines.append(line(240, 320, x, y));
-                borders.lines.append(line(x, y, 0, 320));
+                borders.lineList.append(line(0, 0, x, y));
+                borders.lineList.append(line(240, 320, x, y));
+                borders.lineList.append(line(x, y, 0, 320));
             }
         }
         QVERIFY(agrees(borders));
@@ -345,8 +337,8 @@ private slots:
         fillRandomly();
         for (int radius = 0; radius < 120; ++radius) {
             Tools tools;
-            tools.circles.append(circle(120, 160, radius));
-            tools.circles.append(circle(upTo(241), upTo(321), radius));
+            tools.circleList.append(circle(120, 160, radius));
+            tools.circleList.append(circle(upTo(241), upTo(321), radius));
             QVERIFY2(agrees(tools), qPrintable(QStringLiteral("radius %1").arg(radius)));
         }
     }
@@ -357,11 +349,11 @@ private slots:
         for (int round = 0; round < 20; ++round) {
             Tools tools;
             for (int i = upTo(12); i >= 0; --i)
-                tools.lines.append(line(upTo(241), upTo(321), upTo(241), upTo(321)));
+                tools.lineList.append(line(upTo(241), upTo(321), upTo(241), upTo(321)));
             for (int i = upTo(12); i >= 0; --i)
-                tools.rects.append(rect(upTo(241), upTo(321), upTo(241), upTo(321)));
+                tools.rectList.append(rect(upTo(241), upTo(321), upTo(241), upTo(321)));
             for (int i = upTo(12); i >= 0; --i)
-                tools.circles.append(circle(upTo(241), upTo(321), upTo(120)));
+                tools.circleList.append(circle(upTo(241), upTo(321), upTo(120)));
             QVERIFY(agrees(tools));
         }
     }
@@ -377,9 +369,9 @@ private slots:
         QCOMPARE(measured(circle(240, 320, 1)).pixels, 1);
         QCOMPARE(measured(circle(0, 0, 1)).pixels, 4);
         Tools far;
-        far.rects.append(rect(5, -400, 500, 900));
-        far.circles.append(circle(600, 100, 500));
-        far.lines.append(line(3, -50, 300, 400));
+        far.rectList.append(rect(5, -400, 500, 900));
+        far.circleList.append(circle(600, 100, 500));
+        far.lineList.append(line(3, -50, 300, 400));
         QVERIFY(agrees(far));
     }
 
@@ -482,7 +474,7 @@ private slots:
                     {line(-1, -1, -1, -1), line(0, 0, 5, 5)},
                     {rect(0, 0, 5, 5), rect(-1, 3, 4, 4)},
                     {circle(9, 9, -1), circle(-1, -1, -1)}};
-        tools.points[2].name = QStringLiteral("P2");
+        tools.pointList[2].name = QStringLiteral("P2");
         const auto table = rows(tools);
         QStringList names;
         for (const auto& row : table)
@@ -490,10 +482,10 @@ private slots:
         QCOMPARE(names,
                  QStringList({QStringLiteral("P0"), QStringLiteral("P2"), QStringLiteral("L0"),
                               QStringLiteral("R0"), QStringLiteral("C0")}));
-        QVERIFY(table[0].kind == analysis::ToolKind::Point);
-        QVERIFY(table[2].kind == analysis::ToolKind::Line);
-        QVERIFY(table[3].kind == analysis::ToolKind::Rect);
-        QVERIFY(table[4].kind == analysis::ToolKind::Circle);
+        QVERIFY(table[0].kind == overlay::ToolKind::Point);
+        QVERIFY(table[2].kind == overlay::ToolKind::Line);
+        QVERIFY(table[3].kind == overlay::ToolKind::Rect);
+        QVERIFY(table[4].kind == overlay::ToolKind::Circle);
         // Just pressed, not dragged: nothing measured yet.
         QCOMPARE(texts(table[4]), QStringList({QStringLiteral("-50.0"), QStringLiteral("2000.0"),
                                                QStringLiteral("0.0")}));

@@ -400,12 +400,7 @@ private slots:
 
         MyLabel fresh;
         prepare(fresh, {520, 640}, {480, 640});
-        fresh.pointList = label.pointList;
-        fresh.lineList = label.lineList;
-        fresh.rectList = label.rectList;
-        fresh.circleList = label.circleList;
-        fresh.currentType = label.currentType;
-        fresh.selectedIndex = label.selectedIndex;
+        static_cast<overlay::Tools&>(fresh) = label;
         QCOMPARE(dragged, fresh.grab().toImage());
         mouse.release({140, 141});
 

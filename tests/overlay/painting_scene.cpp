@@ -1,5 +1,7 @@
 #include "tests/overlay/painting_scene.h"
 
+#include <QCoreApplication>
+#include <QDir>
 #include <QPainter>
 
 #include <array>
@@ -338,6 +340,30 @@ QImage drawnByDescription(const PaintingScene& scene, double ratio, bool margins
         if (margins)
             drawMargins(painter, g);
     });
+}
+
+QString difference(const QImage& actual, const QImage& expected, unsigned number, double ratio)
+{
+    const QImage found = actual.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    if (found == expected)
+        return {};
+    QString where;
+    if (found.size() != expected.size()) {
+        where = QStringLiteral("%1 x %2").arg(found.width()).arg(found.height());
+    } else {
+        for (int y = 0; y < found.height() && where.isEmpty(); ++y)
+            for (int x = 0; x < found.width() && where.isEmpty(); ++x)
+                if (found.pixel(x, y) != expected.pixel(x, y))
+                    where = QStringLiteral("(%1, %2) is %3 instead of %4")
+                                .arg(x)
+                                .arg(y)
+                                .arg(found.pixel(x, y), 8, 16)
+                                .arg(expected.pixel(x, y), 8, 16);
+    }
+    const QDir folder(QCoreApplication::applicationDirPath());
+    found.save(folder.filePath(QStringLiteral("tool_painting_found.png")));
+    expected.save(folder.filePath(QStringLiteral("tool_painting_expected.png")));
+    return QStringLiteral("scene %1 at %2: %3").arg(number).arg(ratio).arg(where);
 }
 
 } // namespace testing

@@ -1,5 +1,4 @@
 #include "overlay/my_label.h"
-#include "overlay/tool_rules.h"
 #include "tests/overlay/mouse.h"
 #include "tests/overlay/overlay_host.h"
 #include "tests/support/test_run.h"
@@ -36,22 +35,12 @@ QString faultIn(const QVector<Tool>& list)
     for (const Tool& tool : list) {
         bool isNumber = false;
         const int number = tool.name.mid(1).toInt(&isNumber);
-        if (!isNumber || tool.name.at(0) != letterOf(tool) || number <= last)
+        if (!isNumber || tool.name.at(0) != QLatin1Char(overlay::rowOf(tool.kind).letter) ||
+            number <= last)
             return QStringLiteral("%1 after number %2").arg(tool.name).arg(last);
         last = number;
     }
     return {};
-}
-
-int countOf(const MyLabel& label, const QString& type)
-{
-    if (type == QLatin1String("P"))
-        return label.pointList.size();
-    if (type == QLatin1String("L"))
-        return label.lineList.size();
-    if (type == QLatin1String("R"))
-        return label.rectList.size();
-    return type == QLatin1String("C") ? label.circleList.size() : 0;
 }
 
 bool isInPicture(int x, int y)
@@ -69,18 +58,17 @@ enum class Selection
 
 QString faultIn(const MyLabel& label, Selection selection)
 {
-    for (const QString& fault : {faultIn(label.pointList), faultIn(label.lineList),
-                                 faultIn(label.rectList), faultIn(label.circleList)})
-        if (!fault.isEmpty())
-            return fault;
+    QString fault;
+    overlay::forEachList(label, [&](const auto& list) { fault += faultIn(list); });
+    if (!fault.isEmpty())
+        return fault;
     if (label.currentType == QLatin1String("null"))
         return label.selectedIndex == 0 || label.selectedIndex == -1
                    ? QString()
                    : QStringLiteral("nothing selected, but at %1").arg(label.selectedIndex);
-    if (!QStringList({"P", "L", "R", "C"}).contains(label.currentType) || label.selectedIndex < 0)
+    if (!overlay::selectedKind(label) || label.selectedIndex < 0)
         return QStringLiteral("selection %1 %2").arg(label.currentType).arg(label.selectedIndex);
-    if (selection == Selection::OnAToolOrNone &&
-        label.selectedIndex >= countOf(label, label.currentType))
+    if (selection == Selection::OnAToolOrNone && overlay::selectedPlace(label) < 0)
         return QStringLiteral("no tool %1 %2").arg(label.currentType).arg(label.selectedIndex);
     return {};
 }
@@ -206,8 +194,7 @@ private:
             if (!fault.isEmpty())
                 QFAIL(qPrintable(QStringLiteral("step %1: %2").arg(step).arg(fault)));
             host.heard.clear();
-            mostTools = std::max(mostTools, label.pointList.size() + label.lineList.size() +
-                                                label.rectList.size() + label.circleList.size());
+            mostTools = std::max(mostTools, overlay::countOf(label));
             selected.insert(label.currentType);
             if (step % stepsPerPaint == 0)
                 QApplication::processEvents();

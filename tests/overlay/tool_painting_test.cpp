@@ -1,103 +1,95 @@
-#include "overlay/my_label.h"
-#include "tests/overlay/mouse.h"
+#include "overlay/tool_painting.h"
 #include "tests/overlay/painting_scene.h"
 #include "tests/support/test_run.h"
 
-#include <QCoreApplication>
-#include <QDir>
+#include <QPainter>
 
+#include <future>
+#include <vector>
+
+using testing::difference;
 using testing::PaintingScene;
-
-namespace {
-
-constexpr unsigned scenes = 200;
-
-/// Empty when the pictures are the same in every pixel; else where they differ, with both pictures
-/// saved beside the program.
-QString difference(const QImage& actual, const QImage& expected, unsigned number, double ratio)
-{
-    const QImage found = actual.convertToFormat(QImage::Format_ARGB32_Premultiplied);
-    QString where;
-    if (found.size() != expected.size()) {
-        where = QStringLiteral("%1 x %2").arg(found.width()).arg(found.height());
-    } else {
-        for (int y = 0; y < found.height() && where.isEmpty(); ++y)
-            for (int x = 0; x < found.width() && where.isEmpty(); ++x)
-                if (found.pixel(x, y) != expected.pixel(x, y))
-                    where = QStringLiteral("(%1, %2) is %3 instead of %4")
-                                .arg(x)
-                                .arg(y)
-                                .arg(found.pixel(x, y), 8, 16)
-                                .arg(expected.pixel(x, y), 8, 16);
-    }
-    if (where.isEmpty())
-        return {};
-    const QDir folder(QCoreApplication::applicationDirPath());
-    found.save(folder.filePath(QStringLiteral("tool_painting_found.png")));
-    expected.save(folder.filePath(QStringLiteral("tool_painting_expected.png")));
-    return QStringLiteral("scene %1 at %2: %3").arg(number).arg(ratio).arg(where);
-}
-
-void take(MyLabel& label, const PaintingScene& scene)
-{
-    label.pointList = scene.pointList;
-    label.lineList = scene.lineList;
-    label.rectList = scene.rectList;
-    label.circleList = scene.circleList;
-    label.currentType = scene.currentType;
-    label.selectedIndex = scene.selectedIndex;
-    label.markerA = scene.markerA;
-    label.markerB = scene.markerB;
-    label.markerC = scene.markerC;
-}
-
-} // namespace
+using testing::scenes;
 
 class ToolPaintingTest : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void theLabelShowsEverySceneAsDescribed()
+    void everySceneIsPaintedAsDescribed()
     {
-        QWidget window;
-        window.resize(900, 1100);
-        MyLabel& label = *new MyLabel(&window);
-        testing::showAndPaint(window);
-        const double ratio = label.devicePixelRatioF();
         for (unsigned number = 0; number < scenes; ++number) {
             const PaintingScene scene = testing::madeUpScene(number);
-            take(label, scene);
-            label.resize(scene.geometry.labelWidth, scene.geometry.labelHeight);
-            QPixmap picture(scene.geometry.imageWidth, scene.geometry.imageHeight);
-            picture.fill(Qt::gray);
-            label.setPixmap(picture);
-            label.grab();
-            QCOMPARE(label.labelWidth, scene.geometry.labelWidth);
-            QCOMPARE(label.imageHeight, scene.geometry.imageHeight);
-            const QString fault =
-                difference(label.overlay.toImage(), testing::drawnByDescription(scene, ratio, true),
-                           number, ratio);
-            QVERIFY2(fault.isEmpty(), qPrintable(fault));
+            const bool margins = number % 2 == 1;
+            for (const double ratio : {1.0, 1.25, 1.5, 2.0}) {
+                const QImage found = overlay::paintedTools(
+                    scene, scene, {scene.geometry, ratio, Qt::green, margins});
+                QCOMPARE(found.devicePixelRatio(), ratio);
+                const QString fault = difference(
+                    found, testing::drawnByDescription(scene, ratio, margins), number, ratio);
+                QVERIFY2(fault.isEmpty(), qPrintable(fault));
+            }
         }
     }
 
-    void theFrozenLabelToo()
+    /// In eight threads at once, and without the layers of one ever meeting those of another.
+    void manyThreadsPaintTheSame()
     {
-        MyLabel label;
+        std::vector<std::future<QString>> threads;
+        for (unsigned thread = 0; thread < 8; ++thread)
+            threads.push_back(std::async(std::launch::async, [thread] {
+                for (unsigned i = 0; i < scenes / 4; ++i) {
+                    const unsigned number = (i + 23 * thread) % scenes;
+                    const PaintingScene scene = testing::madeUpScene(number);
+                    QString fault =
+                        difference(overlay::paintedTools(scene, scene, {scene.geometry}),
+                                   testing::drawnByDescription(scene, 1, false), number, 1);
+                    if (!fault.isEmpty())
+                        return fault;
+                }
+                return QString();
+            }));
+        for (std::future<QString>& thread : threads)
+            QCOMPARE(thread.get(), QString());
+    }
+
+    /// Whoever paints again and again gets the same, whatever changed in between.
+    void keptLayersAreNeverOutOfDate()
+    {
+        overlay::ToolLayers layers;
         for (unsigned number = 0; number < scenes; ++number) {
-            const PaintingScene scene = testing::madeUpScene(number);
-            take(label, scene);
-            label.frozenGeometry = true;
-            label.labelWidth = scene.geometry.labelWidth;
-            label.imageWidth = scene.geometry.imageWidth;
-            label.labelHeight = scene.geometry.labelHeight;
-            label.imageHeight = scene.geometry.imageHeight;
-            label.grab();
-            const QString fault = difference(
-                label.overlay.toImage(), testing::drawnByDescription(scene, 1, false), number, 1);
-            QVERIFY2(fault.isEmpty(), qPrintable(fault));
+            PaintingScene scene = testing::madeUpScene(number);
+            for (int change = 0; change < 5; ++change) {
+                if (change == 1 && !scene.lineList.isEmpty())
+                    scene.lineList.last().colour = Qt::magenta;
+                if (change == 2 && !scene.pointList.isEmpty())
+                    scene.pointList.first().x += 3;
+                if (change == 3)
+                    overlay::select(scene, overlay::ToolKind::Circle, 0);
+                if (change == 4)
+                    scene.currentType = QStringLiteral("null");
+                const overlay::Sheet sheet{scene.geometry};
+                QImage found(sheet.pixels(), QImage::Format_ARGB32_Premultiplied);
+                found.fill(Qt::transparent);
+                QPainter painter(&found);
+                layers.paint(painter, scene, scene, sheet);
+                painter.end();
+                const QString fault =
+                    difference(found, testing::drawnByDescription(scene, 1, false), number, 1);
+                QVERIFY2(fault.isEmpty(), qPrintable(fault));
+            }
         }
+    }
+
+    void withoutExtentThereIsNoPicture()
+    {
+        for (const overlay::Geometry& geometry :
+             {overlay::Geometry{}, overlay::Geometry{0, 10, 10, 10},
+              overlay::Geometry{10, 10, -3, 10}})
+            QVERIFY(overlay::paintedTools({}, {}, {geometry}).isNull());
+        const QImage empty = overlay::paintedTools({}, {}, {{30, 0, 40, 0}});
+        QCOMPARE(empty.size(), QSize(30, 40));
+        QCOMPARE(qAlpha(empty.pixel(0, 0)), 0);
     }
 };
 

@@ -20,28 +20,6 @@ CircleTool circle(int cx, int cy, int radius)
     return {QStringLiteral("C0"), cx, cy, cx + radius, cy, radius, Qt::red};
 }
 
-QVector<PointTool> pointsNamed(const QStringList& names)
-{
-    QVector<PointTool> points;
-    for (const QString& name : names)
-        points.append({name, 1, 1, 9, Qt::red});
-    return points;
-}
-
-template<typename Tool>
-void everyEndCounts()
-{
-    const QString name = QStringLiteral("X1");
-    const Tool tool{name, 1, 2, 3, 4, Qt::red};
-    for (const Tool& other : {Tool{QString(), 1, 2, 3, 4, Qt::red},
-                              {name, 0, 2, 3, 4, Qt::red},
-                              {name, 1, 0, 3, 4, Qt::red},
-                              {name, 1, 2, 0, 4, Qt::red},
-                              {name, 1, 2, 3, 0, Qt::red},
-                              {name, 1, 2, 3, 4, Qt::blue}})
-        QVERIFY(!(tool == other));
-}
-
 } // namespace
 
 class ToolRulesTest : public QObject
@@ -49,107 +27,6 @@ class ToolRulesTest : public QObject
     Q_OBJECT
 
 private slots:
-    void newToolsAreRedAndUnplaced()
-    {
-        const QColor red(255, 0, 0, 255);
-        QVERIFY((PointTool() == PointTool{QString(), -1, -1, 9, red}));
-        QVERIFY((LineTool() == LineTool{QString(), -1, -1, -1, -1, red}));
-        QVERIFY((RectTool() == RectTool{QString(), -1, -1, -1, -1, red}));
-        QVERIFY((CircleTool() == CircleTool{QString(), -1, -1, -1, -1, -1, red}));
-    }
-
-    void toolsDifferByEveryProperty()
-    {
-        const QString name = QStringLiteral("X1");
-        const PointTool point{name, 1, 2, 9, Qt::red};
-        for (const PointTool& other : {PointTool{QString(), 1, 2, 9, Qt::red},
-                                       {name, 0, 2, 9, Qt::red},
-                                       {name, 1, 0, 9, Qt::red},
-                                       {name, 1, 2, 0, Qt::red},
-                                       {name, 1, 2, 9, Qt::blue}})
-            QVERIFY(!(point == other));
-        everyEndCounts<LineTool>();
-        everyEndCounts<RectTool>();
-        const CircleTool circle{name, 1, 2, 3, 4, 5, Qt::red};
-        for (const CircleTool& other : {CircleTool{QString(), 1, 2, 3, 4, 5, Qt::red},
-                                        {name, 0, 2, 3, 4, 5, Qt::red},
-                                        {name, 1, 0, 3, 4, 5, Qt::red},
-                                        {name, 1, 2, 0, 4, 5, Qt::red},
-                                        {name, 1, 2, 3, 0, 5, Qt::red},
-                                        {name, 1, 2, 3, 4, 0, Qt::red},
-                                        {name, 1, 2, 3, 4, 5, Qt::blue}})
-            QVERIFY(!(circle == other));
-    }
-
-    void theLowestFreeNumber_data()
-    {
-        QTest::addColumn<QStringList>("names");
-        QTest::addColumn<int>("number");
-        QTest::newRow("none") << QStringList() << 0;
-        QTest::newRow("first free") << QStringList{"P1", "P2"} << 0;
-        QTest::newRow("gap") << QStringList{"P0", "P2"} << 1;
-        QTest::newRow("next") << QStringList{"P0", "P1", "P2"} << 3;
-        QTest::newRow("two digits")
-            << QStringList{"P0", "P1", "P2", "P3", "P4", "P5", "P6", "P7", "P8", "P9", "P10"} << 11;
-        QTest::newRow("foreign names count for nothing") << QStringList{"P", "Px"} << 0;
-    }
-
-    void theLowestFreeNumber()
-    {
-        QFETCH(QStringList, names);
-        QFETCH(int, number);
-        QVector<PointTool> points = pointsNamed(names);
-        QCOMPARE(lowestFreeNumber(points), number);
-        const int index = insertNew(points, Qt::blue);
-        QVERIFY(index <= names.size());
-        QCOMPARE(points.at(index).name, QStringLiteral("P%1").arg(number));
-        QCOMPARE(points.at(index).x, -1);
-        QCOMPARE(points.at(index).colour, QColor(Qt::blue));
-    }
-
-    void aGapIsFilledInItsPlace()
-    {
-        QVector<PointTool> points = pointsNamed({"P0", "P2"});
-        QCOMPARE(insertNew(points, Qt::red), 1);
-        QCOMPARE(points.at(0).name, QStringLiteral("P0"));
-        QCOMPARE(points.at(1).name, QStringLiteral("P1"));
-        QCOMPARE(points.at(2).name, QStringLiteral("P2"));
-    }
-
-    void everyKindHasItsLetter()
-    {
-        QVector<LineTool> lines;
-        QVector<RectTool> rects;
-        QVector<CircleTool> circles;
-        insertNew(lines, Qt::red);
-        insertNew(rects, Qt::red);
-        insertNew(circles, Qt::red);
-        QCOMPARE(lines.at(0).name, QStringLiteral("L0"));
-        QCOMPARE(rects.at(0).name, QStringLiteral("R0"));
-        QCOMPARE(circles.at(0).name, QStringLiteral("C0"));
-    }
-
-    void pruningRemovesWhatHasNoPlaceOrNoExtent()
-    {
-        QVector<PointTool> points{{"P0", 0, 0, 9, {}}, {"P1", -1, -1, 9, {}}, {"P2", 5, 5, 9, {}}};
-        prune(points);
-        QCOMPARE(points.size(), 2);
-        QCOMPARE(points.at(1).name, QStringLiteral("P2"));
-
-        QVector<LineTool> lines{line(-1, -1, -1, -1), line(3, 4, 3, 4), line(3, 4, 3, 5),
-                                line(3, 4, 4, 4), line(-1, 0, 5, 5)};
-        prune(lines);
-        QCOMPARE(lines.size(), 2);
-        QVector<RectTool> rects{rect(-1, -1, -1, -1), rect(3, 4, 3, 4), rect(0, 0, 1, 0)};
-        prune(rects);
-        QCOMPARE(rects.size(), 1);
-        const CircleTool draggedDown{QStringLiteral("C0"), 3, 4, 3, 5, 1, Qt::red};
-        QVector<CircleTool> circles{circle(-1, -1, 0), circle(3, 4, 0), circle(3, 4, 1),
-                                    draggedDown};
-        prune(circles);
-        QCOMPARE(circles.size(), 2);
-    }
-
     void pointsAreHitInABoxTwoPixelsUpAndLeft_data()
     {
         QTest::addColumn<QPoint>("press");
@@ -172,7 +49,7 @@ private slots:
         QFETCH(QPoint, press);
         QFETCH(bool, hit);
         const PointTool point{QStringLiteral("P0"), 100, 100, 9, Qt::red};
-        QCOMPARE(hits(point, press.x(), press.y(), 7, 9), hit);
+        QCOMPARE(hits(point, {press.x(), press.y(), 7, 9}), hit);
     }
 
     void linesAreHitUpToTwoPixelsAwayInsideTheirBox_data()
@@ -196,19 +73,19 @@ private slots:
     {
         QFETCH(QPoint, press);
         QFETCH(bool, hit);
-        QCOMPARE(hits(line(10, 10, 50, 50), press.x(), press.y()), hit);
+        QCOMPARE(hits(line(10, 10, 50, 50), {press.x(), press.y()}), hit);
     }
 
     void uprightLinesAreOnePixelWide()
     {
-        QVERIFY(hits(line(10, 20, 10, 40), 10, 30));
-        QVERIFY(!hits(line(10, 20, 10, 40), 11, 30));
-        QVERIFY(hits(line(10, 40, 10, 20), 10, 20));
+        QVERIFY(hits(line(10, 20, 10, 40), {10, 30}));
+        QVERIFY(!hits(line(10, 20, 10, 40), {11, 30}));
+        QVERIFY(hits(line(10, 40, 10, 20), {10, 20}));
     }
 
     void aLineWithoutDirectionIsNotHit()
     {
-        QVERIFY(!hits(line(10, 10, 10, 10), 10, 10));
+        QVERIFY(!hits(line(10, 10, 10, 10), {10, 10}));
         QVERIFY(!truncatedDistance(line(10, 10, 10, 10), 10, 10));
     }
 
@@ -240,18 +117,18 @@ private slots:
     {
         QFETCH(QPoint, press);
         QFETCH(bool, hit);
-        QCOMPARE(hits(rect(10, 15, 40, 30), press.x(), press.y()), hit);
-        QCOMPARE(hits(rect(40, 30, 10, 15), press.x(), press.y()), hit);
+        QCOMPARE(hits(rect(10, 15, 40, 30), {press.x(), press.y()}), hit);
+        QCOMPARE(hits(rect(40, 30, 10, 15), {press.x(), press.y()}), hit);
     }
 
     void circlesAreHitByTheTruncatedDistance()
     {
-        QVERIFY(hits(circle(100, 100, 10), 110, 100));
-        QVERIFY(hits(circle(100, 100, 10), 110, 104));  // √116 = 10.77 → 10
-        QVERIFY(!hits(circle(100, 100, 10), 110, 105)); // √125 = 11.18
-        QVERIFY(!hits(circle(100, 100, 10), 111, 100));
-        QVERIFY(hits(circle(100, 100, 1), 101, 101)); // √2 → 1
-        QVERIFY(!hits(circle(100, 100, -1), 100, 100));
+        QVERIFY(hits(circle(100, 100, 10), {110, 100}));
+        QVERIFY(hits(circle(100, 100, 10), {110, 104}));  // √116 = 10.77 → 10
+        QVERIFY(!hits(circle(100, 100, 10), {110, 105})); // √125 = 11.18
+        QVERIFY(!hits(circle(100, 100, 10), {111, 100}));
+        QVERIFY(hits(circle(100, 100, 1), {101, 101})); // √2 → 1
+        QVERIFY(!hits(circle(100, 100, -1), {100, 100}));
     }
 
     void draggedCirclesStayInThePicture()
@@ -267,15 +144,6 @@ private slots:
         QCOMPARE(draggedRadius(120, 40, 120, 79).value(), 39);
         QVERIFY(!draggedRadius(120, 40, 120, 0));
         QVERIFY(!draggedRadius(0, 0, 0, 0));
-    }
-
-    void overallIndexCountsTheListsBefore()
-    {
-        const ToolCounts counts{2, 3, 4};
-        QCOMPARE(overallIndex(QLatin1Char('P'), 1, counts), 1);
-        QCOMPARE(overallIndex(QLatin1Char('L'), 1, counts), 3);
-        QCOMPARE(overallIndex(QLatin1Char('R'), 1, counts), 6);
-        QCOMPARE(overallIndex(QLatin1Char('C'), 1, counts), 10);
     }
 };
 

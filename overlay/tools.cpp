@@ -1,0 +1,108 @@
+#include "overlay/tools.h"
+
+#include "overlay/tool_rules.h"
+
+#include <algorithm>
+
+namespace overlay {
+namespace {
+
+/// The lowest number that no tool of the list, which is in number order, carries in its name.
+template<typename Tool>
+int lowestFreeNumber(const QVector<Tool>& list)
+{
+    int number = 0;
+    for (const Tool& tool : list) {
+        bool isNumber = false;
+        if (tool.name.midRef(1).toInt(&isNumber) == number && isNumber)
+            ++number;
+    }
+    return number;
+}
+
+} // namespace
+
+bool operator==(const Tools& left, const Tools& right)
+{
+    const auto members = [](const Tools& tools) {
+        return std::tie(tools.pointList, tools.lineList, tools.rectList, tools.circleList,
+                        tools.currentType, tools.selectedIndex);
+    };
+    return members(left) == members(right);
+}
+
+int countOf(const Tools& tools)
+{
+    int count = 0;
+    forEachList(tools, [&](const auto& list) { count += list.size(); });
+    return count;
+}
+
+std::optional<ToolKind> selectedKind(const Tools& tools)
+{
+    for (const KindRow& row : toolKinds) {
+        if (tools.currentType == QLatin1Char(row.letter))
+            return row.kind;
+    }
+    return std::nullopt;
+}
+
+void select(Tools& tools, ToolKind kind, int index)
+{
+    tools.currentType = QLatin1Char(rowOf(kind).letter);
+    tools.selectedIndex = index;
+}
+
+int overallSelection(const Tools& tools)
+{
+    const std::optional<ToolKind> selected = selectedKind(tools);
+    int place = tools.selectedIndex;
+    forEachList(tools, [&](const auto& list) {
+        if (selected && kindOf(list) < *selected)
+            place += list.size();
+    });
+    return place;
+}
+
+int selectedPlace(const Tools& tools)
+{
+    const std::optional<ToolKind> kind = selectedKind(tools);
+    const bool exists = kind && visitTool(tools, *kind, tools.selectedIndex, [](const auto&) {});
+    return exists ? overallSelection(tools) : -1;
+}
+
+void prune(Tools& tools)
+{
+    forEachList(tools, [](auto& list) {
+        list.erase(std::remove_if(list.begin(), list.end(),
+                                  [](const auto& tool) { return isUnfinished(tool); }),
+                   list.end());
+    });
+}
+
+int insertNew(Tools& tools, ToolKind kind, const QColor& colour)
+{
+    int index = 0;
+    forEachList(tools, [&](auto& list) {
+        if (kindOf(list) != kind)
+            return;
+        const int number = lowestFreeNumber(list);
+        index = std::min(number, list.size());
+        typename std::decay_t<decltype(list)>::value_type tool;
+        tool.name = QLatin1Char(rowOf(kind).letter) + QString::number(number);
+        tool.colour = colour;
+        list.insert(index, tool);
+    });
+    return index;
+}
+
+void removeSelected(Tools& tools)
+{
+    const std::optional<ToolKind> kind = selectedKind(tools);
+    forEachList(tools, [&](auto& list) {
+        if (kind == kindOf(list) && tools.selectedIndex >= 0 && tools.selectedIndex < list.size())
+            list.removeAt(tools.selectedIndex);
+    });
+}
+
+} // namespace overlay
