@@ -9,6 +9,7 @@
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
+#include <unistd.h>
 
 namespace {
 
@@ -17,6 +18,9 @@ int photographs(const QString& format)
 {
     return format == QLatin1String("csv") || format == QLatin1String("png") ? 20 : 200;
 }
+
+/// For what starting the program must not touch at all.
+constexpr int many = 4000;
 
 const char* const tools = R"({"points": [[120, 160], [10, 20]], "lines": [[10, 300, 200, 20]],
     "rectangles": [[30, 60, 100, 100]], "circles": [[150, 200, 40]]})";
@@ -28,6 +32,12 @@ void write(const QString& path, const QByteArray& bytes)
         qFatal("%s cannot be written", qPrintable(path));
 }
 
+void link(const QString& from, const QString& to)
+{
+    if (::link(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) != 0)
+        qFatal("%s cannot be linked", qPrintable(to));
+}
+
 /// Folders of photographs, the tools, and an empty folder for what comes out.
 class Folders
 {
@@ -35,7 +45,7 @@ public:
     Folders()
     {
         write(toolFile(), tools);
-        for (const int count : {20, 200})
+        for (const int count : {20, 200, many})
             QDir().mkdir(photographFolder(count));
         for (int i = 0; i < 20; ++i) {
             const simulator::Scene scene(simulator::SceneKind(i % 4), unsigned(i));
@@ -47,6 +57,8 @@ public:
             write(photographFolder(20) + name(i), bytes);
             for (int copy = i; copy < 200; copy += 20)
                 write(photographFolder(200) + name(copy), bytes);
+            for (int copy = i; copy < many; copy += 20)
+                link(photographFolder(20) + name(i), photographFolder(many) + name(copy));
         }
     }
     QString toolFile() const { return m_folder.filePath(QStringLiteral("tools.json")); }
@@ -88,6 +100,21 @@ void thermaphoto(benchmark::State& state, const QString& job)
     }
 }
 
+/// As the user waits, on so many cores. Also tells how many a second one core measures.
+void measureMany(benchmark::State& state)
+{
+    for ([[maybe_unused]] auto _ : state) {
+        const bench::ChildProcess ran =
+            bench::run(QStringLiteral(THERMAPHOTO),
+                       {"measure", "--format", "json", "--tools", folders().toolFile(), "--jobs",
+                        QString::number(state.range(0)), folders().photographFolder(many)});
+        if (!ran.succeeded)
+            state.SkipWithError("thermaphoto failed");
+        state.SetIterationTime(ran.elapsed / many);
+        state.counters["perCoreSecond"] = many / ran.processor;
+    }
+}
+
 void inNumpy(benchmark::State& state, const QString& job)
 {
     const int count = photographs(job);
@@ -111,6 +138,7 @@ BENCHMARK_CAPTURE(thermaphoto, npy, "npy")->Apply(once);
 BENCHMARK_CAPTURE(thermaphoto, tiff, "tiff")->Apply(once);
 BENCHMARK_CAPTURE(thermaphoto, csv, "csv")->Apply(once);
 BENCHMARK_CAPTURE(thermaphoto, png, "png")->Apply(once);
+BENCHMARK(measureMany)->Arg(1)->Arg(2)->Apply(once);
 BENCHMARK_CAPTURE(inNumpy, measure, "measure")->Apply(once);
 BENCHMARK_CAPTURE(inNumpy, npy, "npy")->Apply(once);
 BENCHMARK_CAPTURE(inNumpy, tiff, "tiff")->Apply(once);
