@@ -28,7 +28,8 @@ struct SelectionOrder
     QStringList names;  ///< of the photographs in it
     int modelIndex = 0; ///< file layout: 1, or 0 and any other
     QString target;     ///< the folder to write to; must exist
-    QString language;   ///< of the reports: the code of the installed translators
+    QString language;   ///< of the configuration record: RU and KO set reports in their own way;
+                        ///< the words themselves are the installed translators'
 };
 
 /// A photograph of which no file could be made.
