@@ -14,6 +14,7 @@
 #include <QFileDialog>
 #include <QLabel>
 #include <QLayout>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -131,6 +132,53 @@ private slots:
         QCOMPARE(menus.at(1)->menu()->actions().at(0)->text(), QStringLiteral("用户手册"));
         QVERIFY(fileAction(window, 0)->isEnabled());
         QVERIFY(!fileAction(window, 1)->isEnabled());
+    }
+
+    void menuEntriesShowTheirIcons()
+    {
+        const MainWindow window;
+        const QList<QAction*> menus = window.menuBar()->actions();
+        QList<QAction*> entries = menus.at(0)->menu()->actions();
+        entries.append(menus.at(1)->menu()->actions());
+        const char* const icons[] = {"connect", "Disconnect", "setting", "colse", "doc"};
+        QCOMPARE(entries.size(), 5);
+        for (int i = 0; i < entries.size(); ++i) {
+            const QIcon expected(QStringLiteral(":/photo/%1.png").arg(QLatin1String(icons[i])));
+            const QImage shown = entries.at(i)->icon().pixmap(32).toImage();
+            QVERIFY2(!shown.isNull(), icons[i]);
+            QVERIFY2(shown == expected.pixmap(32).toImage(), icons[i]);
+        }
+    }
+
+    void theWindowKeepsItsStyle()
+    {
+        const MainWindow window;
+        QCOMPARE(window.styleSheet(), QStringLiteral("QMainWindow#MainWindow{\n"
+                                                     "/*background-color: rgb(255, 255, 255);*/\n"
+                                                     "}"));
+        for (const char* name : {"label", "label_2"}) {
+            const auto* label = window.findChild<QLabel*>(QLatin1String(name));
+            QCOMPARE(label->font().family(), QStringLiteral("微软雅黑"));
+            QCOMPARE(label->styleSheet(), QString());
+        }
+    }
+
+    /// Only modes that begin and end change it.
+    void aPollThatFindsNothingLeavesTheMenu()
+    {
+        MainWindow window;
+        window.timeout_connect();
+        QVERIFY(fileAction(window, 0)->isEnabled());
+        QVERIFY(!fileAction(window, 1)->isEnabled());
+        drives.append(makeDrive(QStringLiteral("imager")));
+        window.timeout_connect();
+        drives.clear();
+        window.Action_connect(); // looks anew without leaving the mode
+        window.timeout_connect();
+        QCOMPARE(statusText(window), waitingText);
+        QCOMPARE(modeArea(window)->count(), 0);
+        QVERIFY(!fileAction(window, 0)->isEnabled());
+        QVERIFY(fileAction(window, 1)->isEnabled());
     }
 
     void everyMenuEntryHasAShortcutOfItsOwn()
@@ -559,6 +607,18 @@ private slots:
         fileAction(window, 2)->trigger();
         QVERIFY(first);
         QVERIFY(window.settingsDialog() != first);
+    }
+
+    void theSettingsDialogIsToldTheFolderInUse()
+    {
+        config::replaceAlarmFolder(QStringLiteral("/in/use"));
+        MainWindow window;
+        config::replaceAlarmFolder(QStringLiteral("/changed/meanwhile"));
+        fileAction(window, 2)->trigger();
+        const seting* dialog = window.settingsDialog();
+        QCOMPARE(dialog->folder, QStringLiteral("/in/use"));
+        QCOMPARE(dialog->findChild<QLineEdit*>(QStringLiteral("lineEdit"))->text(),
+                 QStringLiteral("/in/use"));
     }
 
     void oldSettingsDialogsGo()

@@ -13,6 +13,7 @@
 #include <QMetaMethod>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QTranslator>
 
 namespace {
 
@@ -103,6 +104,48 @@ private slots:
             const auto* label = dialog.findChild<QLabel*>(QLatin1String(name));
             QCOMPARE(label->font().family(), QStringLiteral("Microsoft YaHei"));
         }
+    }
+
+    void textsInTheirPlaces()
+    {
+        const seting dialog;
+        const auto text = [&dialog](const char* name) {
+            return dialog.findChild<QWidget*>(QLatin1String(name))->property("text").toString();
+        };
+        QCOMPARE(text("label"), QStringLiteral("语言"));
+        QCOMPARE(text("label_2"), QStringLiteral("报警历史路径"));
+        QCOMPARE(text("pushButton"), QStringLiteral("···"));
+        QCOMPARE(text("pushButton_2"), QStringLiteral("确定"));
+        QCOMPARE(text("pushButton_3"), QStringLiteral("取消"));
+    }
+
+    /// A language is found by those who do not speak the one that is set.
+    void entriesAreTheSameInEveryLanguage_data()
+    {
+        QTest::addColumn<QString>("catalogue");
+        QTest::addColumn<QString>("caption");
+        QTest::newRow("English") << "Demo_EN"
+                                 << "Language";
+        QTest::newRow("Russian") << "Demo_RU"
+                                 << "Язык";
+        QTest::newRow("Korean") << "Demo_KO"
+                                << "언어";
+    }
+    void entriesAreTheSameInEveryLanguage()
+    {
+        QFETCH(QString, catalogue);
+        QTranslator translator;
+        QVERIFY(translator.load(QStringLiteral(":/%1.qm").arg(catalogue)));
+        QCoreApplication::installTranslator(&translator);
+        const seting dialog;
+        QCoreApplication::removeTranslator(&translator);
+        QTEST(dialog.findChild<QLabel*>(QStringLiteral("label"))->text(), "caption");
+        const auto* combo = dialog.findChild<QComboBox*>(QStringLiteral("comboBox"));
+        QStringList entries;
+        for (int i = 0; i < combo->count(); ++i)
+            entries.append(combo->itemText(i));
+        QCOMPARE(entries, QStringList({QStringLiteral("简体中文"), QStringLiteral("English"),
+                                       QStringLiteral("Russian"), QStringLiteral("Korean")}));
     }
 
     void escapeCancels()
@@ -293,6 +336,29 @@ private slots:
         QCOMPARE(dialog.findChild<QLineEdit*>(QStringLiteral("lineEdit"))->text(), expected);
         QCOMPARE(sent.count(), 1);
         QCOMPARE(sent.at(0).at(0).toString(), expected);
+    }
+
+    void cancelAfterChoosingAFolderKeepsIt()
+    {
+        const QString chosen = testing::profile().home() + QStringLiteral("/Documents/chosen");
+        QVERIFY(QDir().mkpath(chosen));
+        seting dialog;
+        dialog.show();
+        activate(dialog, 2);
+        const QSignalSpy sent(&dialog, &seting::send_addr);
+        testing::Answer<QFileDialog> answer([&](QFileDialog& box) {
+            box.selectFile(chosen);
+            box.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(chosen);
+            QMetaObject::invokeMethod(&box, "accept");
+        });
+        press(dialog, "pushButton");
+        QVERIFY(answer.wasAsked());
+        press(dialog, "pushButton_3");
+        QVERIFY(!dialog.isVisible());
+        QCOMPARE(sent.count(), 1); // nothing takes it back
+        QCOMPARE(sent.at(0).at(0).toString(), dialog.folder);
+        QCOMPARE(dialog.folder, QString(chosen).replace(QLatin1Char('/'), QLatin1Char('\\')));
+        QCOMPARE(config::read().language, QStringLiteral("EN"));
     }
 
     void cancellingTheChoiceSendsTheFolderAgain()
