@@ -29,6 +29,20 @@ function(thermadesk_add_test name)
         TIMEOUT ${patience} LABELS "${TEST_LABELS}" COST "0${TEST_SECONDS}")
 endfunction()
 
+# thermadesk_add_locales(TEST LOCALE...)
+#
+# The same program once more where numbers and dates are written in another way ("ar_EG": digits of
+# their own), for what it writes, shows and reads in fixed forms. Qt has the data of every locale.
+function(thermadesk_add_locales test)
+    if(WIN32) # asks the system, not the environment
+        return()
+    endif()
+    foreach(locale ${ARGN})
+        thermadesk_add_variant(${test} in_${locale}
+            ENVIRONMENT THERMADESK_TEST_LOCALE=${locale}.UTF-8)
+    endforeach()
+endfunction()
+
 # thermadesk_add_variant(TEST NAME ENVIRONMENT variable=value... [SECONDS n] [LONG])
 #
 # The same program once more in other surroundings, as TEST_NAME. LONG ones are for .ci/nightly: they

@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QLocale>
 #include <QSaveFile>
 
 namespace simulator {
@@ -86,8 +87,8 @@ QString SimulatedDisk::store(const QByteArray& photograph, int modelIndex, const
     const QString folder = m_root + photographFolderName(modelIndex);
     if (!m_plugged || !QDir().mkpath(folder))
         return {};
-    const QString name =
-        folder + QLatin1Char('/') + takenAt.toString(QStringLiteral("yyyyMMdd_hhmmss"));
+    const QString name = folder + QLatin1Char('/') +
+                         QLocale::c().toString(takenAt, QStringLiteral("yyyyMMdd_hhmmss"));
     QString path = name + QStringLiteral(".bmp");
     for (int number = 2; QFile::exists(path); ++number)
         path = name + QStringLiteral("_%1.bmp").arg(number);

@@ -341,8 +341,9 @@ private slots:
         QCOMPARE(information(1), QStringLiteral("300.7 KB")); // 307,966 bytes
         const QFileInfo info(window->path);
         const QDateTime birth = info.birthTime();
-        QCOMPARE(information(2), (birth.isValid() ? birth : info.metadataChangeTime())
-                                     .toString(QStringLiteral("yyyy/MM/dd HH:mm")));
+        QCOMPARE(information(2),
+                 QLocale::c().toString(birth.isValid() ? birth : info.metadataChangeTime(),
+                                       QStringLiteral("yyyy/MM/dd HH:mm")));
         QCOMPARE(information(3), QStringLiteral("0.95"));
         QCOMPARE(information(4), QStringLiteral("240×320"));
         QCOMPARE(information(5), QStringLiteral("°C"));

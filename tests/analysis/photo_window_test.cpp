@@ -288,8 +288,9 @@ private slots:
         QCOMPARE(window->thumbnails.size(), 4);
         const QFileInfo file(folder + QStringLiteral("a.bmp"));
         const QDateTime birth = file.birthTime();
-        QCOMPARE(window->fileDates.at(2), (birth.isValid() ? birth : file.metadataChangeTime())
-                                              .toString(QStringLiteral("yyyy/MM/dd HH:mm")));
+        QCOMPARE(window->fileDates.at(2),
+                 QLocale::c().toString(birth.isValid() ? birth : file.metadataChangeTime(),
+                                       QStringLiteral("yyyy/MM/dd HH:mm")));
         QVERIFY(log.contains(QStringLiteral("所含文件夹: (\"DCIM_100\")")) ||
                 log.contains(QStringLiteral("所含文件夹: (DCIM_100)")));
         QVERIFY(log.contains(QStringLiteral("图片地址 ") + window->imageFolder));
