@@ -21,9 +21,14 @@
 
 namespace {
 
+/// With the captions that are tied to it.
 QString nameOf(QWidget* widget)
 {
-    return QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name);
+    QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(widget);
+    QString name = spoken->text(QAccessible::Name);
+    for (const auto& caption : spoken->relations(QAccessible::Label))
+        name.prepend(caption.first->text(QAccessible::Name) + QLatin1Char(' '));
+    return name;
 }
 
 bool hasLetters(const QString& text)
