@@ -4,6 +4,7 @@
 #include "analysis/browser_menu.h"
 #include "analysis/photograph_views.h"
 #include "config/configuration_record.h"
+#include "config/language.h"
 #include "dialogs/dialogs.h"
 #include "files/paths.h"
 #include "platform/removable_drives.h"
@@ -46,9 +47,9 @@ photo_window::photo_window(QObject* owner, QWidget* parent)
     ui->setupUi(this);
     connect(&m_thumbnails, &Thumbnails::changed, this,
             [this](int index) { m_view->update(m_view->model()->index(index, m_pictureColumn)); });
-    m_russian = config::read().language == QLatin1String("RU");
-    if (m_russian)
-        applyRussianTabs();
+    m_hasWideCaptions = config::languageOf(config::read().language).hasWideCaptions;
+    if (m_hasWideCaptions)
+        widenTabs();
 
     ui->listWidget->setResizeMode(QListView::Adjust);
     ui->listWidget->setMovement(QListView::Static);
@@ -59,7 +60,7 @@ photo_window::photo_window(QObject* owner, QWidget* parent)
 
 photo_window::~photo_window() = default;
 
-void photo_window::applyRussianTabs()
+void photo_window::widenTabs()
 {
     ui->tabWidget->setStyleSheet(
         QStringLiteral("QTabWidget#tabWidget{border-color:rgb(255,0,0);}"));
@@ -178,7 +179,7 @@ void photo_window::on_pushButton_4_clicked()
 
 void photo_window::on_pushButton_3_clicked()
 {
-    auto* table = photographTable(*this, m_thumbnails, m_russian, this);
+    auto* table = photographTable(*this, m_thumbnails, m_hasWideCaptions, this);
     table->setHorizontalHeaderLabels({tr("编号"), tr("图像"), tr("名称"), tr("时间"), tr("大小")});
     connect(table, &QTableWidget::itemDoubleClicked, this, &photo_window::table_item_doubleclicked);
     onReturn(table, [this, table] {

@@ -59,7 +59,7 @@ public slots:
     void on_pushButton_clicked();
 
 private:
-    void applyRussianTabs();
+    void widenTabs();
     void showView(QAbstractItemView* view, int pictureColumn);
     void open(const QString& name);
     QStringList chosenNames() const;
@@ -68,7 +68,7 @@ private:
 
     const std::unique_ptr<Ui::photo_window> ui;
     QObject* const m_owner;
-    bool m_russian = false;
+    bool m_hasWideCaptions = false;
     QAbstractItemView* m_view = nullptr; ///< the list or table shown, a child
     int m_pictureColumn = 0;             ///< of m_view
     analysis::Thumbnails m_thumbnails;

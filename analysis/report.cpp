@@ -1,5 +1,6 @@
 #include "analysis/report.h"
 
+#include "config/language.h"
 #include "files/whole_file.h"
 
 #include <QBuffer>
@@ -58,12 +59,13 @@ struct Field
     const char* caption;
     InformationRow row;
     Place place;
-    Place russianPlace;
+    Place widePlace; ///< behind wide captions
     int y;
 };
 
-/// What stands where on the first page, line by line. The Russian values stand as far behind their
-/// captions as these are long, unevenly; the last caption makes way for the value in front of it.
+/// What stands where on the first page, line by line. Values behind wide captions stand as far
+/// behind their captions as these are long, unevenly; the last caption makes way for the value in
+/// front of it.
 constexpr std::array<Field, 10> fields{{
     {QT_TRANSLATE_NOOP("Analysis_Widget", "时间:"),
      InformationRow::Created,
@@ -132,9 +134,7 @@ QString translated(const char* text)
 QFont reportFont(int pixelSize, int weight, const QString& language)
 {
     QFont font;
-    font.setFamilies({QStringLiteral("Microsoft YaHei"), language == QLatin1String("KO")
-                                                             ? QStringLiteral("Noto Sans CJK KR")
-                                                             : QStringLiteral("Noto Sans CJK SC")});
+    font.setFamilies({QStringLiteral("Microsoft YaHei"), config::languageOf(language).font});
     font.setStyleStrategy(QFont::PreferNoShaping);
     font.setPixelSize(pixelSize);
     font.setWeight(weight);
@@ -199,7 +199,8 @@ private:
 
     const Place& place(const Field& field) const
     {
-        return m_report.language == QLatin1String("RU") ? field.russianPlace : field.place;
+        return config::languageOf(m_report.language).hasWideCaptions ? field.widePlace
+                                                                     : field.place;
     }
 
     void paintTools(Row first, Row last)

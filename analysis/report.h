@@ -34,7 +34,7 @@ struct Report
     Conversion conversion;
     int unitIndex = 0; ///< of the unit selector: 0 °C, anything else °F
     std::vector<ToolCells> tools;
-    QString language; ///< "RU" puts values further right, behind its longer captions
+    QString language; ///< a code of config/language.h
 };
 
 /// A temperature beside the colour strip: baseline start on the canvas, and its text.

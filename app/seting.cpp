@@ -1,6 +1,7 @@
 #include "app/seting.h"
 
 #include "config/configuration_record.h"
+#include "config/language.h"
 #include "dialogs/dialogs.h"
 
 #include "ui_seting.h"
@@ -9,13 +10,8 @@
 #include <QFileDialog>
 #include <QKeyEvent>
 #include <QMessageBox>
-#include <QStringList>
 
 namespace {
-
-/// In the order of the combo box's entries.
-const QStringList languageCodes{QStringLiteral("CH"), QStringLiteral("EN"), QStringLiteral("RU"),
-                                QStringLiteral("KO")};
 
 QString buttonSheet(int radius, const QString& size)
 {
@@ -40,7 +36,9 @@ seting::seting(QWidget* parent) : QWidget(parent), ui(std::make_unique<Ui::setin
     setWindowFlags(Qt::Dialog);
     setWindowModality(Qt::ApplicationModal);
 
-    const int stored = languageCodes.indexOf(config::read().language);
+    for (const config::Language& known : config::languages())
+        ui->comboBox->addItem(known.title, known.code);
+    const int stored = ui->comboBox->findData(config::read().language);
     if (stored >= 0)
         ui->comboBox->setCurrentIndex(stored);
     setFolder(config::read().alarmFolder);
@@ -106,5 +104,6 @@ void seting::on_comboBox_currentIndexChanged(int /*index*/) {}
 
 void seting::on_comboBox_activated(int index)
 {
-    language = languageCodes.value(index, language);
+    if (index >= 0 && index < ui->comboBox->count())
+        language = ui->comboBox->itemData(index).toString();
 }

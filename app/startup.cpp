@@ -1,6 +1,7 @@
 #include "app/startup.h"
 
 #include "config/configuration_record.h"
+#include "config/language.h"
 
 #include <QApplication>
 #include <QStyle>
@@ -33,23 +34,12 @@ QString languageCode()
 
 Translators::Translators(const QString& languageCode)
 {
-    const auto installApplication = [this](const QString& catalogue) {
-        m_application.load(catalogue);
+    const config::Language& language = config::languageOf(languageCode);
+    if (!language.catalogue.isEmpty()) {
+        m_application.load(language.catalogue);
         QCoreApplication::installTranslator(&m_application);
-    };
-    if (languageCode == QLatin1String("EN")) {
-        installApplication(QStringLiteral(":/Demo_EN.qm"));
-        // There is no such catalogue: Qt's own texts are English already.
-        m_qtBase.load(QStringLiteral("qt_zh_EN.qm"), QStringLiteral(":/"));
-    } else if (languageCode == QLatin1String("RU")) {
-        installApplication(QStringLiteral(":/Demo_RU.qm"));
-        m_qtBase.load(QStringLiteral(":/qtbase_ru.qm"));
-    } else if (languageCode == QLatin1String("KO")) {
-        installApplication(QStringLiteral(":/Demo_KO.qm"));
-        m_qtBase.load(QStringLiteral(":/qtbase_ko.qm"));
-    } else {
-        m_qtBase.load(QStringLiteral(":/qt_zh_CN.qm"));
     }
+    m_qtBase.load(language.qtCatalogue, language.qtFolder);
     QCoreApplication::installTranslator(&m_qtBase);
 }
 

@@ -21,9 +21,9 @@ QString languageCode();
 /// The catalogues of one run: they are installed on construction and speak while the object lives,
 /// so main() holds it until the process ends. Needs the application object and resources::load().
 ///
-/// Codes are compared case-sensitively; every code but "EN", "RU" and "KO" leaves the program's own
-/// texts in their source language, Chinese. A catalogue that cannot be loaded is installed empty:
-/// that is how English gets Qt's built-in texts.
+/// Codes are compared case-sensitively; one that there is not leaves the program's own texts in
+/// their source language, Chinese. A catalogue that cannot be loaded is installed empty: that is
+/// how English gets Qt's built-in texts.
 class Translators
 {
 public:

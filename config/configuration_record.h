@@ -18,7 +18,7 @@ namespace config {
 struct Record
 {
     QString reserved;    ///< field 0, always "000"; carried along, read by nobody
-    QString language;    ///< field 1: "CH", "EN", "RU" or "KO", case-sensitive
+    QString language;    ///< field 1: a code of language.h, case-sensitive
     QString alarmFolder; ///< field 2: folder of the alarm records; a comma in it cuts it short
 };
 

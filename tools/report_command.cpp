@@ -1,5 +1,6 @@
 #include "analysis/photograph_report.h"
 #include "config/configuration_record.h"
+#include "config/language.h"
 #include "files/whole_file.h"
 #include "platform/console.h"
 #include "resources/resources.h"
@@ -21,14 +22,20 @@ using files::Problem;
 namespace tools {
 namespace {
 
+QStringList languageCodes()
+{
+    QStringList codes;
+    for (const config::Language& language : config::languages())
+        codes.append(language.code);
+    return codes;
+}
+
 /// The language that the windows speak.
 QString configuredLanguage()
 {
     if (!config::exists())
         return QStringLiteral("EN");
-    const QString language = config::read().language;
-    const QStringList translated{QStringLiteral("EN"), QStringLiteral("RU"), QStringLiteral("KO")};
-    return translated.contains(language) ? language : QStringLiteral("CH");
+    return config::languageOf(config::read().language).code;
 }
 
 } // namespace
@@ -48,7 +55,7 @@ int reportCommand(const QStringList& arguments)
                                              "measure --help."));
     line.add({QStringLiteral("language")},
              QStringLiteral("Language of the report. Default: the one that ThermaDesk is set to."),
-             QStringLiteral("CH|EN|RU|KO"), configuredLanguage());
+             languageCodes().join(QLatin1Char('|')), configuredLanguage());
     addTargetOptions(line);
     if (!line.parse(arguments))
         return line.status();
@@ -59,11 +66,10 @@ int reportCommand(const QStringList& arguments)
     const std::optional<int> modelIndex = line.modelIndex();
     const UnitChoice unit = readUnit(line);
     const Existing mode = existing(line);
-    const auto language =
-        line.choice<QString>(QStringLiteral("language"), {{"CH", QStringLiteral("CH")},
-                                                          {"EN", QStringLiteral("EN")},
-                                                          {"RU", QStringLiteral("RU")},
-                                                          {"KO", QStringLiteral("KO")}});
+    const QString language = line.value(QStringLiteral("language"));
+    if (!config::findLanguage(language))
+        line.refuse(QStringLiteral("--language is one of %1")
+                        .arg(languageCodes().join(QStringLiteral(", "))));
     if (!line.isSet(QStringLiteral("output")))
         line.refuse(QStringLiteral("--output is missing"));
     const overlay::Tools tools = readTools(line);
@@ -78,7 +84,7 @@ int reportCommand(const QStringList& arguments)
 
     resources::load();
     QTranslator translator;
-    if (translator.load(QStringLiteral(":/Demo_%1.qm").arg(language)))
+    if (translator.load(config::languageOf(language).catalogue))
         QCoreApplication::installTranslator(&translator);
     photographs.makeWork = [&]() -> Work {
         const auto reader = std::make_shared<PhotographReader>();

@@ -3,6 +3,7 @@
 
 #include "app/startup.h"
 #include "config/configuration_record.h"
+#include "config/language.h"
 #include "resources/resources.h"
 #include "simulator/tour/walk.h"
 
@@ -52,16 +53,20 @@ int main(int argc, char** argv)
 
     QCommandLineParser parser;
     const QCommandLineOption language(QStringLiteral("language"),
-                                      QStringLiteral("EN, CH, RU or KO."), QStringLiteral("code"),
-                                      QStringLiteral("EN"));
+                                      QStringLiteral("A code of the configuration."),
+                                      QStringLiteral("code"), QStringLiteral("EN"));
     const QCommandLineOption output(QStringLiteral("output"), QStringLiteral("Where pictures go."),
                                     QStringLiteral("folder"), QStringLiteral("."));
-    parser.addOptions({language, output});
+    const QCommandLineOption list(QStringLiteral("languages"), QStringLiteral("Names all codes."));
+    parser.addOptions({language, output, list});
     parser.addHelpOption();
     parser.process(application);
-    const QStringList codes{QStringLiteral("EN"), QStringLiteral("CH"), QStringLiteral("RU"),
-                            QStringLiteral("KO")};
-    if (!codes.contains(parser.value(language)) || !parser.positionalArguments().isEmpty() ||
+    if (parser.isSet(list)) {
+        for (const config::Language& known : config::languages())
+            std::puts(qPrintable(known.code));
+        return 0;
+    }
+    if (!config::findLanguage(parser.value(language)) || !parser.positionalArguments().isEmpty() ||
         !QDir().mkpath(parser.value(output))) {
         std::fputs(qPrintable(parser.helpText()), stderr);
         return 2;

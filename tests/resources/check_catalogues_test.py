@@ -15,7 +15,7 @@ class Page : public QObject
     QString text() { return tr("连接") + tr("第%1张").arg(1); }
 };
 """
-GLOSSARY = "连接\tConnect\tПодключить\t연결\n第%1张\tPicture %1\tСнимок %1\t사진 %1\n"
+GLOSSARY = "source\tEN\tRU\tKO\n连接\tConnect\tПодключить\t연결\n第%1张\tPicture %1\tСнимок %1\t사진 %1\n"
 
 
 class CheckCatalogues(unittest.TestCase):

@@ -1,3 +1,4 @@
+#include "config/language.h"
 #include "tests/support/test_run.h"
 
 #include <QColorDialog>
@@ -18,10 +19,20 @@
 
 namespace {
 
-const QStringList catalogues = {":/Demo_EN.qm",   ":/Demo_RU.qm",   ":/Demo_KO.qm",
-                                ":/qtbase_ru.qm", ":/qtbase_ko.qm", ":/qt_zh_CN.qm"};
-const QStringList sounds = {":/Sound/CH/Alarm.wav", ":/Sound/EN/Alarm.wav", ":/Sound/KO/Alarm.wav",
-                            ":/Sound/RU/Alarm.wav"};
+QStringList textsOf(QString config::Language::*fact)
+{
+    QStringList texts;
+    for (const config::Language& language : config::languages()) {
+        if (!(language.*fact).isEmpty())
+            texts.append(language.*fact);
+    }
+    return texts;
+}
+
+/// All but Qt's English catalogue, which there is not.
+const QStringList catalogues =
+    textsOf(&config::Language::catalogue) + textsOf(&config::Language::qtCatalogue).filter(":/");
+const QStringList sounds = textsOf(&config::Language::sound).replaceInStrings("qrc:", ":");
 const QStringList icons = {
     ":/photo/connect.png", ":/photo/Disconnect.png", ":/photo/setting.png", ":/photo/colse.png",
     ":/photo/doc.png",     ":/photo/camaer.png",     ":/photo/stop.png",    ":/photo/save.png",
@@ -281,14 +292,15 @@ void EmbeddedResourcesTest::catalogueLoads()
 
 void EmbeddedResourcesTest::catalogueHoldsWhatItsSourceSays_data()
 {
-    addRows({"Demo_EN", "Demo_RU", "Demo_KO"});
+    addRows(textsOf(&config::Language::catalogue));
 }
 
 void EmbeddedResourcesTest::catalogueHoldsWhatItsSourceSays()
 {
     QFETCH(QString, path);
-    const Installed translator(":/" + path + ".qm");
-    const QByteArray xml = contents(CATALOGUE_SOURCES "/" + path + ".ts");
+    const Installed translator(path);
+    const QString name = QFileInfo(path).completeBaseName();
+    const QByteArray xml = contents(CATALOGUE_SOURCES "/" + name + ".ts");
     QXmlStreamReader source(xml);
     QByteArray context;
     QByteArray text;
