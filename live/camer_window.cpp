@@ -1,6 +1,7 @@
 #include "live/camer_window.h"
 
 #include "config/configuration_record.h"
+#include "config/language.h"
 #include "dialogs/dialogs.h"
 #include "files/paths.h"
 #include "live/alarm_records.h"
@@ -38,7 +39,7 @@ const QString blinkOnStyle = QStringLiteral("background-color: rgb(255, 0, 0);\n
                                             "color: rgb(255, 255, 0);");
 const QString blinkOffStyle = QStringLiteral("background-color: rgb(255, 255, 255);\n"
                                              "color: rgb(255, 0, 0);");
-/// Russian titles are longer: tabs 150 wide instead of the form's 85.
+/// For wide captions: tabs 150 wide instead of the form's 85.
 const QString wideTabStyle =
     QStringLiteral("QTabWidget#tabWidget{border-color:rgb(255,0,0);}"
                    "QTabBar::tab {color: rgb(255, 255, 255); border-top-left-radius: 5px;"
@@ -112,7 +113,7 @@ void camer_window::readConfiguration()
     const config::Record record = config::read();
     languageCode = record.language;
     historyFolder = record.alarmFolder;
-    if (languageCode == QLatin1String("RU"))
+    if (config::languageOf(languageCode).hasWideCaptions)
         ui->tabWidget->setStyleSheet(wideTabStyle);
 }
 
@@ -324,10 +325,10 @@ void camer_window::playAlarm()
     // Not restarted while it plays: each tick starts it again only once it has ended.
     if (player->state() == QMediaPlayer::PlayingState)
         return;
-    for (const char* code : {"CH", "EN", "KO", "RU"}) {
-        const QUrl sound(QStringLiteral("qrc:/Sound/%1/Alarm.wav").arg(QLatin1String(code)));
+    if (const config::Language* language = config::findLanguage(languageCode)) {
         // Loaded once: where there is no audio device, each loading complains.
-        if (languageCode == QLatin1String(code) && player->media().request().url() != sound)
+        const QUrl sound(language->sound);
+        if (player->media().request().url() != sound)
             player->setMedia(sound);
     }
     player->play();
