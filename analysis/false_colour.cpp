@@ -1,5 +1,6 @@
 #include "analysis/false_colour.h"
 
+#include <opencv2/core/utility.hpp>
 #include <opencv2/imgproc.hpp>
 
 namespace analysis {
@@ -28,6 +29,11 @@ QImage colourStrip(const Palette& palette)
 
 void mapColours(const cv::Mat& gray, const Palette& lookup, cv::Mat& colours)
 {
+    // Threads of its own would take longer to wake than these pictures take.
+    [[maybe_unused]] static const bool isSerial = [] {
+        cv::setNumThreads(1);
+        return true;
+    }();
     // OpenCV takes tables as matrices it may write to, but only reads this one.
     const cv::Mat table(format::paletteEntries, 1, CV_8UC3, const_cast<Rgb*>(lookup.data()));
     cv::applyColorMap(gray, colours, table);

@@ -1,6 +1,7 @@
 #include "analysis/photograph_export.h"
 
 #include "analysis/false_colour.h"
+#include "files/paths.h"
 
 #include <QBuffer>
 #include <QFileInfo>
@@ -219,7 +220,7 @@ QString suffixOf(ExportFormat format)
 
 QString exportName(const QString& photograph, const QString& suffix)
 {
-    QString name = QFileInfo(photograph).fileName();
+    QString name = QFileInfo(files::localPath(photograph)).fileName();
     if (name.endsWith(QLatin1String(".bmp"), Qt::CaseInsensitive))
         name.chop(4);
     return name + QLatin1Char('.') + suffix;

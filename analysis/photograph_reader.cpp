@@ -44,6 +44,11 @@ Outcome whyUnreadable(const QString& path)
     return {Problem::CannotRead, file.errorString()};
 }
 
+Outcome tooShort(int bytes, int needed)
+{
+    return {Problem::TooShort, QStringLiteral("%1/%2").arg(bytes).arg(needed)};
+}
+
 } // namespace
 
 PhotographReader::PhotographReader() : m_photograph(std::make_unique<Photograph>()) {}
@@ -56,15 +61,30 @@ Outcome PhotographReader::read(const QString& path, std::optional<int> modelInde
         return whyUnreadable(path);
     const int fewest = modelIndex ? bytesNeeded(format::layoutOf(*modelIndex)) : fewestBytes();
     if (m_readCount < fewest)
-        return {Problem::TooShort, QStringLiteral("%1/%2").arg(m_readCount).arg(fewest)};
+        return tooShort(m_readCount, fewest);
 
     const std::optional<int> layout = modelIndex ? modelIndex : knownLayout();
+    const Layout* const cutOff = layout ? nullptr : cutOffLayout();
+    if (cutOff)
+        return tooShort(m_readCount, bytesNeeded(*cutOff));
     if (!layout)
         return {Problem::NeitherLayout, machineIds()};
     m_modelIndex = *layout;
     if (!analysis::read(m_buffer.bytes(), m_readCount, m_modelIndex, *m_photograph))
         return {Problem::OtherImager, QString::number(m_photograph->parameters.machineId)};
     return {};
+}
+
+const Layout* PhotographReader::cutOffLayout() const
+{
+    const uchar* const bytes = m_buffer.bytes();
+    constexpr int bitsOfAPixel = 28; // its place in a bitmap's header
+    const auto* const layout =
+        std::find_if(layouts.begin(), layouts.end(), [this, bytes](const Layout& candidate) {
+            return bytes[bitsOfAPixel] == 8 * candidate.pixelBytes &&
+                   m_readCount < bytesNeeded(candidate);
+        });
+    return bytes[0] == 'B' && bytes[1] == 'M' && layout != layouts.end() ? layout : nullptr;
 }
 
 /// Nothing where the photograph ends before its blocks do.

@@ -21,9 +21,10 @@ public:
     PhotographReader();
 
     /// `modelIndex` is 0 or 1; without it, the layout is the one in which the machine ID of a known
-    /// imager stands, and 0 if that goes for both. After Problem::OtherImager readCount(),
-    /// modelIndex() and the parameters are this photograph's and nothing else is; after any other
-    /// problem nothing is.
+    /// imager stands, and 0 if that goes for both. One that stands in neither, of a file that
+    /// begins as layout 0 does and ends early, is too short and of no other imager. After
+    /// Problem::OtherImager readCount(), modelIndex() and the parameters are this photograph's and
+    /// nothing else is; after any other problem nothing is.
     files::Outcome read(const QString& path, std::optional<int> modelIndex);
 
     int readCount() const { return m_readCount; } ///< bytes, at most FileBuffer::size
@@ -33,6 +34,8 @@ public:
 
 private:
     std::optional<quint32> machineId(const format::Layout& layout) const;
+    /// The layout that the bitmap in front is of, when the file ends before its blocks do.
+    const format::Layout* cutOffLayout() const;
     std::optional<int> knownLayout() const;
     QString machineIds() const;
 

@@ -2,6 +2,7 @@
 
 #include "analysis/false_colour.h"
 #include "analysis/report_overlay.h"
+#include "files/paths.h"
 
 #include <QFileInfo>
 
@@ -14,7 +15,7 @@ Report photographReport(const QString& path, const PhotographReader& reader, Uni
     const Parameters& parameters = photograph.parameters;
     const ShownUnit shown = shownUnit(unit, parameters.unit, reader.isRaw());
     Report report;
-    const QFileInfo file(path);
+    const QFileInfo file(files::localPath(path));
     report.information =
         informationTexts(file.fileName(), createdText(file), reader.readCount(), parameters,
                          photograph.mean, shown.index, shown.conversion);

@@ -146,6 +146,13 @@ Outcome WholeFile::finish()
     return {};
 }
 
+Outcome makeFolder(const QString& path)
+{
+    std::error_code error;
+    fs::create_directories(native(path), error);
+    return error ? Outcome{Problem::CannotWrite, textOf(error)} : Outcome();
+}
+
 bool isRefused(const QString& path, Existing existing)
 {
     return existing == Existing::Refuse && QFileInfo::exists(localPath(path));

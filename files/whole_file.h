@@ -43,6 +43,9 @@ private:
     QFile m_aside;
 };
 
+/// Makes a folder with all folders above it; good when it is there already.
+Outcome makeFolder(const QString& path);
+
 /// Whether the name is taken and its file stays: then the work on a new one can be saved.
 bool isRefused(const QString& path, Existing existing);
 

@@ -10,7 +10,6 @@ namespace tools {
 CommandLine::CommandLine(const QString& command, const QString& summary) : m_command(command)
 {
     m_parser.setApplicationDescription(summary);
-    m_parser.addPositionalArgument(command, {}, command);
     m_parser.addPositionalArgument(QStringLiteral("PATH"),
                                    QStringLiteral("A photograph, or a folder of them (*.bmp)."),
                                    QStringLiteral("PATH…"));
@@ -34,10 +33,12 @@ void CommandLine::add(const QStringList& names, const QString& description,
 
 bool CommandLine::parse(const QStringList& arguments)
 {
-    if (!m_parser.parse(arguments))
+    QStringList own = arguments;
+    own.removeAt(1);
+    if (!m_parser.parse(own))
         refuse(m_parser.errorText());
     else if (isSet(QStringLiteral("help"))) {
-        print(m_parser.helpText().toUtf8());
+        m_status = print(help()) && flushOutput() ? status::good : status::someFailed;
         return false;
     } else if (paths().isEmpty())
         refuse(QStringLiteral("no photographs are named"));
@@ -54,6 +55,20 @@ std::optional<int> CommandLine::number(const QString& option, int least, int mos
         return number;
     refuse(QStringLiteral("--%1 is a whole number from %2 to %3").arg(option).arg(least).arg(most));
     return std::nullopt;
+}
+
+void CommandLine::require(const QString& option)
+{
+    if (value(option).isEmpty())
+        refuse(QStringLiteral("--%1 is missing").arg(option));
+}
+
+/// Qt's text knows of no commands: the first line is ours.
+QByteArray CommandLine::help() const
+{
+    const QString text = m_parser.helpText();
+    const QString usage = QStringLiteral("Usage: thermaphoto %1 [options] PATH…").arg(m_command);
+    return (usage + text.mid(text.indexOf(QLatin1Char('\n')))).toUtf8();
 }
 
 void CommandLine::refuse(const QString& error)

@@ -27,7 +27,8 @@ public:
     void add(const QStringList& names, const QString& description, const QString& valueName = {},
              const QString& defaultValue = {});
 
-    /// `arguments` start with the program and the command. False when the command ends here with
+    /// `arguments` start with the program and the command; options and paths may be mixed after
+    /// them. False when the command ends here with
     /// status(): help was asked for and printed, or there are errors and they were.
     bool parse(const QStringList& arguments);
 
@@ -51,6 +52,9 @@ public:
     /// The value as a whole number; nothing when the option is not given.
     std::optional<int> number(const QString& option, int least, int most);
 
+    /// Refuses arguments that give this option no value.
+    void require(const QString& option);
+
     /// Remembers what is wrong with the arguments; the first of several counts.
     void refuse(const QString& error);
 
@@ -61,13 +65,15 @@ public:
     bool isGood();
     int status() const { return m_status; }
 
-    QStringList paths() const { return m_parser.positionalArguments().mid(1); }
+    QStringList paths() const { return m_parser.positionalArguments(); }
     bool isRecursive() const { return isSet(QStringLiteral("recursive")); }
     /// 0 or 1; nothing for "auto".
     std::optional<int> modelIndex();
     int jobs();
 
 private:
+    QByteArray help() const;
+
     QString m_command;
     QCommandLineParser m_parser;
     QString m_error;

@@ -24,7 +24,7 @@ void addOptions(CommandLine& line)
     line.add({QStringLiteral("unit")},
              QStringLiteral("Unit of the temperatures. Default: file, the photograph's own."),
              QStringLiteral("C|F|file"), QStringLiteral("file"));
-    addTargetOptions(line);
+    addTargetOptions(line, QStringLiteral("."));
     line.add({QStringLiteral("separator")},
              QStringLiteral("csv: what stands between two numbers, one character or tab. Default: "
                             "a comma."),
@@ -75,13 +75,13 @@ void readSpan(CommandLine& line, ExportOptions& options)
 ExportOptions readOptions(CommandLine& line)
 {
     ExportOptions options;
+    line.require(QStringLiteral("format"));
     options.format =
         line.choice<ExportFormat>(QStringLiteral("format"), {{"csv", ExportFormat::Csv},
                                                              {"tiff", ExportFormat::Tiff},
                                                              {"npy", ExportFormat::Npy},
                                                              {"png", ExportFormat::Png}});
     options.modelIndex = line.modelIndex();
-    options.existing = existing(line);
     options.unit =
         line.choice<UnitChoice>(QStringLiteral("unit"), {{"C", UnitChoice::Celsius},
                                                          {"F", UnitChoice::Fahrenheit},
@@ -112,7 +112,9 @@ int exportCommand(const QStringList& arguments)
         return line.status();
     PhotographRun photographs;
     photographs.jobs = line.jobs();
-    const ExportOptions options = readOptions(line);
+    ExportOptions options = readOptions(line);
+    const TargetRules rules = readTargetRules(line);
+    options.existing = rules.existing;
     if (!line.isGood())
         return line.status();
 
@@ -128,7 +130,7 @@ int exportCommand(const QStringList& arguments)
             const QString& target = targets->at(index);
             const Outcome outcome =
                 exporter->run(photographs.entries[std::size_t(index)].path, target);
-            return {{}, targetReason(outcome, target)};
+            return targetResult(outcome, target, rules);
         };
     };
     return run(photographs);

@@ -3,9 +3,9 @@
 #include "tools/commands.h"
 #include "tools/messages.h"
 #include "tools/photograph_run.h"
+#include "tools/texts.h"
 
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 
 using analysis::Parameters;
@@ -55,7 +55,7 @@ QByteArray json(const QString& file, const PhotographReader& reader, bool isAcce
                              {QStringLiteral("markerB"), position(reader.photograph().markerB)},
                              {QStringLiteral("markerC"), position(reader.photograph().markerC)},
                              {QStringLiteral("mean"), ifAccepted(reader.photograph().mean)}};
-    return QJsonDocument(object).toJson(QJsonDocument::Compact);
+    return jsonLine(object);
 }
 
 QByteArray text(const QString& file, const PhotographReader& reader, bool isAccepted)
@@ -65,7 +65,7 @@ QByteArray text(const QString& file, const PhotographReader& reader, bool isAcce
     const auto tenths = [&unit](qint16 value) {
         return analysis::oneDecimal(value / 10.0) + unit;
     };
-    QString text = file + QLatin1Char('\n');
+    QString text = printable(file) + QLatin1Char('\n');
     const auto line = [&text](const char* title, const QString& value) {
         text += QStringLiteral("  %1 %2\n").arg(QLatin1String(title), -12).arg(value);
     };

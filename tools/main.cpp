@@ -24,6 +24,7 @@ constexpr struct
 
 constexpr const char* help =
     "Usage: thermaphoto COMMAND [options] PATH…\n"
+    "       thermaphoto help [COMMAND]\n"
     "Works on the imager's photographs, whole folders at once, without a display.\n"
     "\n"
     "Commands:\n"
@@ -31,17 +32,31 @@ constexpr const char* help =
     "  export    write temperatures (CSV, TIFF, NumPy) or pictures (PNG)\n"
     "  measure   measure photographs, all with the same tools\n"
     "  report    write a PDF report of each photograph\n"
+    "  help      show this help, or all options of a command\n"
     "\n"
     "Options:\n"
-    "  -h, --help     show this help; thermaphoto COMMAND --help tells more\n"
+    "  -h, --help     show this help; behind a command, all its options\n"
     "  -v, --version  show the version\n"
     "\n"
     "Ends with 0 when all went well, 1 when some photographs failed (a line on the error\n"
     "output tells why), 2 when the arguments made no sense.\n";
 
-int finish(bool isPrinted)
+int say(const char* text)
 {
-    return isPrinted && tools::flushOutput() ? tools::status::good : tools::status::someFailed;
+    const bool isPrinted = tools::print(text) && tools::flushOutput();
+    return isPrinted ? tools::status::good : tools::status::someFailed;
+}
+
+int run(const QString& name, const QStringList& arguments)
+{
+    for (const auto& command : commands) {
+        if (name == QLatin1String(command.name))
+            return command.run(arguments);
+    }
+    tools::printError((name.isEmpty() ? QStringLiteral("no command is named")
+                                      : QStringLiteral("there is no command %1").arg(name)) +
+                      QStringLiteral(" (see thermaphoto --help)"));
+    return tools::status::badUsage;
 }
 
 } // namespace
@@ -60,16 +75,12 @@ int main(int argc, char** argv)
     const QStringList arguments = QCoreApplication::arguments();
     const QString first = arguments.value(1);
 
-    if (first == QLatin1String("--help") || first == QLatin1String("-h"))
-        return finish(tools::print(help));
+    const QString topic = arguments.value(2);
     if (first == QLatin1String("--version") || first == QLatin1String("-v"))
-        return finish(tools::print("thermaphoto " THERMADESK_VERSION "\n"));
-    for (const auto& command : commands) {
-        if (first == QLatin1String(command.name))
-            return command.run(arguments);
-    }
-    tools::printError((first.isEmpty() ? QStringLiteral("no command is named")
-                                       : QStringLiteral("there is no command %1").arg(first)) +
-                      QStringLiteral(" (see thermaphoto --help)"));
-    return tools::status::badUsage;
+        return say("thermaphoto " THERMADESK_VERSION "\n");
+    if (first == QLatin1String("help") && !topic.isEmpty())
+        return run(topic, {arguments.first(), topic, QStringLiteral("--help")});
+    if (QStringList{"--help", "-h", "help"}.contains(first))
+        return say(help);
+    return run(first, arguments);
 }

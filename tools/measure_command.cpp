@@ -1,13 +1,16 @@
 #include "analysis/photograph_reader.h"
 #include "analysis/tool_statistics.h"
+#include "platform/console.h"
 #include "tools/commands.h"
 #include "tools/measuring_options.h"
 #include "tools/messages.h"
 #include "tools/photograph_run.h"
+#include "tools/texts.h"
 
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
+
+#include <cmath>
 
 using analysis::PhotographReader;
 using analysis::ToolRow;
@@ -30,19 +33,26 @@ QString typeOf(const ToolRow& row)
     return QLatin1String(overlay::rowOf(row.kind).name);
 }
 
+/// The number that a cell shows; null for what JSON has no number for.
+QJsonValue number(const QString& cell)
+{
+    const double value = cell.toDouble();
+    return std::isfinite(value) ? QJsonValue(value) : QJsonValue();
+}
+
 QByteArray json(const Measured& measured)
 {
     QJsonArray tools;
     for (const ToolRow& row : measured.rows)
         tools.append(QJsonObject{{QStringLiteral("name"), row.name},
                                  {QStringLiteral("type"), typeOf(row)},
-                                 {QStringLiteral("high"), row.high},
-                                 {QStringLiteral("low"), row.low},
-                                 {QStringLiteral("average"), row.average}});
+                                 {QStringLiteral("high"), number(row.high)},
+                                 {QStringLiteral("low"), number(row.low)},
+                                 {QStringLiteral("average"), number(row.average)}});
     const QJsonObject object{{QStringLiteral("file"), measured.file},
                              {QStringLiteral("unit"), measured.unit},
                              {QStringLiteral("tools"), tools}};
-    return QJsonDocument(object).toJson(QJsonDocument::Compact);
+    return jsonLine(object);
 }
 
 /// A field as spreadsheets take it: quoted where it must be.
@@ -113,12 +123,13 @@ int measureCommand(const QStringList& arguments)
     const UnitChoice unit = readUnit(line);
     const auto write = line.choice<Writer>(QStringLiteral("format"),
                                            {{"csv", csv}, {"json", json}, {"table", table}});
-    if (!line.isSet(QStringLiteral("tools")))
-        line.refuse(QStringLiteral("--tools is missing"));
+    line.require(QStringLiteral("tools"));
     const overlay::Tools tools = readTools(line);
     if (!line.isGood())
         return line.status();
 
+    // For eyes; a program gets the names as they are.
+    const bool isShown = write == table || (write == csv && platform::isTerminal(stdout));
     photographs.entries = listPhotographs(line.paths(), line.isRecursive());
     photographs.makeWork = [&]() -> Work {
         const auto reader = std::make_shared<PhotographReader>();
@@ -130,7 +141,7 @@ int measureCommand(const QStringList& arguments)
             const analysis::Photograph& photograph = reader->photograph();
             const analysis::ShownUnit shown =
                 shownUnit(unit, photograph.parameters.unit, reader->isRaw());
-            return {write({path, shown.letter(),
+            return {write({isShown ? printable(path) : path, shown.letter(),
                            toolRows(tools, photograph.temperatures, shown.conversion)}),
                     {}};
         };

@@ -1,5 +1,7 @@
 #include "tools/messages.h"
 
+#include "tools/texts.h"
+
 #include <cstdio>
 
 namespace tools {
@@ -20,12 +22,7 @@ bool flushOutput()
 
 void printError(const QString& text)
 {
-    QString line = text;
-    for (QChar& character : line) {
-        if (character.category() == QChar::Other_Control)
-            character = QLatin1Char('?');
-    }
-    const QByteArray bytes = "thermaphoto: " + line.toUtf8() + '\n';
+    const QByteArray bytes = "thermaphoto: " + printable(text).toUtf8() + '\n';
     std::fwrite(bytes.constData(), 1, std::size_t(bytes.size()), stderr);
 }
 

@@ -11,8 +11,7 @@ bool print(const QByteArray& text);
 /// Writes out what print() still holds back. False as above.
 bool flushOutput();
 
-/// One line on the error output, behind the program's name. Control characters of file names become
-/// "?", so that it stays one line.
+/// One printable line on the error output, behind the program's name.
 void printError(const QString& text);
 
 /// What went wrong, in a few words.

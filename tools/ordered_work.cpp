@@ -1,106 +1,89 @@
 #include "tools/ordered_work.h"
 
+#include <QFuture>
+#include <QSemaphore>
 #include <QThread>
+#include <QThreadPool>
+#include <QtConcurrentRun>
 
-#include <condition_variable>
+#include <deque>
 #include <memory>
 #include <mutex>
-#include <optional>
 #include <vector>
 
 namespace tools {
 namespace {
 
-class Queue
+/// As many works as there are threads at it, however often they change.
+class Works
 {
 public:
-    Queue(int count, int ahead) : m_count(count), m_results(std::size_t(ahead)) {}
+    explicit Works(const std::function<Work()>& makeWork) : m_makeWork(makeWork) {}
 
-    /// The next index to work on; nothing when there is none or the work was stopped.
-    std::optional<int> take()
+    Result run(int index)
     {
-        std::unique_lock lock(m_mutex);
-        m_room.wait(lock, [this] { return m_isStopped || m_next == m_count || hasRoom(); });
-        if (m_isStopped || m_next == m_count)
-            return std::nullopt;
-        return m_next++;
-    }
-
-    void put(int index, Result result)
-    {
+        const Work work = take();
+        Result result = work(index);
         const std::lock_guard lock(m_mutex);
-        slot(index) = std::move(result);
-        if (index == m_delivered)
-            m_ready.notify_one();
-    }
-
-    /// Waits for the result whose turn it is.
-    Result next()
-    {
-        std::unique_lock lock(m_mutex);
-        std::optional<Result>& result = slot(m_delivered);
-        m_ready.wait(lock, [&result] { return result.has_value(); });
-        Result taken = std::move(*result);
-        result.reset();
-        ++m_delivered;
-        m_room.notify_one();
-        return taken;
-    }
-
-    /// Returns how many were begun.
-    int stop()
-    {
-        const std::lock_guard lock(m_mutex);
-        m_isStopped = true;
-        m_room.notify_all();
-        return m_next;
+        m_idle.push_back(work);
+        return result;
     }
 
 private:
-    bool hasRoom() const { return m_next - m_delivered < int(m_results.size()); }
-    std::optional<Result>& slot(int index)
+    Work take()
     {
-        return m_results[std::size_t(index) % m_results.size()];
+        const std::lock_guard lock(m_mutex);
+        if (m_idle.empty())
+            return m_makeWork();
+        Work work = std::move(m_idle.back());
+        m_idle.pop_back();
+        return work;
     }
 
-    const int m_count;
+    const std::function<Work()>& m_makeWork;
     std::mutex m_mutex;
-    std::condition_variable m_room;
-    std::condition_variable m_ready;
-    std::vector<std::optional<Result>> m_results;
-    int m_next = 0;
-    int m_delivered = 0;
-    bool m_isStopped = false;
+    std::vector<Work> m_idle;
 };
 
 } // namespace
 
-void inOrder(int count, int jobs, const std::function<Work()>& makeWork,
-             const std::function<bool(int index, const Result&)>& deliver)
+int threadsToBeHad(int wanted)
 {
-    constexpr int aheadOfEach = 16;
-    jobs = std::min(jobs, count);
-    if (jobs == 0)
-        return;
-    Queue queue(count, jobs * aheadOfEach);
-    // Of Qt's kind, since the work is done with Qt: on Windows any other thread is watched by one
-    // of Qt's own, which may still be ending when the program does.
+    QSemaphore end;
     std::vector<std::unique_ptr<QThread>> threads;
-    threads.reserve(std::size_t(jobs));
-    for (int i = 0; i < jobs; ++i) {
-        threads.emplace_back(QThread::create([&queue, work = makeWork()] {
-            while (const std::optional<int> index = queue.take())
-                queue.put(*index, work(*index));
-        }));
+    while (int(threads.size()) < wanted) {
+        threads.emplace_back(QThread::create([&end] { end.acquire(); }));
         threads.back()->start();
+        if (!threads.back()->isRunning()) {
+            threads.pop_back();
+            break;
+        }
     }
-    int begun = count;
-    for (int index = 0; index < begun; ++index) {
-        if (!deliver(index, queue.next()))
-            begun = queue.stop();
-    }
+    end.release(int(threads.size()));
     for (const auto& thread : threads)
         thread->wait();
+    return int(threads.size());
+}
+
+void inOrder(int count, int threads, const std::function<Work()>& makeWork,
+             const std::function<bool(int index, const Result&)>& deliver)
+{
+    Works works(makeWork);
+    // Qt scales pictures in this pool, too, unless one of its threads asks for it.
+    QThreadPool* const pool = QThreadPool::globalInstance();
+    pool->setMaxThreadCount(threads);
+    pool->setExpiryTimeout(-1); // the threads that could be had stay
+    constexpr int aheadOfEach = 16;
+    std::deque<QFuture<Result>> begun;
+    int next = 0;
+    for (int index = 0; index < count; ++index) {
+        for (; next < count && next - index < threads * aheadOfEach; ++next)
+            begun.push_back(QtConcurrent::run(pool, [&works, next] { return works.run(next); }));
+        const Result result = begun.front().result();
+        begun.pop_front();
+        if (!deliver(index, result))
+            count = next;
+    }
 }
 
 } // namespace tools

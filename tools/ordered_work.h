@@ -18,11 +18,15 @@ struct Result
 
 using Work = std::function<Result(int index)>;
 
-/// Runs work on 0 … count − 1 in `jobs` threads and hands the results over in this order, one after
-/// another, in the calling thread. Each thread gets its own work from `makeWork`, so that it can
-/// keep its own buffers. Threads run only so far ahead of `deliver` that memory stays small. When
-/// `deliver` returns false no new work is begun; what was begun is still handed over.
-void inOrder(int count, int jobs, const std::function<Work()>& makeWork,
+/// How many of the wanted threads the system gives: fewer, or none, where a user may start no more.
+/// Who does not ask may wait for ever for what was given to a thread that never began.
+int threadsToBeHad(int wanted);
+
+/// Runs work on 0 … count − 1 in so many threads, at least one, and hands the results over in this
+/// order, one after another, in the calling thread. Each thread gets its own work from `makeWork`,
+/// so that it can keep its own buffers. Threads run only so far ahead of `deliver` that memory stays
+/// small. When `deliver` returns false no new work is begun; what was begun is still handed over.
+void inOrder(int count, int threads, const std::function<Work()>& makeWork,
              const std::function<bool(int index, const Result&)>& deliver);
 
 } // namespace tools

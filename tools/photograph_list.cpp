@@ -1,5 +1,7 @@
 #include "tools/photograph_list.h"
 
+#include "files/paths.h"
+
 #include <algorithm>
 #include <filesystem>
 
@@ -13,10 +15,14 @@ fs::path native(const QString& path)
     return fs::u8path(path.toUtf8().constData());
 }
 
-QString joined(const QString& folder, const QString& name)
+/// A pipe, a socket or a device is none. What cannot be told, as of a link to nowhere, is left to
+/// whoever reads it, so that its reason is heard.
+bool mayBeFile(const fs::directory_entry& entry)
 {
-    return folder.isEmpty() || folder.endsWith(QLatin1Char('/')) ? folder + name
-                                                                 : folder + QLatin1Char('/') + name;
+    std::error_code error;
+    const fs::file_type type = entry.status(error).type();
+    return type == fs::file_type::regular || type == fs::file_type::not_found ||
+           type == fs::file_type::none || type == fs::file_type::unknown;
 }
 
 class FolderReader
@@ -41,9 +47,10 @@ public:
         photographs.sort();
         folders.sort();
         for (const QString& name : qAsConst(photographs))
-            m_entries.push_back({joined(folder, name), subfolder, {}});
+            m_entries.push_back({files::pathIn(folder, name), subfolder, {}});
         for (const QString& name : qAsConst(folders))
-            read(joined(folder, name), joined(subfolder, name));
+            read(files::pathIn(folder, name),
+                 subfolder.isEmpty() ? name : files::pathIn(subfolder, name));
     }
 
 private:
@@ -57,11 +64,11 @@ private:
         std::error_code error;
         const bool isFolder = entry.is_directory(error) && !entry.is_symlink(error);
         const bool isPhotograph =
-            name.endsWith(QLatin1String(".bmp"), Qt::CaseInsensitive) && !entry.is_directory(error);
+            name.endsWith(QLatin1String(".bmp"), Qt::CaseInsensitive) && mayBeFile(entry);
         if (!isPhotograph && !(isFolder && m_recursive))
             return;
         if (name.toStdString() != bytes)
-            fail(joined(folder, name), QStringLiteral("its name is not in UTF-8"));
+            fail(files::pathIn(folder, name), QStringLiteral("its name is not in UTF-8"));
         else
             (isFolder ? folders : photographs).append(name);
     }

@@ -17,8 +17,8 @@ struct Entry
 
 /// The photographs that the paths stand for, in the order of the paths. A folder stands for its
 /// "*.bmp" files (in any letter case) in the order of their names and, if `recursive`, then for
-/// those of its sub-folders; hidden ones and linked folders are passed over. Anything else stands
-/// for itself, whether it exists or not.
+/// those of its sub-folders; hidden ones, linked folders, pipes and the like are passed over.
+/// Anything else stands for itself, whether it exists or not.
 std::vector<Entry> listPhotographs(const QStringList& paths, bool recursive);
 
 } // namespace tools

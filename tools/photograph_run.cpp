@@ -23,6 +23,11 @@ int run(const PhotographRun& photographs)
     if (photographs.writesFiles)
         platform::deferInterruptions();
 
+    const int threads = threadsToBeHad(photographs.jobs);
+    if (threads == 0) {
+        printError(QStringLiteral("no thread can be started"));
+        return status::someFailed;
+    }
     const std::vector<Entry>& entries = photographs.entries;
     const int count = int(entries.size());
     ProgressBar bar(count, wantsProgressBar(photographs.writesFiles));
@@ -53,7 +58,7 @@ int run(const PhotographRun& photographs)
         bar.step();
         return canPrint && !platform::isInterrupted();
     };
-    inOrder(count, photographs.jobs, makeWork, deliver);
+    inOrder(count, threads, makeWork, deliver);
 
     bar.hide();
     if (platform::isInterrupted()) {

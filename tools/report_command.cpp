@@ -15,7 +15,6 @@
 
 using analysis::PhotographReader;
 using analysis::UnitChoice;
-using files::Existing;
 using files::Outcome;
 using files::Problem;
 
@@ -56,7 +55,7 @@ int reportCommand(const QStringList& arguments)
     line.add({QStringLiteral("language")},
              QStringLiteral("Language of the report. Default: the one that ThermaDesk is set to."),
              languageCodes().join(QLatin1Char('|')), configuredLanguage());
-    addTargetOptions(line);
+    addTargetOptions(line, {});
     if (!line.parse(arguments))
         return line.status();
 
@@ -65,13 +64,11 @@ int reportCommand(const QStringList& arguments)
     photographs.writesFiles = true;
     const std::optional<int> modelIndex = line.modelIndex();
     const UnitChoice unit = readUnit(line);
-    const Existing mode = existing(line);
+    const TargetRules rules = readTargetRules(line);
     const QString language = line.value(QStringLiteral("language"));
     if (!config::findLanguage(language))
         line.refuse(QStringLiteral("--language is one of %1")
                         .arg(languageCodes().join(QStringLiteral(", "))));
-    if (!line.isSet(QStringLiteral("output")))
-        line.refuse(QStringLiteral("--output is missing"));
     const overlay::Tools tools = readTools(line);
     if (!line.isGood())
         return line.status();
@@ -91,13 +88,14 @@ int reportCommand(const QStringList& arguments)
         return [&, reader](int index) -> Result {
             const QString& path = photographs.entries[std::size_t(index)].path;
             const QString& target = targets->at(index);
-            if (isRefused(target, mode))
-                return {{}, targetReason({Problem::AlreadyThere, {}}, target)};
+            if (isRefused(target, rules.existing))
+                return targetResult({Problem::AlreadyThere, {}}, target, rules);
             const Outcome reading = reader->read(path, modelIndex);
             if (!reading.isGood())
                 return {{}, reason(reading)};
             const analysis::Report report = photographReport(path, *reader, unit, tools, language);
-            return {{}, targetReason(writeWholeFile(target, reportPdf(report), mode), target)};
+            return targetResult(writeWholeFile(target, reportPdf(report), rules.existing), target,
+                                rules);
         };
     };
     return run(photographs);

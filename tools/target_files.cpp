@@ -1,19 +1,26 @@
 #include "tools/target_files.h"
 
 #include "analysis/photograph_export.h"
+#include "files/paths.h"
 #include "tools/command_line.h"
 #include "tools/messages.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <QHash>
 #include <QSet>
 
+using files::Existing;
 using files::Outcome;
 using files::Problem;
 
 namespace tools {
 namespace {
+
+/// Empty when there is no such file.
+QString canonical(const QString& path)
+{
+    return QFileInfo(files::localPath(path)).canonicalFilePath();
+}
 
 /// Photographs that have the suffix of what is written: the only ones in danger.
 QSet<QString> photographsWithSuffix(const std::vector<Entry>& entries, const QString& suffix)
@@ -21,68 +28,86 @@ QSet<QString> photographsWithSuffix(const std::vector<Entry>& entries, const QSt
     QSet<QString> paths;
     for (const Entry& entry : entries) {
         if (entry.path.endsWith(QLatin1Char('.') + suffix))
-            paths.insert(QFileInfo(entry.path).canonicalFilePath());
+            paths.insert(canonical(entry.path));
     }
     return paths;
 }
 
-} // namespace
-
-void addTargetOptions(CommandLine& line)
+QString cannotBeMade(const QString& folder, const Outcome& outcome)
 {
-    line.add({QStringLiteral("o"), QStringLiteral("output")},
-             QStringLiteral("The folder to write to; made if it is not there. Default: the current "
-                            "one."),
-             QStringLiteral("DIR"), QStringLiteral("."));
-    line.add({QStringLiteral("f"), QStringLiteral("force")},
-             QStringLiteral("Replace files that are there already."));
+    return QStringLiteral("%1: this folder cannot be made: %2").arg(folder, outcome.detail);
 }
 
-files::Existing existing(const CommandLine& line)
+} // namespace
+
+void addTargetOptions(CommandLine& line, const QString& defaultFolder)
 {
-    return line.isSet(QStringLiteral("force")) ? files::Existing::Replace : files::Existing::Refuse;
+    const QString folder = QStringLiteral("The folder to write to; made if it is not there.");
+    line.add({QStringLiteral("o"), QStringLiteral("output")},
+             defaultFolder.isEmpty() ? folder
+                                     : folder + QStringLiteral(" Default: the current one."),
+             QStringLiteral("DIR"), defaultFolder);
+    line.add({QStringLiteral("f"), QStringLiteral("force")},
+             QStringLiteral("Replace files that are there already."));
+    line.add(
+        {QStringLiteral("skip-existing")},
+        QStringLiteral("Pass over photographs whose files are there already, without a word."));
+}
+
+TargetRules readTargetRules(CommandLine& line)
+{
+    line.require(QStringLiteral("output"));
+    TargetRules rules;
+    if (line.isSet(QStringLiteral("force")))
+        rules.existing = Existing::Replace;
+    rules.skipsExisting = line.isSet(QStringLiteral("skip-existing"));
+    line.refuseUnless(rules.existing == Existing::Refuse, {QStringLiteral("skip-existing")},
+                      QStringLiteral("does not go with --force"));
+    return rules;
 }
 
 std::optional<QStringList> prepareTargets(const CommandLine& line, const QString& suffix,
                                           std::vector<Entry>& entries)
 {
     const QString output = line.value(QStringLiteral("output"));
-    if (!QDir().mkpath(output)) {
-        printError(QStringLiteral("%1: this folder cannot be made").arg(output));
+    const Outcome made = files::makeFolder(output);
+    if (!made.isGood()) {
+        printError(cannotBeMade(output, made));
         return std::nullopt;
     }
     const QSet<QString> photographs = photographsWithSuffix(entries, suffix);
     QHash<QString, QString> photographOf;
-    QSet<QString> made{QString()};
+    QHash<QString, Outcome> folders;
     QStringList targets;
     for (Entry& entry : entries) {
-        const QDir folder(entry.subfolder.isEmpty() ? output
-                                                    : output + QLatin1Char('/') + entry.subfolder);
-        const QString target = folder.filePath(analysis::exportName(entry.path, suffix));
+        const QString folder =
+            entry.subfolder.isEmpty() ? output : files::pathIn(output, entry.subfolder);
+        const QString target = files::pathIn(folder, analysis::exportName(entry.path, suffix));
         targets.append(target);
         if (!entry.failure.isEmpty())
             continue;
-        const auto earlier = photographOf.constFind(target);
-        if (earlier != photographOf.constEnd())
-            entry.failure = QStringLiteral("%1 is made of %2 already").arg(target, *earlier);
-        else if (!photographs.isEmpty() &&
-                 photographs.contains(QFileInfo(target).canonicalFilePath()))
+        if (!folders.contains(folder))
+            folders.insert(folder, files::makeFolder(folder));
+        const QString earlier = photographOf.value(target);
+        if (!earlier.isEmpty())
+            entry.failure = QStringLiteral("%1 is made of %2 already").arg(target, earlier);
+        else if (photographs.contains(canonical(target)))
             entry.failure = QStringLiteral("%1 is a photograph itself").arg(target);
-        else if (!made.contains(entry.subfolder) && !folder.mkpath(QStringLiteral(".")))
-            entry.failure = QStringLiteral("%1: this folder cannot be made").arg(folder.path());
-        else {
-            made.insert(entry.subfolder);
+        else if (!folders[folder].isGood())
+            entry.failure = cannotBeMade(folder, folders[folder]);
+        else
             photographOf.insert(target, entry.path);
-        }
     }
     return targets;
 }
 
-QString targetReason(const Outcome& outcome, const QString& target)
+Result targetResult(const Outcome& outcome, const QString& target, const TargetRules& rules)
 {
+    if (outcome.problem == Problem::AlreadyThere && rules.skipsExisting)
+        return {{}, {}, true};
     const bool isAboutTarget =
         outcome.problem == Problem::AlreadyThere || outcome.problem == Problem::CannotWrite;
-    return (isAboutTarget ? target + QLatin1Char(' ') : QString()) + reason(outcome);
+    return {{}, (isAboutTarget ? target + QLatin1Char(' ') : QString()) + reason(outcome)};
 }
 
 } // namespace tools

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "files/whole_file.h"
+#include "tools/ordered_work.h"
 #include "tools/photograph_list.h"
 
 #include <optional>
@@ -10,11 +11,17 @@ namespace tools {
 
 class CommandLine;
 
-/// --output and --force.
-void addTargetOptions(CommandLine& line);
+/// What becomes of files that are there already.
+struct TargetRules
+{
+    files::Existing existing = files::Existing::Refuse;
+    bool skipsExisting = false; ///< one that stays is no failure of its photograph
+};
 
-/// What --force says.
-files::Existing existing(const CommandLine& line);
+/// --output, --force and --skip-existing. Without a default the folder must be named.
+void addTargetOptions(CommandLine& line, const QString& defaultFolder);
+
+TargetRules readTargetRules(CommandLine& line);
 
 /// Decides on the path of each entry's file and makes the folders: the photograph's name with
 /// another suffix, in the output folder, below which the way from the folder that the user named is
@@ -23,7 +30,8 @@ files::Existing existing(const CommandLine& line);
 std::optional<QStringList> prepareTargets(const CommandLine& line, const QString& suffix,
                                           std::vector<Entry>& entries);
 
-/// What went wrong, naming the file to be written where it is about that; empty if nothing did.
-QString targetReason(const files::Outcome& outcome, const QString& target);
+/// What became of a photograph whose file was to be written; a failure names that file where it is
+/// about it.
+Result targetResult(const files::Outcome& outcome, const QString& target, const TargetRules& rules);
 
 } // namespace tools

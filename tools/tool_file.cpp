@@ -1,8 +1,10 @@
 #include "tools/tool_file.h"
 
+#include "files/reading.h"
 #include "overlay/label_geometry.h"
+#include "overlay/tool_rules.h"
+#include "tools/messages.h"
 
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -31,25 +33,22 @@ QString wrongWith(const overlay::PointTool& point)
     return isInPicture(point.x, point.y) ? QString() : QStringLiteral("is outside the picture");
 }
 
-QString wrongWith(const overlay::LineTool& line)
+/// Lines and rectangles.
+template<typename Tool>
+QString wrongWith(const Tool& tool)
 {
-    if (!isInPicture(line.x1, line.y1) || !isInPicture(line.x2, line.y2))
+    if (!isInPicture(tool.x1, tool.y1) || !isInPicture(tool.x2, tool.y2))
         return QStringLiteral("is not wholly inside the picture");
-    const bool hasLength = line.x1 != line.x2 || line.y1 != line.y2;
-    return hasLength ? QString() : QStringLiteral("has no length");
-}
-
-QString wrongWith(const overlay::RectTool& rect)
-{
-    const bool isInside = isInPicture(rect.x1, rect.y1) && isInPicture(rect.x2, rect.y2);
-    return isInside ? QString() : QStringLiteral("is not wholly inside the picture");
+    return isUnfinished(tool) ? QStringLiteral("has no extent") : QString();
 }
 
 QString wrongWith(const overlay::CircleTool& circle)
 {
-    if (!isInPicture(circle.cx, circle.cy))
-        return QStringLiteral("has its centre outside the picture");
-    return circle.radius >= 0 ? QString() : QStringLiteral("has a negative radius");
+    if (circle.radius < 1)
+        return QStringLiteral("has no extent");
+    const bool canBeDragged =
+        overlay::draggedRadius(circle.cx, circle.cy, circle.x2, circle.y2) == circle.radius;
+    return canBeDragged ? QString() : QStringLiteral("is not wholly inside the picture");
 }
 
 void place(overlay::PointTool& point, const Numbers& n)
@@ -136,11 +135,13 @@ QString readTools(const QJsonObject& object, overlay::Tools& tools)
 
 QString readToolFile(const QString& path, overlay::Tools& tools)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return file.errorString();
+    constexpr qint64 mostBytes = 10'000'000;
+    QByteArray bytes;
+    const files::Outcome reading = files::readWhole(path, mostBytes, bytes);
+    if (!reading.isGood())
+        return reason(reading);
     QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(file.readAll(), &error);
+    const QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
     if (error.error != QJsonParseError::NoError)
         return QStringLiteral("byte %1: %2").arg(error.offset).arg(error.errorString());
     if (!document.isObject())

@@ -196,11 +196,17 @@ void readStrictly(const PhotographFile& file)
     };
     const bool told = file.modelIndex == 0 || file.modelIndex == 1;
     const std::optional<int> modelIndex = told ? std::optional<int>(file.modelIndex) : std::nullopt;
+    // Only a photograph of layout 0 begins with a bitmap of 24 bits a pixel.
+    const bool isCutOff =
+        !holds(0) && file.bytes[0] == 'B' && file.bytes[1] == 'M' && file.bytes[28] == 24;
     const Outcome outcome = reader.read(path, modelIndex);
-    const Problem expected = !holds(modelIndex.value_or(1))    ? Problem::TooShort
-                             : told && !knows(*modelIndex)     ? Problem::OtherImager
-                             : !told && !knows(0) && !knows(1) ? Problem::NeitherLayout
-                                                               : Problem::None;
+    Problem expected = Problem::None;
+    if (!holds(modelIndex.value_or(1)))
+        expected = Problem::TooShort;
+    else if (told && !knows(*modelIndex))
+        expected = Problem::OtherImager;
+    else if (!told && !knows(0) && !knows(1))
+        expected = isCutOff ? Problem::TooShort : Problem::NeitherLayout;
     mustHold(outcome.problem == expected, "the strict reader says what is wrong");
     mustHold(outcome.detail.isEmpty() == outcome.isGood(), "and says more about it");
     if (!outcome.isGood())

@@ -129,18 +129,6 @@ private slots:
     void tiffReadByOthers();
     void png_data();
     void png();
-    void existingFilesStay();
-    void forceReplaces();
-    void aFolderInTheWay();
-    void folderIsMade();
-    void folderThatCannotBeMade();
-    void subfolderThatCannotBeMade();
-    void folderWithoutPhotographs();
-    void subfoldersAreKept();
-    void sameNameTwice();
-    void neverOverAPhotograph();
-    void fullDisk();
-    void failedPhotographLeavesNothing();
 };
 
 void ExportTest::asSeen_data()
@@ -150,7 +138,6 @@ void ExportTest::asSeen_data()
     QTest::newRow("layout 1") << 1;
 }
 
-/// All number formats hold the same matrix: row after row from the top, each from left to right.
 void ExportTest::asSeen()
 {
     QFETCH(int, model);
@@ -225,7 +212,6 @@ void ExportTest::units()
     QVERIFY(tiff.file.contains(isFahrenheit ? "unit=F" : "unit=C"));
 }
 
-/// Nine digits: what is read back is the very number, and no digit is made up.
 void ExportTest::csvIsExact()
 {
     const Exported csv(photographBytes(slope()), QStringLiteral("csv"),
@@ -308,7 +294,6 @@ void ExportTest::csvHeader()
     QVERIFY(inF.file.startsWith("# unit=F columns=240 rows=320\n"));
 }
 
-/// Without a gray span there are no temperatures, only what a division by nothing gives.
 void ExportTest::csvOfNonsense()
 {
     Shot shot = slope();
@@ -354,7 +339,6 @@ void ExportTest::tiffTags()
              QByteArray("unit=F emissivity=0.07"));
 }
 
-/// ImageMagick, in the build whose pixels are floating point, reads the same matrix.
 void ExportTest::tiffReadByOthers()
 {
     const Exported tiff(photographBytes(slope()), QStringLiteral("tiff"));
@@ -415,175 +399,6 @@ void ExportTest::png()
     QCOMPARE(image.pixel(239, 0), colour(hottest));
     QCOMPARE(image.pixel(239, 319), colour(middle));
     QCOMPARE(image.pixel(0, 319), colour(coldest));
-}
-
-void ExportTest::existingFilesStay()
-{
-    const Folder folder;
-    folder.write(QStringLiteral("1.bmp"), photographBytes(slope()));
-    folder.write(QStringLiteral("2.bmp"), photographBytes(slope()));
-    folder.write(QStringLiteral("1.csv"), "mine");
-    const Ended ended = thermaphoto({"export", "--format", "csv", "."}, folder.path());
-    QCOMPARE(ended.status, 1);
-    QCOMPARE(ended.errorLines().size(), 1);
-    QVERIFY(ended.errors.contains("1.csv"));
-    QCOMPARE(folder.read(QStringLiteral("1.csv")), QByteArray("mine"));
-    QCOMPARE(folder.files(), (QStringList{"1.bmp", "1.csv", "2.bmp", "2.csv"}));
-}
-
-void ExportTest::forceReplaces()
-{
-    const Folder folder;
-    folder.write(QStringLiteral("1.bmp"), photographBytes(slope()));
-    folder.write(QStringLiteral("1.csv"), "mine");
-    QCOMPARE(thermaphoto({"export", "--format", "csv", "--force", "1.bmp"}, folder.path()).status,
-             0);
-    QVERIFY(folder.read(QStringLiteral("1.csv")).startsWith("20,"));
-    QCOMPARE(folder.files(), (QStringList{"1.bmp", "1.csv"}));
-}
-
-void ExportTest::aFolderInTheWay()
-{
-    const Folder folder;
-    folder.write(QStringLiteral("1.bmp"), photographBytes(slope()));
-    folder.write(QStringLiteral("1.csv/mine"), "mine");
-    const Ended ended =
-        thermaphoto({"export", "--format", "csv", "--force", "1.bmp"}, folder.path());
-    QCOMPARE(ended.status, 1);
-    QCOMPARE(ended.errorLines().size(), 1);
-    QCOMPARE(folder.files(), (QStringList{"1.bmp", "1.csv/mine"}));
-}
-
-void ExportTest::folderIsMade()
-{
-    const Folder folder;
-    folder.write(QStringLiteral("1.bmp"), photographBytes(slope()));
-    const QString output = QStringLiteral("out 100%1/über/d");
-    QCOMPARE(
-        thermaphoto({"export", "--format", "npy", "-o", output, "1.bmp"}, folder.path()).status, 0);
-    QCOMPARE(folder.files(), (QStringList{"1.bmp", output + "/1.npy"}));
-}
-
-void ExportTest::folderThatCannotBeMade()
-{
-    const Folder folder;
-    folder.write(QStringLiteral("1.bmp"), photographBytes(slope()));
-    folder.write(QStringLiteral("file"), "mine");
-    for (const QStringList& command : {QStringList{"export", "--format", "npy"}, {"report"}}) {
-        const Ended ended =
-            thermaphoto(command + QStringList{"-o", "file/x", "1.bmp"}, folder.path());
-        QCOMPARE(ended.status, 1);
-        QCOMPARE(ended.errorLines().size(), 1);
-        QVERIFY(ended.errors.contains("file/x"));
-        QCOMPARE(folder.files(), (QStringList{"1.bmp", "file"}));
-    }
-}
-
-/// A file has the name that one of the folders needs: the others are made.
-void ExportTest::subfolderThatCannotBeMade()
-{
-    const Folder folder;
-    for (const char* name : {"in/a/1.bmp", "in/b/2.bmp"})
-        folder.write(QLatin1String(name), photographBytes(slope()));
-    folder.write(QStringLiteral("out/a"), "mine");
-    const Ended ended =
-        thermaphoto({"export", "--format", "npy", "-o", "out", "-r", "in"}, folder.path());
-    QCOMPARE(ended.status, 1);
-    QCOMPARE(ended.errorLines().size(), 1);
-    QVERIFY(ended.errors.contains("in/a/1.bmp: out/a: this folder cannot be made"));
-    QCOMPARE(folder.files().filter(QStringLiteral("out/")), (QStringList{"out/a", "out/b/2.npy"}));
-}
-
-void ExportTest::folderWithoutPhotographs()
-{
-    const Folder folder;
-    folder.write(QStringLiteral("1.bmp"), photographBytes(slope()));
-    QDir(folder.path()).mkdir(QStringLiteral("none"));
-    const Ended ended =
-        thermaphoto({"export", "--format", "npy", "-o", "out", "none", "1.bmp"}, folder.path());
-    QCOMPARE(ended.status, 1);
-    QCOMPARE(ended.errorLines().size(), 1);
-    QVERIFY(ended.errors.contains("none: no photographs"));
-    QCOMPARE(folder.files(), (QStringList{"1.bmp", "out/1.npy"}));
-}
-
-void ExportTest::subfoldersAreKept()
-{
-    const Folder folder;
-    for (const char* name : {"in/1.bmp", "in/b/1.bmp", "in/a/c/1.bmp"})
-        folder.write(QLatin1String(name), photographBytes(slope()));
-    QCOMPARE(
-        thermaphoto({"export", "--format", "npy", "-o", "out", "-r", "in/"}, folder.path()).status,
-        0);
-    QCOMPARE(folder.files().filter(QStringLiteral("out/")),
-             (QStringList{"out/1.npy", "out/a/c/1.npy", "out/b/1.npy"}));
-}
-
-/// Two photographs whose files would have the same name: the first gets it, also with --force.
-void ExportTest::sameNameTwice()
-{
-    const Folder folder;
-    folder.write(QStringLiteral("a/1.bmp"), photographBytes(slope()));
-    folder.write(QStringLiteral("b/1.bmp"), photographBytes(slope(0, 1)));
-    folder.write(QStringLiteral("b/2.bmp"), photographBytes(slope()));
-    const Ended ended =
-        thermaphoto({"export", "--format", "csv", "--force", "--header", "a", "b"}, folder.path());
-    QCOMPARE(ended.status, 1);
-    QCOMPARE(ended.errorLines().size(), 1);
-    QVERIFY(ended.errors.contains("b/1.bmp"));
-    QVERIFY(ended.errors.contains("a/1.bmp"));
-    QVERIFY(folder.read(QStringLiteral("1.csv")).startsWith("# unit=C"));
-    QVERIFY(folder.files().contains(QStringLiteral("2.csv")));
-}
-
-void ExportTest::neverOverAPhotograph()
-{
-    const Folder folder;
-    const QByteArray photograph = photographBytes(slope());
-    folder.write(QStringLiteral("1.bmp"), photograph);
-    folder.write(QStringLiteral("1.png"), photograph);
-    const Ended ended =
-        thermaphoto({"export", "--format", "png", "--force", "1.bmp", "1.png"}, folder.path());
-    QCOMPARE(ended.status, 1);
-    QCOMPARE(ended.errorLines().size(), 1);
-    QCOMPARE(folder.read(QStringLiteral("1.png")), photograph);
-    QVERIFY(folder.read(QStringLiteral("1.png.png")).startsWith("\x89PNG"));
-}
-
-/// No file may grow beyond 150 KB here: what is written first fits, the rest does not.
-void ExportTest::fullDisk()
-{
-    const Folder folder;
-    folder.write(QStringLiteral("1.bmp"), photographBytes(slope()));
-    folder.write(QStringLiteral("2.bmp"), photographBytes(slope()));
-    folder.write(QStringLiteral("out/1.npy"), "mine");
-    const Ended ended = testing::shell(
-        // What counts the lines that tests execute would complain, too.
-        QStringLiteral("LLVM_PROFILE_FILE=/dev/null; trap '' XFSZ; ulimit -f 300; "
-                       "exec \"$thermaphoto\" export --format npy --force -o out 1.bmp 2.bmp"),
-        folder.path());
-    QCOMPARE(ended.status, 1);
-    QCOMPARE(ended.errorLines().size(), 2);
-    QVERIFY(ended.errorLines()[0].contains("out/1.npy cannot be written: File too large"));
-    QCOMPARE(folder.read(QStringLiteral("out/1.npy")), QByteArray("mine"));
-    QCOMPARE(folder.files(), (QStringList{"1.bmp", "2.bmp", "out/1.npy"}));
-}
-
-void ExportTest::failedPhotographLeavesNothing()
-{
-    const Folder folder;
-    folder.write(QStringLiteral("1.bmp"), photographBytes(slope()).left(300000));
-    Shot foreign = slope();
-    foreign.machineId = 7;
-    folder.write(QStringLiteral("2.bmp"), photographBytes(foreign));
-    folder.write(QStringLiteral("3.bmp"), photographBytes(slope()));
-    const Ended ended = thermaphoto(
-        {"export", "--format", "tiff", "-o", "out", "--layout", "0", "."}, folder.path());
-    QCOMPARE(ended.status, 1);
-    QCOMPARE(ended.errorLines().size(), 2);
-    QVERIFY(ended.errorLines()[0].contains("too short"));
-    QVERIFY(ended.errorLines()[1].contains("machine ID 7"));
-    QCOMPARE(folder.files().filter(QStringLiteral("out/")), QStringList{"out/3.tiff"});
 }
 
 int main(int argc, char** argv)

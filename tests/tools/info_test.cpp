@@ -64,6 +64,7 @@ private slots:
     void anotherImagersPhotograph();
     void shortFiles_data();
     void shortFiles();
+    void cutOffIsNoOtherImager();
     void nothingStaysFromThePhotographBefore();
     void tooLongIsReadInPart();
 };
@@ -325,6 +326,26 @@ void InfoTest::shortFiles()
     QCOMPARE(ended.status, status);
     QCOMPARE(ended.json().size(), 1 - status);
     QCOMPARE(ended.errorLines().size(), status);
+}
+
+/// The end of layout 0 is missing; what stands where layout 1 has its machine ID are gray values.
+void InfoTest::cutOffIsNoOtherImager()
+{
+    const Folder folder;
+    const QByteArray whole = photographBytes(slope());
+    for (const int bytes : {230995, 300000, 307791}) {
+        const QString path = folder.write("a.bmp", whole.left(bytes));
+        const Ended ended = thermaphoto({info, path});
+        QCOMPARE(ended.status, 1);
+        QCOMPARE(ended.errors, "thermaphoto: " + path.toUtf8() + ": too short for a photograph: " +
+                                   QByteArray::number(bytes) + "/307792 bytes\n");
+    }
+    Shot foreign = slope();
+    foreign.model = 1;
+    foreign.machineId = 7;
+    const Ended ended = thermaphoto({info, folder.write("a.bmp", photographBytes(foreign))});
+    QVERIFY(ended.errors.contains("neither layout"));
+    QVERIFY(ended.errors.contains("1: 7"));
 }
 
 /// A whole photograph, then one that ends before its blocks do: nothing is made up for it.

@@ -59,9 +59,9 @@ QJsonArray jsonRows(const std::vector<Row>& rows)
     for (const Row& row : rows)
         array.append(QJsonObject{{"name", row.name},
                                  {"type", row.type},
-                                 {"high", row.high},
-                                 {"low", row.low},
-                                 {"average", row.average}});
+                                 {"high", QByteArray(row.high).toDouble()},
+                                 {"low", QByteArray(row.low).toDouble()},
+                                 {"average", QByteArray(row.average).toDouble()}});
     return array;
 }
 
@@ -107,6 +107,9 @@ private slots:
     void everyKind_data();
     void everyKind();
     void noTools();
+    void noNumbers();
+    void whatTheWindowHolds_data();
+    void whatTheWindowHolds();
     void separatorsInNames_data();
     void separatorsInNames();
     void otherPhotographsGoOn();
@@ -189,7 +192,7 @@ void MeasureTest::units()
     QCOMPARE(object[QStringLiteral("unit")].toString(), unit);
     const QJsonObject point = object[QStringLiteral("tools")].toArray()[0].toObject();
     for (const char* key : {"high", "low", "average"})
-        QCOMPARE(point[QLatin1String(key)].toString(), value);
+        QCOMPARE(point[QLatin1String(key)], QJsonValue(value.toDouble()));
 }
 
 void MeasureTest::everyKind_data()
@@ -211,7 +214,7 @@ void MeasureTest::everyKind()
     const testing::Sample& kind = testing::samples()[std::size_t(sample)];
     const Measured measured(kind.bytes(), R"({"points": [[0, 0], [239, 319], [240, 320]],
         "lines": [[3, 4, 200, 310], [239, 0, 0, 319], [7, 20, 7, 300]], "rectangles": [[0, 0, 239, 319]],
-        "circles": [[0, 0, 0], [120, 160, 1], [10, 300, 60]]})");
+        "circles": [[2, 2, 1], [120, 160, 1], [160, 240, 79]]})");
 
     analysis::FileBuffer buffer;
     const int readCount = buffer.read(measured.photographPath);
@@ -222,7 +225,7 @@ void MeasureTest::everyKind()
     tools.lineList = {{"L0", 3, 4, 200, 310}, {"L1", 239, 0, 0, 319}, {"L2", 7, 20, 7, 300}};
     tools.rectList = {{"R0", 0, 0, 239, 319}};
     tools.circleList = {
-        {"C0", 0, 0, 0, 0, 0}, {"C1", 120, 160, 0, 0, 1}, {"C2", 10, 300, 0, 0, 60}};
+        {"C0", 2, 2, 0, 0, 1}, {"C1", 120, 160, 0, 0, 1}, {"C2", 160, 240, 0, 0, 79}};
     const analysis::Conversion conversion = analysis::conversionFor(
         unitIndex, 0, photograph.parameters.unit, kind.settings.raw, analysis::unchanged);
     const auto rows = toolRows(tools, photograph.temperatures, conversion);
@@ -236,9 +239,9 @@ void MeasureTest::everyKind()
         const QJsonObject tool = found[i].toObject();
         const analysis::ToolRow& row = rows[std::size_t(i)];
         QCOMPARE(tool[QStringLiteral("name")].toString(), row.name);
-        QCOMPARE(tool[QStringLiteral("high")].toString(), row.high);
-        QCOMPARE(tool[QStringLiteral("low")].toString(), row.low);
-        QCOMPARE(tool[QStringLiteral("average")].toString(), row.average);
+        QCOMPARE(tool[QStringLiteral("high")], QJsonValue(row.high.toDouble()));
+        QCOMPARE(tool[QStringLiteral("low")], QJsonValue(row.low.toDouble()));
+        QCOMPARE(tool[QStringLiteral("average")], QJsonValue(row.average.toDouble()));
     }
 }
 
@@ -248,6 +251,42 @@ void MeasureTest::noTools()
     QCOMPARE(measured.object({})[QStringLiteral("tools")].toArray(), QJsonArray());
     QCOMPARE(measured.run({QStringLiteral("--format=csv")}).output,
              QByteArray("file,unit,name,type,high,low,average\n"));
+}
+
+/// A photograph without a gray span has no temperatures, and JSON no word for them.
+void MeasureTest::noNumbers()
+{
+    Shot shot;
+    shot.grayMinimum = shot.grayMaximum = 100;
+    shot.gray = [](int, int) {
+        return 100;
+    };
+    const Measured measured(photographBytes(shot), R"({"points": [[100, 50]]})");
+    const QJsonObject point = measured.object({})[QStringLiteral("tools")].toArray()[0].toObject();
+    for (const char* key : {"high", "low", "average"})
+        QVERIFY(point[QLatin1String(key)].isNull());
+    QVERIFY(measured.run({QStringLiteral("--format=csv")}).output.endsWith(",nan,nan,nan\n"));
+}
+
+void MeasureTest::whatTheWindowHolds_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    const auto row = [](const char* name, const char* file) {
+        QTest::newRow(name) << QByteArray(file);
+    };
+    row("corners", R"({"points": [[0, 0], [240, 0], [0, 320], [240, 320]]})");
+    row("lines from edge to edge", R"({"lines": [[0, 0, 240, 320], [240, 5, 0, 5]]})");
+    row("upright and level", R"({"rectangles": [[1, 2, 1, 3], [1, 2, 3, 2], [240, 320, 0, 0]]})");
+    row("circles at the edges",
+        R"({"circles": [[2, 2, 1], [238, 318, 1], [120, 160, 119], [50, 160, 49]]})");
+}
+
+void MeasureTest::whatTheWindowHolds()
+{
+    QFETCH(QByteArray, file);
+    const Ended ended = Measured(acrossBytes(), file).run({});
+    QCOMPARE(ended.errors, QByteArray());
+    QCOMPARE(ended.status, 0);
 }
 
 void MeasureTest::separatorsInNames_data()
@@ -317,10 +356,18 @@ void MeasureTest::wrongTools_data()
     row("line from outside", R"({"lines": [[-1, 2, 3, 4]]})", "not wholly inside");
     row("rectangle from outside", R"({"rectangles": [[1, 321, 3, 4]]})", "not wholly inside");
     row("line leaving it", R"({"lines": [[1, 2, 3, 321]]})", "not wholly inside");
-    row("line of no length", R"({"lines": [[1, 2, 1, 2]]})", "no length");
+    row("line of no length", R"({"lines": [[1, 2, 1, 2]]})", "\"lines\", number 1 has no extent");
+    row("rectangle of no extent", R"({"rectangles": [[1, 2, 3, 4], [1, 2, 1, 2]]})",
+        "\"rectangles\", number 2 has no extent");
     row("rectangle leaving it", R"({"rectangles": [[1, 2, -3, 4]]})", "not wholly inside");
-    row("centre outside", R"({"circles": [[-1, 2, 30]]})", "centre outside");
-    row("negative radius", R"({"circles": [[1, 2, -3]]})", "negative radius");
+    row("centre outside", R"({"circles": [[-1, 2, 30]]})", "\"circles\", number 1 is not wholly");
+    row("negative radius", R"({"circles": [[1, 2, -3]]})", "no extent");
+    row("no radius", R"({"circles": [[50, 50, 0]]})", "\"circles\", number 1 has no extent");
+    row("the whole picture", R"({"circles": [[120, 160, 500]]})", "not wholly inside");
+    row("over the left edge", R"({"circles": [[50, 160, 50]]})", "not wholly inside");
+    row("over the right edge", R"({"circles": [[189, 160, 51]]})", "not wholly inside");
+    row("over the upper edge", R"({"circles": [[120, 50, 50]]})", "not wholly inside");
+    row("over the lower edge", R"({"circles": [[120, 270, 50]]})", "not wholly inside");
 }
 
 /// Tools that measure nothing would fill spreadsheets with temperatures that nobody measured.

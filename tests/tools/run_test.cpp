@@ -32,97 +32,24 @@ QStringList filesOf(const Ended& ended)
     return files;
 }
 
-/// Whether a process still waits for a signal, as the system tells.
-bool catches(qint64 process, int signal)
-{
-    QFile status(QStringLiteral("/proc/%1/status").arg(process));
-    if (!status.open(QIODevice::ReadOnly))
-        return false;
-    const QByteArray text = status.readAll();
-    const QByteArray mask = text.mid(text.indexOf("SigCgt:") + 7, 20).trimmed().left(16);
-    return (mask.toULongLong(nullptr, 16) >> (signal - 1) & 1) != 0;
-}
-
-/// An export that waits: nobody reads its error output, and every second photograph has more to
-/// complain about than a pipe holds. By then others are written, and some are begun.
-class Stalled : public Folder
-{
-public:
-    /// `shellWords` come before the program in the shell.
-    explicit Stalled(const QString& shellWords)
-    {
-        const QString good = write(QStringLiteral("good"), photograph());
-        QStringList names;
-        for (int i = 0; i < pairs; ++i) {
-            const QString number = QString::number(i);
-            names.append(write(number + QString(200, QLatin1Char('x')), "broken"));
-            names.append(*this / number);
-            QFile::link(good, names.last());
-        }
-        mkfifo(qPrintable(*this / QStringLiteral("errors")), 0600);
-        process.setProcessEnvironment(testing::bareEnvironment());
-        process.setWorkingDirectory(path());
-        const QString command =
-            shellWords + QStringLiteral(R"(exec "$thermaphoto" export --format npy --jobs 2 )"
-                                        R"(-o out "$@" 2> errors)");
-        process.start(QStringLiteral("sh"), QStringList{"-c", command, "sh"} + names);
-        // Opening one end of a pipe waits for the other: the program starts now.
-        reader.setFileName(*this / QStringLiteral("errors"));
-        isWaiting = reader.open(QIODevice::ReadOnly | QIODevice::Unbuffered) &&
-                    QTest::qWaitFor([this] { return unread() > 60000; }, 60000);
-    }
-    ~Stalled()
-    {
-        process.kill();
-        process.waitForFinished();
-    }
-    Stalled(const Stalled&) = delete;
-    Stalled& operator=(const Stalled&) = delete;
-
-    /// Reads the error output until the program has ended.
-    QList<QByteArray> goOn()
-    {
-        QList<QByteArray> lines = reader.readAll().trimmed().split('\n');
-        process.waitForFinished();
-        return lines;
-    }
-
-    QStringList written() const { return files().filter(QStringLiteral("out/")); }
-
-    static constexpr int pairs = 300;
-    QProcess process;
-    bool isWaiting = false;
-
-private:
-    int unread() const
-    {
-        int bytes = 0;
-        return ioctl(reader.handle(), FIONREAD, &bytes) == 0 ? bytes : 0;
-    }
-
-    QFile reader;
-};
-
 } // namespace
 
-/// The program as a program: arguments, files it looks for, what it says and how it ends.
+/// The program as a program: files it looks for, what it says and how it ends.
 class RunTest : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void usage_data();
-    void usage();
-    void theFirstFaultIsTold();
-    void help_data();
-    void help();
-    void version();
     void linksNoWidgets();
     void folders();
     void recursive();
     void linkedFoldersAreNotFollowed();
     void folderWithoutPhotographs();
     void missing();
+    void onlyFilesArePhotographs();
+    void withoutThreads();
+    void controlCharacters();
+    void anyLocale();
     void oddNames_data();
     void oddNames();
     void longestName();
@@ -133,115 +60,8 @@ private slots:
     void pipeClosedEarly();
     void errorPipeClosedEarly();
     void progressBar();
-    void interrupted_data();
-    void interrupted();
-    void ignoredRequestStaysIgnored();
 };
 
-void RunTest::usage_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    const auto row = [](const char* name, const char* arguments) {
-        QTest::newRow(name) << QString::fromUtf8(arguments).split(QLatin1Char(' '),
-                                                                  Qt::SkipEmptyParts);
-    };
-    row("nothing", "");
-    row("unknown command", "paint a.bmp");
-    row("no photograph", "info");
-    row("unknown option", "info --colour a.bmp");
-    row("layout 2", "info --layout 2 a.bmp");
-    row("no jobs", "info --jobs 0 a.bmp");
-    row("half a job", "info --jobs 1.5 a.bmp");
-    row("export without format", "export a.bmp");
-    row("unknown format", "export --format bmp a.bmp");
-    row("unknown unit", "export --format csv --unit K a.bmp");
-    row("too many decimals", "export --format csv --decimals 10 a.bmp");
-    row("fewer than no decimals", "export --format csv --decimals=-1 a.bmp");
-    row("point between numbers", "export --format csv --separator . a.bmp");
-    row("minus between numbers", "export --format csv --separator=- a.bmp");
-    row("plus between numbers", "export --format csv --separator + a.bmp");
-    row("digit between numbers", "export --format csv --separator 1 a.bmp");
-    row("two separators", "export --format csv --separator ;; a.bmp");
-    row("quote between numbers", "export --format csv --separator \" a.bmp");
-    row("separator beyond ASCII", "export --format csv --separator ü a.bmp");
-    row("unseen separator", "export --format csv --separator \x01 a.bmp");
-    row("decimals of a TIFF", "export --format tiff --decimals 1 a.bmp");
-    row("header of a NumPy file", "export --format npy --header a.bmp");
-    row("span of numbers", "export --format csv --span 0:255 a.bmp");
-    row("half a span", "export --format png --span 10 a.bmp");
-    row("three ends", "export --format png --span 1:2:3 a.bmp");
-    row("span off the bar", "export --format png --span 0:256 a.bmp");
-    row("span before the bar", "export --format png --span=-1:5 a.bmp");
-    row("span from a word", "export --format png --span hot:5 a.bmp");
-    row("span to a word", "export --format png --span 5:cold a.bmp");
-    row("two faults, one line", "export --format png --jobs 0 --unit K a.bmp");
-    row("tools missing", "measure a.bmp");
-    row("tools not there", "measure --tools nowhere.json a.bmp");
-    row("measure unit", "measure --tools tools.json --unit K a.bmp");
-    row("report without folder", "report a.bmp");
-    row("report language", "report --language en -o out a.bmp");
-    row("measure format", "measure --tools tools.json --format xml a.bmp");
-}
-
-void RunTest::usage()
-{
-    QFETCH(QStringList, arguments);
-    const Folder folder;
-    folder.write(QStringLiteral("a.bmp"), photograph());
-    folder.write(QStringLiteral("tools.json"), "{}");
-    const Ended ended = thermaphoto(arguments, folder.path());
-    QCOMPARE(ended.status, 2);
-    QCOMPARE(ended.output, QByteArray());
-    QCOMPARE(ended.errorLines().size(), 1);
-    QVERIFY(ended.errors.startsWith("thermaphoto: "));
-    QCOMPARE(folder.files(), (QStringList{"a.bmp", "tools.json"}));
-}
-
-void RunTest::theFirstFaultIsTold()
-{
-    const Folder folder;
-    folder.write(QStringLiteral("a.bmp"), photograph());
-    const Ended ended =
-        thermaphoto({"info", "--layout", "2", "--jobs", "0", "a.bmp"}, folder.path());
-    QCOMPARE(ended.errorLines().size(), 1);
-    QVERIFY(ended.errors.contains("--jobs")); // looked at first, wherever it stands
-    QVERIFY(!ended.errors.contains("--layout"));
-}
-
-void RunTest::help_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QByteArray>("mentions");
-    QTest::newRow("program") << QStringList("--help") << QByteArray("measure");
-    QTest::newRow("short") << QStringList("-h") << QByteArray("export");
-    QTest::newRow("info") << QStringList{"info", "--help"} << QByteArray("--json");
-    QTest::newRow("export") << QStringList{"export", "-h"} << QByteArray("--span");
-    QTest::newRow("measure") << QStringList{"measure", "--help"} << QByteArray("--tools");
-    QTest::newRow("report") << QStringList{"report", "--help"} << QByteArray("--language");
-}
-
-void RunTest::help()
-{
-    QFETCH(QStringList, arguments);
-    QFETCH(QByteArray, mentions);
-    const Ended ended = thermaphoto(arguments);
-    QCOMPARE(ended.status, 0);
-    QVERIFY(ended.output.contains("Usage: "));
-    QVERIFY(ended.output.contains(mentions));
-    QCOMPARE(ended.errors, QByteArray());
-}
-
-void RunTest::version()
-{
-    for (const char* option : {"--version", "-v"}) {
-        const Ended ended = thermaphoto({option});
-        QCOMPARE(ended.status, 0);
-        QVERIFY(ended.output.startsWith("thermaphoto "));
-        QCOMPARE(ended.output.split('.').size(), 3);
-    }
-}
-
-/// A program of everything but the reports: it links, it runs, and the system loads no widgets.
 void RunTest::linksNoWidgets()
 {
     const Folder folder;
@@ -255,7 +75,6 @@ void RunTest::linksNoWidgets()
     QVERIFY(!ended.output.contains("libQt5Widgets"));
 }
 
-/// What the browser lists, in its order: "*.bmp" in any letter case, capitals first.
 void RunTest::folders()
 {
     const Folder folder;
@@ -317,16 +136,118 @@ void RunTest::missing()
                         "thermaphoto: gone.bmp: cannot be read: No such file or directory\n"));
 }
 
+/// A pipe without a writer would be waited for until the end of days.
+void RunTest::onlyFilesArePhotographs()
+{
+    const Folder folder;
+    folder.write("in/1.bmp", photograph());
+    QCOMPARE(mkfifo(qPrintable(folder / "in/pipe.bmp"), 0600), 0);
+    QVERIFY(QFile::link(folder / "in/pipe.bmp", folder / "in/link.bmp"));
+    QVERIFY(QFile::link("/dev/zero", folder / "in/zero.bmp"));
+    QVERIFY(QFile::link(folder / "nowhere", folder / "in/nowhere.bmp"));
+    const Ended listed = thermaphoto({"info", "--json", "in"}, folder.path());
+    QCOMPARE(filesOf(listed), QStringList("in/1.bmp"));
+    QCOMPARE(
+        listed.errors,
+        QByteArray("thermaphoto: in/nowhere.bmp: cannot be read: No such file or directory\n"));
+
+    for (const char* name : {"in/pipe.bmp", "in/link.bmp", "in/zero.bmp"}) {
+        const Ended named = thermaphoto({"info", name}, folder.path());
+        QCOMPARE(named.status, 1);
+        QCOMPARE(named.errors, QByteArray("thermaphoto: ") + name + ": is not a regular file\n");
+    }
+    const Ended tools =
+        thermaphoto({"measure", "--tools", "in/pipe.bmp", "in/1.bmp"}, folder.path());
+    QCOMPARE(tools.status, 2);
+    QVERIFY(tools.errors.contains("in/pipe.bmp: is not a regular file"));
+}
+
+/// Where a user may start no more of them: here, no thread finds room for its stack.
+void RunTest::withoutThreads()
+{
+    const Folder folder;
+    for (int i = 0; i < 5; ++i)
+        folder.write(QStringLiteral("in/%1.bmp").arg(i), photograph());
+    for (const char* command :
+         {"info --json", "export --jobs 3 --format png -o out", "report -o out"}) {
+        const Ended ended = testing::shell(QStringLiteral("ulimit -s 200000000000 && "
+                                                          "exec \"$thermaphoto\" %1 in")
+                                               .arg(QLatin1String(command)),
+                                           folder.path());
+        QCOMPARE(ended.output, QByteArray());
+        QCOMPARE(ended.errors, QByteArray("thermaphoto: no thread can be started\n"));
+        QCOMPARE(ended.status, 1);
+    }
+    QCOMPARE(folder.files().filter("out/"), QStringList());
+}
+
+/// A name can hold what would move the cursor, or make a terminal answer.
+void RunTest::controlCharacters()
+{
+    const Folder folder;
+    const QString name = QStringLiteral("a\x1b[31m\x7f\u009b.bmp");
+    folder.write("in/" + name, photograph());
+    folder.write("tools.json", R"({"points": [[1, 2]]})");
+    const QString shown = QStringLiteral("in/a?[31m??.bmp");
+    const QStringList measure{"measure", "--tools", "tools.json", "--format"};
+    const Ended info = thermaphoto({"info", "in"}, folder.path());
+    QVERIFY(info.output.startsWith(shown.toUtf8() + '\n'));
+    const Ended table = thermaphoto(measure + QStringList{"table", "in"}, folder.path());
+    QVERIFY(table.output.startsWith(shown.toUtf8() + " ("));
+
+    for (const QStringList& command :
+         {QStringList{"info", "--json"}, measure + QStringList("json")}) {
+        const Ended json = thermaphoto(command + QStringList("in"), folder.path());
+        QCOMPARE(filesOf(json), QStringList("in/" + name));
+        QVERIFY(json.output.contains("a\\u001b[31m\\u007f\\u009b.bmp"));
+    }
+
+    const Ended csv = thermaphoto(measure + QStringList{"csv", "in"}, folder.path());
+    QVERIFY(csv.output.contains("in/" + name.toUtf8() + ','));
+    const Ended onTerminal =
+        testing::shell("script --quiet --return --command "
+                       "'\"$thermaphoto\" measure --tools tools.json --format csv in' /dev/null",
+                       folder.path());
+    QVERIFY(onTerminal.output.contains(shown.toUtf8() + ','));
+}
+
+/// Digits, points and order are the same wherever a job runs; here the system's own are Arabic.
+void RunTest::anyLocale()
+{
+    const Folder folder;
+    for (const char* name : {"in/1.bmp", "in/2.bmp"})
+        folder.write(name, testing::samples()[0].bytes());
+    folder.write("tools.json", R"({"points": [[1, 2]], "circles": [[99, 99, 9]]})");
+    for (const char* command :
+         {"info in", "info --json in", "measure --tools tools.json in",
+          "measure --tools tools.json --format csv in",
+          "measure --tools tools.json --format json in",
+          "export --format csv --header -o $LC_ALL in; cat $LC_ALL/*.csv",
+          "report --tools tools.json -o $LC_ALL in; pdftotext $LC_ALL/1.pdf -"}) {
+        const auto in = [&](const char* locale) {
+            return testing::shell(QStringLiteral("export LC_ALL=%1; \"$thermaphoto\" %2")
+                                      .arg(QLatin1String(locale), QLatin1String(command)),
+                                  folder.path());
+        };
+        const Ended plain = in("C");
+        QVERIFY(plain.output.size() > 30);
+        for (const char* locale : {"ar_EG.UTF-8", "fa_IR.UTF-8", "de_DE.UTF-8"}) {
+            const Ended ended = in(locale);
+            QCOMPARE(ended.output, plain.output);
+            QCOMPARE(ended.errors, plain.errors);
+        }
+    }
+}
+
 void RunTest::oddNames_data()
 {
     QTest::addColumn<QString>("name");
-    for (const char* name :
-         {"with blanks .bmp", "热像 №1 — üß.bmp", "%1 %2 %%.bmp", "'quoted\" $HOME `x`.bmp",
-          "a\nb.bmp", "-o.bmp", "*.bmp", "back\\slash.bmp", "no suffix", "two.dots.bmp", "😀.bmp"})
+    for (const char* name : {"with blanks .bmp", "热像 №1 — üß.bmp", "%1 %2 %%.bmp",
+                             "'quoted\" $HOME `x`.bmp", "a\nb.bmp", "-o.bmp", "*.bmp",
+                             "back\\slash.bmp", "no suffix", "two.dots.bmp", "😀.bmp", ":night.bmp"})
         QTest::newRow(name) << QString::fromUtf8(name);
 }
 
-/// Named, or found in a folder: always this file, and one line if it fails.
 void RunTest::oddNames()
 {
     QFETCH(QString, name);
@@ -352,7 +273,6 @@ void RunTest::oddNames()
     QCOMPARE(broken.errors.count('\n'), 1);
 }
 
-/// 255 bytes are the most a name can have; the file that is made is one longer.
 void RunTest::longestName()
 {
     const Folder folder;
@@ -365,7 +285,6 @@ void RunTest::longestName()
     QCOMPARE(folder.files(), (QStringList{base + ".bmp", base + ".csv"}));
 }
 
-/// Old disks have names in other encodings. They are not passed over in silence.
 void RunTest::nameThatIsNoText()
 {
     const Folder folder;
@@ -390,7 +309,6 @@ void RunTest::anyNumberOfJobs_data()
     QTest::newRow("export") << QStringList{"export", "--format", "csv", "--force", "-o", "out"};
 }
 
-/// Same bytes in the same order from one, some and more jobs than photographs, errors included.
 void RunTest::anyNumberOfJobs()
 {
     QFETCH(QStringList, command);
@@ -436,7 +354,6 @@ void RunTest::outputToFullDisk()
     QVERIFY(ended.errors.contains("No space left on device"));
 }
 
-/// Whoever reads has read enough: no more work, no complaint.
 void RunTest::pipeClosedEarly()
 {
     const Folder folder;
@@ -451,7 +368,6 @@ void RunTest::pipeClosedEarly()
     QCOMPARE(ended.errors, QByteArray());
 }
 
-/// Nobody reads the errors, but the files are to be written.
 void RunTest::errorPipeClosedEarly()
 {
     const Folder folder;
@@ -465,7 +381,6 @@ void RunTest::errorPipeClosedEarly()
     QCOMPARE(files.filter(QStringLiteral(".npy")).size(), 10);
 }
 
-/// On a terminal a bar that leaves nothing behind; elsewhere none.
 void RunTest::progressBar()
 {
     const Folder folder;
@@ -495,51 +410,6 @@ void RunTest::progressBar()
                        folder.path());
     QVERIFY(kept.output.startsWith("\r[##########--------------------] 1/3"));
     QVERIFY(folder.read(QStringLiteral("kept")).startsWith('['));
-}
-
-void RunTest::interrupted_data()
-{
-    QTest::addColumn<int>("signal");
-    QTest::newRow("Ctrl-C") << SIGINT;
-    QTest::newRow("asked to end") << SIGTERM;
-    QTest::newRow("terminal closed") << SIGHUP;
-}
-
-/// What was begun is finished, nothing else is, no file is half there, and what is told of is what
-/// is on the disk.
-void RunTest::interrupted()
-{
-    QFETCH(int, signal);
-    Stalled stalled{QString()};
-    QVERIFY(stalled.isWaiting);
-    QVERIFY(catches(stalled.process.processId(), signal));
-    QCOMPARE(kill(pid_t(stalled.process.processId()), signal), 0);
-    QTRY_VERIFY(
-        !catches(stalled.process.processId(), signal)); // the second one would end it at once
-    const QList<QByteArray> errors = stalled.goOn();
-    QCOMPARE(stalled.process.exitStatus(), QProcess::CrashExit);
-    QCOMPARE(stalled.process.exitCode(), signal);
-    const QStringList written = stalled.written();
-    QVERIFY(!written.isEmpty() && written.size() < Stalled::pairs);
-    QCOMPARE(errors.last(), "thermaphoto: interrupted: " + QByteArray::number(written.size()) +
-                                " of 600 files are written");
-    // Those of the broken photographs before the last one written, and perhaps of one behind it.
-    QVERIFY(qAbs(errors.size() - 1 - written.size()) <= 2);
-    for (const QString& file : written)
-        QCOMPARE(stalled.read(file).size(), 128 + 240 * 320 * 4);
-}
-
-/// As under nohup: the terminal may be closed, the work goes on.
-void RunTest::ignoredRequestStaysIgnored()
-{
-    Stalled stalled(QStringLiteral("trap '' HUP; "));
-    QVERIFY(stalled.isWaiting);
-    QVERIFY(!catches(stalled.process.processId(), SIGHUP));
-    QCOMPARE(kill(pid_t(stalled.process.processId()), SIGHUP), 0);
-    QCOMPARE(stalled.goOn().size(), Stalled::pairs);
-    QCOMPARE(stalled.process.exitStatus(), QProcess::NormalExit);
-    QCOMPARE(stalled.process.exitCode(), 1);
-    QCOMPARE(stalled.written().size(), Stalled::pairs);
 }
 
 int main(int argc, char** argv)

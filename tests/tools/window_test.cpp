@@ -152,9 +152,9 @@ void WindowTest::toolTable()
     for (int row = 0; row < 5; ++row) {
         const QJsonObject tool = tools[row].toObject();
         QCOMPARE(tool["name"].toString(), opened.cell("tableWidget", row, 0));
-        QCOMPARE(tool["high"].toString(), opened.cell("tableWidget", row, 2));
-        QCOMPARE(tool["low"].toString(), opened.cell("tableWidget", row, 3));
-        QCOMPARE(tool["average"].toString(), opened.cell("tableWidget", row, 4));
+        QCOMPARE(tool["high"].toDouble(), opened.cell("tableWidget", row, 2).toDouble());
+        QCOMPARE(tool["low"].toDouble(), opened.cell("tableWidget", row, 3).toDouble());
+        QCOMPARE(tool["average"].toDouble(), opened.cell("tableWidget", row, 4).toDouble());
     }
 }
 
