@@ -1,0 +1,127 @@
+"""What holds for the sources as a whole, whatever they do.
+
+    tests/house/house.py [CHECKOUT]    names everything that does not hold; exit status 1 then
+
+The folders stand on each other; every source has a test of its own name. The reasons for exceptions
+stand in tested-elsewhere.txt beside this file.
+"""
+
+import pathlib
+import re
+import sys
+
+# From the ground up: a folder includes only what stands in the same line or above it.
+ROOMS = [
+    "config",
+    "platform",
+    "files",
+    "resources",
+    "dialogs",
+    "overlay",
+    "live",
+    "analysis",
+    "app",
+    "simulator",
+    "tools",
+]
+# What never ships; nothing that ships includes it.
+NOT_SHIPPED = ["simulator"]
+# They may include any room, and each other's helpers, but no room includes them.
+BESIDE = ["tests", "bench", "fuzz"]
+
+INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+)"', re.MULTILINE)
+
+
+def room_of(path):
+    """The room that a path lies in, the innermost one; None outside all rooms."""
+    parts = path.split("/")
+    for length in range(len(parts) - 1, 0, -1):
+        if "/".join(parts[:length]) in ROOMS:
+            return "/".join(parts[:length])
+    return None
+
+
+def sources(checkout, *suffixes):
+    """Paths of all rooms' files, from the checkout's top."""
+    tops = sorted({room.split("/")[0] for room in ROOMS})
+    return sorted(str(path.relative_to(checkout)) for top in tops
+                  for path in (checkout / top).rglob("*") if path.suffix in suffixes)
+
+
+def wrong_includes(checkout):
+    """Includes that go up, or out of the house."""
+    for name in sources(checkout, ".cpp", ".h"):
+        own = room_of(name)
+        if not own:
+            yield f"{name}: its folder is none of the rooms in tests/house/house.py"
+            continue
+        for included in INCLUDE.findall((checkout / name).read_text(encoding="utf-8")):
+            other = room_of(included)
+            if included.split("/")[0] in BESIDE:
+                yield f"{name}: includes {included}, which is not the product's"
+            elif other and ROOMS.index(other) > ROOMS.index(own):
+                yield f"{name}: includes {included}, but {other} stands above {own}"
+            elif other in NOT_SHIPPED and own not in NOT_SHIPPED:
+                yield f"{name}: includes {included}, which does not ship"
+
+
+def other_orders(checkout):
+    """Where the folders are listed in another order than here, or not all of them."""
+    tops = list(dict.fromkeys(room.split("/")[0] for room in ROOMS))
+    built = re.findall(r"^add_subdirectory\((\w+)\)", (checkout / "CMakeLists.txt").read_text(),
+                       re.MULTILINE)
+    if [name for name in built if name in tops] != tops:
+        yield f"CMakeLists.txt: adds {' '.join(built)}; the order is {' '.join(tops)}"
+    told = re.findall(r"^\| `(\w+)/` \|", (checkout / "README.md").read_text(), re.MULTILINE)
+    if [name for name in told if name in tops] != tops:
+        yield f"README.md: lists {' '.join(told)}; the order is {' '.join(tops)}"
+
+
+def tested_elsewhere(checkout):
+    """File -> reason. A paragraph is a reason, the indented one below it names the files."""
+    reasons = {}
+    reason, is_complete = "", True
+    text = (checkout / "tests/house/tested-elsewhere.txt").read_text(encoding="utf-8")
+    for line in (line for line in text.splitlines() if line and not line.startswith("#")):
+        if line.startswith(" "):
+            reasons[line.strip()] = reason
+            is_complete = True
+        else:
+            reason = line if is_complete else f"{reason} {line}"
+            is_complete = False
+    return reasons
+
+
+def sources_without_tests(checkout):
+    """Sources without a test of their own name and without a reason; reasons given in vain."""
+    tests = {path.stem for path in (checkout / "tests").rglob("*_test.*")}
+    reasons = tested_elsewhere(checkout)
+    known = set(sources(checkout, ".cpp"))
+    for name in sorted(known):
+        own = pathlib.PurePath(name).stem + "_test"
+        if own not in tests and name not in reasons:
+            yield f"{name}: has no {own}.cpp and no reason in tests/house/tested-elsewhere.txt"
+        if own in tests and name in reasons:
+            yield f"tested-elsewhere.txt: {name} has a test of its own name"
+    for name in sorted(set(reasons) - known):
+        yield f"tested-elsewhere.txt: there is no {name}"
+    for test in sorted(set(re.findall(r"\b\w+_test\b", " ".join(reasons.values()))) - tests):
+        yield f"tested-elsewhere.txt: there is no {test}"
+
+
+def complaints(checkout):
+    yield from wrong_includes(checkout)
+    yield from other_orders(checkout)
+    yield from sources_without_tests(checkout)
+
+
+def main():
+    checkout = pathlib.Path(sys.argv[1] if len(sys.argv) > 1 else
+                            pathlib.Path(__file__).resolve().parents[2])
+    found = list(complaints(checkout))
+    print("\n".join(found) or "the house stands")
+    return 1 if found else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
