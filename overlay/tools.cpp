@@ -24,11 +24,8 @@ int lowestFreeNumber(const QVector<Tool>& list)
 
 bool operator==(const Tools& left, const Tools& right)
 {
-    const auto members = [](const Tools& tools) {
-        return std::tie(tools.pointList, tools.lineList, tools.rectList, tools.circleList,
-                        tools.currentType, tools.selectedIndex);
-    };
-    return members(left) == members(right);
+    return listsOf(left) == listsOf(right) && left.currentType == right.currentType &&
+           left.selectedIndex == right.selectedIndex;
 }
 
 int countOf(const Tools& tools)

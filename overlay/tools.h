@@ -131,16 +131,20 @@ struct Tools
     int selectedIndex = -1; ///< within the list of `currentType`; may be one that no tool has
 };
 
+/// The list of each kind, in the order of the kinds.
+template<typename AnyTools>
+auto listsOf(AnyTools& tools)
+{
+    return std::tie(tools.pointList, tools.lineList, tools.rectList, tools.circleList);
+}
+
 bool operator==(const Tools& left, const Tools& right);
 
 /// Calls `visit` with the list of each kind, in the order of the kinds.
 template<typename AnyTools, typename Visit>
 void forEachList(AnyTools& tools, Visit&& visit)
 {
-    visit(tools.pointList);
-    visit(tools.lineList);
-    visit(tools.rectList);
-    visit(tools.circleList);
+    std::apply([&](auto&... lists) { (visit(lists), ...); }, listsOf(tools));
 }
 
 /// Calls `visit` with each tool, in the order of the kinds and of their lists.
