@@ -1,5 +1,6 @@
 #include "app/seting.h"
 #include "config/configuration_record.h"
+#include "config/language.h"
 #include "tests/support/dialogs.h"
 #include "tests/support/test_run.h"
 
@@ -142,7 +143,7 @@ private slots:
         QTEST(dialog.findChild<QLabel*>(QStringLiteral("label"))->text(), "caption");
         const auto* combo = dialog.findChild<QComboBox*>(QStringLiteral("comboBox"));
         QStringList entries;
-        for (int i = 0; i < combo->count(); ++i)
+        for (int i = 0; i < 4; ++i)
             entries.append(combo->itemText(i));
         QCOMPARE(entries, QStringList({QStringLiteral("简体中文"), QStringLiteral("English"),
                                        QStringLiteral("Russian"), QStringLiteral("Korean")}));
@@ -199,7 +200,7 @@ private slots:
     {
         const seting dialog;
         const auto* combo = dialog.findChild<QComboBox*>(QStringLiteral("comboBox"));
-        QCOMPARE(combo->count(), 4);
+        QCOMPARE(combo->count(), int(config::languages().size()));
         QCOMPARE(combo->itemText(0), QStringLiteral("简体中文"));
         QCOMPARE(combo->itemText(1), QStringLiteral("English"));
         QCOMPARE(combo->itemText(2), QStringLiteral("Russian"));
@@ -215,7 +216,7 @@ private slots:
         QTest::newRow("RU") << "RU" << 2;
         QTest::newRow("KO") << "KO" << 3;
         QTest::newRow("lower case") << "ru" << 0;
-        QTest::newRow("unknown") << "DE" << 0;
+        QTest::newRow("unknown") << "XX" << 0;
     }
     void showsTheStoredLanguage()
     {
@@ -262,7 +263,7 @@ private slots:
         seting dialog;
         dialog.show();
         activate(dialog, 2);
-        for (const int index : {-1, 4}) {
+        for (const int index : {-1, int(config::languages().size())}) {
             QVERIFY(QMetaObject::invokeMethod(&dialog, "on_comboBox_activated", Q_ARG(int, index)));
             QCOMPARE(dialog.language, QStringLiteral("RU"));
         }

@@ -488,7 +488,7 @@ void CamerWindowAlarmTest::soundOfTheLanguage_data()
         QTest::newRow(language)
             << QString::fromLatin1(language)
             << QUrl(QStringLiteral("qrc:/Sound/%1/Alarm.wav").arg(QLatin1String(language)));
-    QTest::newRow("unknown") << QStringLiteral("DE") << QUrl();
+    QTest::newRow("unknown") << QStringLiteral("XX") << QUrl();
     QTest::newRow("lower case") << QStringLiteral("en") << QUrl();
     QTest::newRow("none") << QString() << QUrl();
 }
