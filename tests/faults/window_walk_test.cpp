@@ -118,7 +118,8 @@ private:
             }
             return;
         }
-        --m_left;
+        if (--m_left % 10'000 == 0)
+            qInfo("%d to go: %s", m_left, qPrintable(testing::holdings().text()));
         next();
         ++m_depth;
         m_deepest = std::max(m_deepest, m_depth);
