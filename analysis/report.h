@@ -10,15 +10,10 @@
 #include <array>
 #include <vector>
 
-class QPagedPaintDevice;
-
 /// The report of one photograph: its data and picture on the first page, the tool table on the
-/// second and, when there are many tools, on further ones.
-///
-/// Positions are device pixels of an A4 page at 1200 dots per inch, counted from the corner inside
-/// margins of 10 points, as a QPrinter in high resolution has them; texts stand with their baseline
-/// on y. Captions are translated in the context of the analysis window, by the translators that the
-/// application has installed. Fonts need a QGuiApplication, nothing here needs a widget.
+/// second and, when there are many tools, on further ones. Captions are translated in the context
+/// of the analysis window, by the translators that the application has installed. Fonts need a
+/// QGuiApplication, nothing here needs a widget.
 namespace analysis {
 
 /// Everything a report shows. Texts are final: converted, formatted, translated.
@@ -36,26 +31,6 @@ struct Report
     std::vector<ToolCells> tools;
     QString language; ///< a code of config/language.h
 };
-
-/// A temperature beside the colour strip: baseline start on the canvas, and its text.
-struct ScaleText
-{
-    int x;
-    int y;
-    QString text;
-};
-
-/// The eleven temperatures of the scale, hottest first, in single precision throughout. The
-/// conversion's offset is part of the distance between two of them, too, so in °F all but the first
-/// and the last are off: reports have always shown them like this. What is below 100 by value, not
-/// by its text, starts ten pixels further right.
-std::vector<ScaleText> reportScale(qint16 maximum10, qint16 minimum10, Conversion conversion);
-
-/// The picture with overlay, colour strip and scale, 930 × 960, transparent where nothing is.
-QImage reportCanvas(const Report& report);
-
-/// Paints all pages. The device is A4 at 1200 dots per inch, with margins of 10 points.
-void paintReport(const Report& report, QPagedPaintDevice& device);
 
 /// The report as the bytes of a PDF file with embedded fonts. The text stays searchable, characters
 /// that share their shape with others included.

@@ -1,4 +1,6 @@
 #include "analysis/report.h"
+#include "analysis/report_canvas.h"
+#include "analysis/report_sheets.h"
 #include "tests/analysis/pdf_reader.h"
 #include "tests/analysis/sample_report.h"
 #include "tests/support/test_run.h"
