@@ -1,5 +1,6 @@
 #include "analysis/analysis_widget.h"
 
+#include "analysis/analysis_tables.h"
 #include "analysis/false_colour.h"
 #include "analysis/information.h"
 #include "analysis/report.h"
@@ -46,48 +47,11 @@ Analysis_Widget::Analysis_Widget(QWidget* parent)
     ui->content->setAutoFillBackground(false);
     ui->label->setOwner(this);
     configurationField = config::read().language;
-    prepareTables();
+    prepareInformationTable(*ui->tableWidget_2);
+    prepareToolTable(*ui->tableWidget);
 }
 
 Analysis_Widget::~Analysis_Widget() = default;
-
-void Analysis_Widget::prepareTables()
-{
-    QTableWidget* information = ui->tableWidget_2;
-    QFont captionFont = information->font();
-    captionFont.setPixelSize(12);
-    for (int row = 0; row < informationRows; ++row) {
-        auto* caption = new QTableWidgetItem(information->verticalHeaderItem(row)->text());
-        caption->setFont(captionFont);
-        information->setItem(row, 0, caption);
-        auto* value = new QTableWidgetItem;
-        value->setFont(information->font());
-        if (row > 0)
-            value->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        information->setItem(row, 1, value);
-    }
-    information->horizontalHeader()->setStretchLastSection(true);
-    information->setColumnWidth(0, 100);
-    information->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    information->setMouseTracking(true);
-    // Captions longer than the column take a second line, in whichever language; all rows show.
-    information->resizeRowsToContents();
-    information->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
-
-    QTableWidget* tools = ui->tableWidget;
-    tools->horizontalHeader()->setStretchLastSection(true);
-    tools->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    tools->setSelectionMode(QAbstractItemView::SingleSelection);
-    tools->setSelectionBehavior(QAbstractItemView::SelectRows);
-    tools->setColumnWidth(0, 50);
-    int kindWidth = 70;
-    for (const overlay::KindRow& row : overlay::toolKinds) {
-        const QString text = kindCaption(row.kind);
-        kindWidth = std::max(kindWidth, tools->fontMetrics().horizontalAdvance(text) + 12);
-    }
-    tools->setColumnWidth(1, kindWidth);
-    tools->verticalHeader()->setDefaultSectionSize(tools->fontMetrics().height() + 8);
-}
 
 bool Analysis_Widget::set_Image_addr(const QString& imagePath, int modelIndex)
 {
@@ -181,10 +145,9 @@ void Analysis_Widget::render()
 
 void Analysis_Widget::fillInformation()
 {
-    const auto texts = informationTexts(fileName, created, readCount, photograph.parameters,
-                                        photograph.mean, ui->comboBox->currentIndex(), conversion);
-    for (int row = 0; row < informationRows; ++row)
-        ui->tableWidget_2->item(row, 1)->setText(texts[std::size_t(row)]);
+    showInformation(*ui->tableWidget_2,
+                    informationTexts(fileName, created, readCount, photograph.parameters,
+                                     photograph.mean, ui->comboBox->currentIndex(), conversion));
 }
 
 void Analysis_Widget::showScale()
@@ -208,19 +171,7 @@ void Analysis_Widget::updat_XY_Temp(int x, int y)
 
 void Analysis_Widget::updat_Tool_Temp()
 {
-    const std::vector<ToolRow> rows = toolRows(*ui->label, photograph.temperatures, conversion);
-
-    QTableWidget& table = *ui->tableWidget;
-    table.setRowCount(0);
-    table.setRowCount(int(rows.size()));
-    for (int row = 0; row < table.rowCount(); ++row) {
-        int column = 0;
-        for (const QString& text : toolCells(rows[std::size_t(row)])) {
-            auto* item = new QTableWidgetItem(text);
-            item->setTextAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
-            table.setItem(row, column++, item);
-        }
-    }
+    showTools(*ui->tableWidget, toolRows(*ui->label, photograph.temperatures, conversion));
     Set_Select(selectedRow);
 }
 
@@ -240,51 +191,24 @@ void Analysis_Widget::selectTool(overlay::ToolMode mode)
     ui->label->setToolMode(currentTool);
 }
 
+/// The buttons are counted from the first tool on; the first five choose a tool.
 void Analysis_Widget::setFocus(int bt_focus)
 {
-    const auto focus = [](QWidget* widget) {
-        widget->setFocus(Qt::OtherFocusReason);
-    };
-    switch (bt_focus) {
-    case -1:
-        focus(ui->label);
-        break;
-    case 1:
-        focus(ui->pushButton_9);
-        selectTool(ToolMode::Select);
-        break;
-    case 2:
-        focus(ui->pushButton_8);
-        selectTool(ToolMode::Point);
-        break;
-    case 3:
-        focus(ui->pushButton_7);
-        selectTool(ToolMode::Line);
-        break;
-    case 4:
-        focus(ui->pushButton_6);
-        selectTool(ToolMode::Rect);
-        break;
-    case 5:
-        focus(ui->pushButton_5);
-        selectTool(ToolMode::Circle);
-        break;
-    case 6:
-        focus(ui->pushButton_4);
-        break;
-    case 7:
-        focus(ui->pushButton_3);
-        focus(ui->pushButton_9);
-        break;
-    case 8:
-        focus(ui->pushButton_2);
-        break;
-    case 9:
-        focus(ui->pushButton);
-        break;
-    default:
-        break;
-    }
+    const std::array<QWidget*, 9> buttons{ui->pushButton_9, ui->pushButton_8, ui->pushButton_7,
+                                          ui->pushButton_6, ui->pushButton_5, ui->pushButton_4,
+                                          ui->pushButton_3, ui->pushButton_2, ui->pushButton};
+    constexpr int image = -1;
+    constexpr int lastTool = int(ToolMode::Circle);
+    constexpr int deletion = 7;
+    if (bt_focus == image)
+        ui->label->setFocus(Qt::OtherFocusReason);
+    if (bt_focus < 1 || bt_focus > int(buttons.size()))
+        return;
+    buttons[std::size_t(bt_focus) - 1]->setFocus(Qt::OtherFocusReason);
+    if (bt_focus <= lastTool)
+        selectTool(ToolMode(bt_focus));
+    if (bt_focus == deletion)
+        ui->pushButton_9->setFocus(Qt::OtherFocusReason);
 }
 
 /// One row past the end is let through; the table then keeps its selection.
@@ -389,8 +313,7 @@ Report Analysis_Widget::report()
 {
     render();
     Report report;
-    for (int row = 0; row < informationRows; ++row)
-        report.information[std::size_t(row)] = ui->tableWidget_2->item(row, 1)->text();
+    report.information = shownInformation(*ui->tableWidget_2);
     report.picture = falseColourImage;
     report.overlay = reportOverlay(*ui->label, *ui->label, falseColourImage.size());
     report.colourStrip = colourStrip.toImage();
@@ -398,12 +321,7 @@ Report Analysis_Widget::report()
     report.minimum10 = photograph.parameters.minimum10;
     report.conversion = conversion;
     report.unitIndex = ui->comboBox->currentIndex();
-    for (int row = 0; row < ui->tableWidget->rowCount(); ++row) {
-        ToolCells cells;
-        for (std::size_t column = 0; column < cells.size(); ++column)
-            cells[column] = ui->tableWidget->item(row, int(column))->text();
-        report.tools.push_back(cells);
-    }
+    report.tools = shownTools(*ui->tableWidget);
     report.language = configurationField;
     return report;
 }

@@ -89,7 +89,6 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void prepareTables();
     void selectTool(overlay::ToolMode mode);
     int rowOfSelection() const;
     void takePalette();

@@ -162,7 +162,8 @@ private:
 
     const Place& place(const Field& field) const
     {
-        return config::languageOf(m_report.language).hasWideCaptions ? field.widePlace : field.place;
+        return config::languageOf(m_report.language).hasWideCaptions ? field.widePlace
+                                                                     : field.place;
     }
 
     void paintTools(Row first, Row last)
