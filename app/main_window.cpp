@@ -1,7 +1,7 @@
 #include "app/main_window.h"
 
-#include "analysis/photo_window.h"
-#include "analysis/photograph_format.h"
+#include "analysis/photograph/layouts.h"
+#include "analysis/windows/photo_window.h"
 #include "app/device_poll.h"
 #include "app/seting.h"
 #include "config/configuration_record.h"

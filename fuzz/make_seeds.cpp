@@ -1,7 +1,7 @@
 /// Makes the seeds of the fuzz targets from what the simulated imager makes: make_seeds FOLDER
 /// writes FOLDER/TARGET/NAME, a few small files for each target.
 
-#include "analysis/photograph_format.h"
+#include "analysis/photograph/layouts.h"
 #include "live/live_frame.h"
 #include "simulator/photograph.h"
 

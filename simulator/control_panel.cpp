@@ -1,6 +1,6 @@
 #include "simulator/control_panel.h"
 
-#include "analysis/photograph_format.h"
+#include "analysis/photograph/layouts.h"
 
 #include "ui_control_panel.h"
 

@@ -1,6 +1,6 @@
 #include "simulator/photograph.h"
 
-#include "analysis/photograph_format.h"
+#include "analysis/photograph/layouts.h"
 
 #include <QtEndian>
 

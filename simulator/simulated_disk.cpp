@@ -1,6 +1,6 @@
 #include "simulator/simulated_disk.h"
 
-#include "analysis/photograph_format.h"
+#include "analysis/photograph/layouts.h"
 #include "platform/removable_drives.h"
 
 #include <QDir>

@@ -1,6 +1,6 @@
 #include "tools/command_line.h"
 
-#include "analysis/photograph_format.h"
+#include "analysis/photograph/layouts.h"
 #include "tools/messages.h"
 
 #include <QThread>

@@ -1,4 +1,4 @@
-#include "analysis/photograph_export.h"
+#include "analysis/export/photograph_export.h"
 #include "tools/command_line.h"
 #include "tools/commands.h"
 #include "tools/messages.h"

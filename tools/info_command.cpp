@@ -1,4 +1,4 @@
-#include "analysis/photograph_reader.h"
+#include "analysis/photograph/photograph_reader.h"
 #include "tools/command_line.h"
 #include "tools/commands.h"
 #include "tools/messages.h"

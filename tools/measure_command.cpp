@@ -1,5 +1,5 @@
-#include "analysis/photograph_reader.h"
-#include "analysis/tool_statistics.h"
+#include "analysis/photograph/photograph_reader.h"
+#include "analysis/photograph/tool_statistics.h"
 #include "platform/console.h"
 #include "tools/commands.h"
 #include "tools/measuring_options.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "analysis/photograph_reader.h"
+#include "analysis/photograph/photograph_reader.h"
 #include "tools/command_line.h"
 #include "tools/tool_file.h"
 

@@ -1,4 +1,4 @@
-#include "analysis/photograph_report.h"
+#include "analysis/report/photograph_report.h"
 #include "config/configuration_record.h"
 #include "config/language.h"
 #include "files/whole_file.h"

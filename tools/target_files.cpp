@@ -1,6 +1,6 @@
 #include "tools/target_files.h"
 
-#include "analysis/photograph_export.h"
+#include "analysis/export/photograph_export.h"
 #include "files/paths.h"
 #include "tools/command_line.h"
 #include "tools/messages.h"

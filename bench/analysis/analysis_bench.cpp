@@ -1,8 +1,8 @@
 // Opening a photograph, measuring tools, listing a disk, and how far from what the work costs
 // alone.
-#include "analysis/analysis_widget.h"
-#include "analysis/photo_window.h"
-#include "analysis/tool_statistics.h"
+#include "analysis/photograph/tool_statistics.h"
+#include "analysis/windows/analysis_widget.h"
+#include "analysis/windows/photo_window.h"
 #include "bench/child_process.h"
 #include "overlay/my_label.h"
 #include "platform/removable_drives.h"

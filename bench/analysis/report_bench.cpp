@@ -1,5 +1,5 @@
 // What a report costs beside what nothing can save: packing its one picture into a PDF file.
-#include "analysis/report_canvas.h"
+#include "analysis/report/report_canvas.h"
 #include "tests/analysis/sample_report.h"
 
 #include <QBuffer>

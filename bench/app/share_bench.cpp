@@ -1,6 +1,6 @@
 // The share of a core that the real main window takes, second after second. One iteration is one
 // second of it; its processor time is the share.
-#include "analysis/photo_window.h"
+#include "analysis/windows/photo_window.h"
 #include "app/main_window.h"
 #include "bench/live/live_scene.h"
 #include "live/camer_window.h"

@@ -6,9 +6,9 @@
 /// photographs (see photograph_input.h): for the browser one, for the analysis window up to three,
 /// one after another.
 
-#include "analysis/analysis_widget.h"
-#include "analysis/information.h"
-#include "analysis/photo_window.h"
+#include "analysis/report/information.h"
+#include "analysis/windows/analysis_widget.h"
+#include "analysis/windows/photo_window.h"
 #include "fuzz/analysis/photograph_input.h"
 #include "fuzz/support/surroundings.h"
 #include "fuzz/support/target.h"

@@ -5,11 +5,11 @@
 /// two values (u8 each), the photograph (see photograph_input.h), then a byte and a place for
 /// tools: u16 each.
 
-#include "analysis/false_colour.h"
-#include "analysis/information.h"
-#include "analysis/photograph_export.h"
-#include "analysis/photograph_reader.h"
-#include "analysis/tool_statistics.h"
+#include "analysis/export/photograph_export.h"
+#include "analysis/photograph/false_colour.h"
+#include "analysis/photograph/photograph_reader.h"
+#include "analysis/photograph/tool_statistics.h"
+#include "analysis/report/information.h"
 #include "fuzz/analysis/photograph_input.h"
 #include "fuzz/support/surroundings.h"
 #include "fuzz/support/target.h"

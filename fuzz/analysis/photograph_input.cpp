@@ -1,7 +1,7 @@
 #include "fuzz/analysis/photograph_input.h"
 
-#include "analysis/file_buffer.h"
-#include "analysis/photograph_format.h"
+#include "analysis/photograph/file_buffer.h"
+#include "analysis/photograph/layouts.h"
 #include "fuzz/support/target.h"
 
 #include <memory>

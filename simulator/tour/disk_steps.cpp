@@ -1,5 +1,5 @@
-#include "analysis/analysis_widget.h"
-#include "analysis/photo_window.h"
+#include "analysis/windows/analysis_widget.h"
+#include "analysis/windows/photo_window.h"
 #include "app/device_poll.h"
 #include "overlay/my_color_slider.h"
 #include "overlay/my_label.h"

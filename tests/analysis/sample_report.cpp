@@ -1,7 +1,7 @@
 #include "tests/analysis/sample_report.h"
 
-#include "analysis/false_colour.h"
-#include "analysis/report_overlay.h"
+#include "analysis/photograph/false_colour.h"
+#include "analysis/report/report_overlay.h"
 #include "tests/overlay/overlay_host.h"
 
 #include <QHash>

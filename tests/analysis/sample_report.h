@@ -1,6 +1,6 @@
 #pragma once
 
-#include "analysis/report.h"
+#include "analysis/report/report.h"
 #include "overlay/spots.h"
 #include "overlay/tools.h"
 

@@ -1,6 +1,6 @@
 // What a screen reader has to say about each window: whatever takes the keyboard, and whatever
 // shows something without saying it in words, has a name.
-#include "analysis/photo_window.h"
+#include "analysis/windows/photo_window.h"
 #include "app/main_window.h"
 #include "app/seting.h"
 #include "config/configuration_record.h"

@@ -1,4 +1,4 @@
-#include "analysis/photo_window.h"
+#include "analysis/windows/photo_window.h"
 #include "app/main_window.h"
 #include "app/seting.h"
 #include "config/configuration_record.h"

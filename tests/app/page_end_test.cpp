@@ -1,6 +1,6 @@
 // Pages that end while a dialog of theirs is up, and a context menu of that dialog on top of it:
 // nothing may go while an event loop still runs in it. What goes too early crashes this program.
-#include "analysis/photo_window.h"
+#include "analysis/windows/photo_window.h"
 #include "app/main_window.h"
 #include "config/configuration_record.h"
 #include "live/camer_window.h"

@@ -1,5 +1,5 @@
-#include "analysis/analysis_widget.h"
-#include "analysis/photo_window.h"
+#include "analysis/windows/analysis_widget.h"
+#include "analysis/windows/photo_window.h"
 #include "app/main_window.h"
 #include "config/configuration_record.h"
 #include "overlay/my_label.h"

@@ -1,7 +1,7 @@
 // The imager as a camera and as a disk, swapped at random through every row of the detection, while
 // the user works with whatever page there is, has dialogs open and changes the settings. Each
 // outcome is checked, and in the end the program holds what it held at the beginning.
-#include "analysis/photo_window.h"
+#include "analysis/windows/photo_window.h"
 #include "app/main_window.h"
 #include "app/seting.h"
 #include "config/configuration_record.h"

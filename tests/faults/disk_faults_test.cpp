@@ -4,8 +4,8 @@
 //
 // Where mounting is not allowed, the rows that need it are skipped with the reason, and the rows of
 // the ordinary folder remain.
-#include "analysis/photo_window.h"
-#include "analysis/selection_job.h"
+#include "analysis/windows/photo_window.h"
+#include "analysis/windows/selection_job.h"
 #include "app/main_window.h"
 #include "config/configuration_record.h"
 #include "live/alarm_records.h"

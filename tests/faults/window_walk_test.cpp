@@ -2,7 +2,7 @@
 // they are possible, on the pages, their dialogs, the menus of those dialogs, while devices come
 // and go at any moment. One thing after the other, also inside the event loops of dialogs and
 // menus. Nothing may crash, hang or be left over.
-#include "analysis/photo_window.h"
+#include "analysis/windows/photo_window.h"
 #include "app/main_window.h"
 #include "app/seting.h"
 #include "config/configuration_record.h"

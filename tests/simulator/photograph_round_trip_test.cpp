@@ -1,4 +1,4 @@
-#include "analysis/photograph.h"
+#include "analysis/photograph/photograph.h"
 #include "simulator/photograph.h"
 #include "tests/support/test_run.h"
 

@@ -1,5 +1,5 @@
-#include "analysis/information.h"
-#include "analysis/photograph_reader.h"
+#include "analysis/photograph/photograph_reader.h"
+#include "analysis/report/information.h"
 #include "tests/analysis/photograph_writer.h"
 #include "tests/support/test_run.h"
 #include "tests/tools/thermaphoto.h"

@@ -1,5 +1,5 @@
-#include "analysis/file_buffer.h"
-#include "analysis/tool_statistics.h"
+#include "analysis/photograph/file_buffer.h"
+#include "analysis/photograph/tool_statistics.h"
 #include "tests/analysis/photograph_writer.h"
 #include "tests/support/test_run.h"
 #include "tests/tools/thermaphoto.h"

@@ -1,4 +1,4 @@
-#include "analysis/analysis_widget.h"
+#include "analysis/windows/analysis_widget.h"
 #include "config/configuration_record.h"
 #include "overlay/my_label.h"
 #include "tests/analysis/pdf_reader.h"

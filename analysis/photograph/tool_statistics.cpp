@@ -1,0 +1,102 @@
+#include "analysis/photograph/tool_statistics.h"
+
+#include "overlay/tool_rules.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace analysis {
+namespace {
+
+using namespace format;
+using overlay::PointTool;
+
+constexpr float lowBeforeAll = 2000.0F;
+
+constexpr float highBeforeAll(overlay::ToolKind kind)
+{
+    return kind == overlay::ToolKind::Circle ? -50.0F : -10.0F;
+}
+
+/// Sums in single precision depend on their order: column after column, and down each.
+template<typename Tool>
+AreaStatistics measured(const Tool& tool, const Temperatures& temperatures)
+{
+    const overlay::PixelBox box = overlay::boxOf(tool);
+    float high = highBeforeAll(Tool::kind);
+    float low = lowBeforeAll;
+    float sum = 0.0F;
+    int pixels = 0;
+    for (int x = std::max(box.firstX, 0); x <= std::min(box.lastX, columns - 1); ++x) {
+        for (int y = std::max(box.firstY, 0); y <= std::min(box.lastY, rows - 1); ++y) {
+            if (!overlay::covers(tool, x, y))
+                continue;
+            const float temperature = temperatures[temperatureIndex(x, y)];
+            // As comparisons, so that not-a-number changes neither.
+            high = temperature > high ? temperature : high;
+            low = temperature < low ? temperature : low;
+            sum += temperature;
+            ++pixels;
+        }
+    }
+    return {high, low, pixels > 0 ? sum / float(pixels) : 0.0F, pixels};
+}
+
+/// A point has no area: its one temperature stands for all three.
+AreaStatistics measured(const PointTool& point, const Temperatures& temperatures)
+{
+    const float temperature = nearestTemperature(temperatures, point.x, point.y);
+    return {temperature, temperature, temperature, 1};
+}
+
+template<typename Take>
+void measurePlaced(const overlay::Tools& tools, const Temperatures& temperatures, Take take)
+{
+    overlay::forEachTool(tools, [&](const auto& tool) {
+        if (overlay::isPlaced(tool))
+            take(tool, measured(tool, temperatures));
+    });
+}
+
+} // namespace
+
+std::vector<AreaStatistics> measureAreas(const overlay::Tools& tools,
+                                         const Temperatures& temperatures)
+{
+    std::vector<AreaStatistics> areas;
+    measurePlaced(tools, temperatures, [&](const auto& tool, const AreaStatistics& area) {
+        if (tool.kind != overlay::ToolKind::Point)
+            areas.push_back(area);
+    });
+    return areas;
+}
+
+std::vector<ToolRow> toolRows(const overlay::Tools& tools, const Temperatures& temperatures,
+                              Conversion conversion)
+{
+    const auto text = [conversion](float temperature) {
+        return oneDecimal(double(shown(temperature, conversion)));
+    };
+    std::vector<ToolRow> table;
+    measurePlaced(tools, temperatures, [&](const auto& tool, const AreaStatistics& area) {
+        table.push_back(
+            {tool.name, tool.kind, text(area.high), text(area.low), text(area.average)});
+    });
+    return table;
+}
+
+QString kindCaption(overlay::ToolKind kind)
+{
+    static constexpr std::array<const char*, overlay::toolKinds.size()> captions{
+        QT_TRANSLATE_NOOP("Analysis_Widget", "点"), QT_TRANSLATE_NOOP("Analysis_Widget", "线"),
+        QT_TRANSLATE_NOOP("Analysis_Widget", "矩形"), QT_TRANSLATE_NOOP("Analysis_Widget", "圆")};
+    return QCoreApplication::translate("Analysis_Widget", captions[std::size_t(kind)]);
+}
+
+ToolCells toolCells(const ToolRow& row)
+{
+    return {row.name, kindCaption(row.kind), row.high, row.low, row.average};
+}
+
+} // namespace analysis

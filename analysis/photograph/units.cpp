@@ -1,0 +1,22 @@
+#include "analysis/photograph/units.h"
+
+namespace analysis {
+
+Conversion conversionFor(int index, int displayState, int fileUnit, bool raw, Conversion current)
+{
+    if (index != 0 && index != 1)
+        return current;
+    const bool storedInCelsius = raw || displayState == 1 || (displayState == 0 && fileUnit == 0);
+    if (storedInCelsius)
+        return index == 0 ? unchanged : toFahrenheit;
+    if (displayState == 0 && fileUnit == 1)
+        return index == 0 ? toCelsius : unchanged;
+    return current;
+}
+
+QString oneDecimal(double value)
+{
+    return QString::number(value, 'f', 1);
+}
+
+} // namespace analysis
