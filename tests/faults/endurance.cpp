@@ -133,10 +133,12 @@ Holdings holdings()
     now.widgets = int(QApplication::allWidgets().size());
     const QMutexLocker lock(&objects().mutex);
     for (QObject* object : qAsConst(objects().alive)) {
-        // Qt keeps those of views that are gone until it next looks after its gestures.
-        if (qstrcmp(object->metaObject()->className(), "QPanGesture") == 0)
+        const auto kind = QString::fromLatin1(object->metaObject()->className());
+        // Qt keeps those of views that are gone until it next looks after its gestures, and idle
+        // threads of its pool for half a minute; those are counted as threads.
+        if (kind == QLatin1String("QPanGesture") || kind == QLatin1String("QThreadPoolThread"))
             continue;
-        ++now.objects[QString::fromLatin1(object->metaObject()->className())];
+        ++now.objects[kind];
         if (object->thread() == QThread::currentThread())
             now.timers +=
                 int(QAbstractEventDispatcher::instance()->registeredTimers(object).size());
