@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/imager_picture.h"
+
 #include <QtGlobal>
 
 /// The live thermal frame: what the imager sends as one UVC frame.
@@ -12,8 +14,8 @@
 /// Everything here is pure: no state, any thread.
 namespace live {
 
-constexpr int frameColumns = 240;
-constexpr int frameRows = 320;
+constexpr int frameColumns = platform::pictureColumns;
+constexpr int frameRows = platform::pictureRows;
 constexpr int picturePixels = frameColumns * frameRows;
 constexpr int pictureBytes = picturePixels * 2; ///< 153,600
 /// Offsets of the three words: maximum temperature and alarm threshold in tenths of a degree,

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/imager_picture.h"
+
 /// Between the label's pixels and the picture's.
 ///
 /// Two coordinate systems meet here: *widget* coordinates are the label's own device-independent
@@ -12,8 +14,8 @@
 namespace overlay {
 
 /// The thermal frame, whatever size it is shown at.
-constexpr int imageColumns = 240;
-constexpr int imageRows = 320;
+constexpr int imageColumns = platform::pictureColumns;
+constexpr int imageRows = platform::pictureRows;
 
 /// What the conversions need to know, in widget pixels.
 struct Geometry

@@ -1,6 +1,7 @@
 #include "analysis/export/photograph_export.h"
 #include "tools/command_line.h"
 #include "tools/commands.h"
+#include "tools/measuring_options.h"
 #include "tools/messages.h"
 #include "tools/photograph_run.h"
 #include "tools/target_files.h"
@@ -8,7 +9,6 @@
 using analysis::ExportFormat;
 using analysis::ExportOptions;
 using analysis::PhotographExporter;
-using analysis::UnitChoice;
 using files::Outcome;
 
 namespace tools {
@@ -82,13 +82,13 @@ ExportOptions readOptions(CommandLine& line)
                                                              {"npy", ExportFormat::Npy},
                                                              {"png", ExportFormat::Png}});
     options.modelIndex = line.modelIndex();
-    options.unit =
-        line.choice<UnitChoice>(QStringLiteral("unit"), {{"C", UnitChoice::Celsius},
-                                                         {"F", UnitChoice::Fahrenheit},
-                                                         {"file", UnitChoice::AsStored}});
-    options.separator = separatorFrom(line);
-    options.decimals = line.number(QStringLiteral("decimals"), 0, ExportOptions::maximumDecimals);
-    options.header = line.isSet(QStringLiteral("header"));
+    auto units = unitNames();
+    units.emplace_back("file", std::nullopt);
+    options.unit = line.choice(QStringLiteral("unit"), units);
+    options.csv.separator = separatorFrom(line);
+    options.csv.decimals =
+        line.number(QStringLiteral("decimals"), 0, analysis::CsvOptions::maximumDecimals);
+    options.csv.header = line.isSet(QStringLiteral("header"));
     readSpan(line, options);
     line.refuseUnless(
         options.format == ExportFormat::Csv,

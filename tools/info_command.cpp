@@ -25,7 +25,7 @@ QString sourceOf(const PhotographReader& reader)
 QString unitOf(const PhotographReader& reader)
 {
     const int fileUnit = reader.photograph().parameters.unit;
-    return shownUnit(analysis::UnitChoice::AsStored, fileUnit, reader.isRaw()).letter();
+    return analysis::letterOf(analysis::shownUnit(std::nullopt, fileUnit, reader.isRaw()).unit);
 }
 
 /// What a photograph of another make does not tell is null, as is a mean that is not a number.

@@ -14,7 +14,7 @@
 
 using analysis::PhotographReader;
 using analysis::ToolRow;
-using analysis::UnitChoice;
+using analysis::Unit;
 using files::Outcome;
 
 namespace tools {
@@ -120,7 +120,7 @@ int measureCommand(const QStringList& arguments)
     PhotographRun photographs;
     photographs.jobs = line.jobs();
     const std::optional<int> modelIndex = line.modelIndex();
-    const UnitChoice unit = readUnit(line);
+    const std::optional<Unit> unit = readUnit(line);
     const auto write = line.choice<Writer>(QStringLiteral("format"),
                                            {{"csv", csv}, {"json", json}, {"table", table}});
     line.require(QStringLiteral("tools"));
@@ -141,7 +141,7 @@ int measureCommand(const QStringList& arguments)
             const analysis::Photograph& photograph = reader->photograph();
             const analysis::ShownUnit shown =
                 shownUnit(unit, photograph.parameters.unit, reader->isRaw());
-            return {write({isShown ? printable(path) : path, shown.letter(),
+            return {write({isShown ? printable(path) : path, letterOf(shown.unit),
                            toolRows(tools, photograph.temperatures, shown.conversion)}),
                     {}};
         };

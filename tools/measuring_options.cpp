@@ -1,6 +1,6 @@
 #include "tools/measuring_options.h"
 
-using analysis::UnitChoice;
+using analysis::Unit;
 
 namespace tools {
 
@@ -12,12 +12,19 @@ void addMeasuringOptions(CommandLine& line, const QString& toolsDescription)
              QStringLiteral("C|F"));
 }
 
-UnitChoice readUnit(CommandLine& line)
+std::optional<Unit> readUnit(CommandLine& line)
 {
     if (!line.isSet(QStringLiteral("unit")))
-        return UnitChoice::AsStored;
-    return line.choice<UnitChoice>(QStringLiteral("unit"),
-                                   {{"C", UnitChoice::Celsius}, {"F", UnitChoice::Fahrenheit}});
+        return std::nullopt;
+    return line.choice(QStringLiteral("unit"), unitNames());
+}
+
+std::vector<std::pair<const char*, std::optional<Unit>>> unitNames()
+{
+    std::vector<std::pair<const char*, std::optional<Unit>>> names;
+    for (const analysis::UnitRow& row : analysis::units)
+        names.emplace_back(row.letter, row.unit);
+    return names;
 }
 
 overlay::Tools readTools(CommandLine& line)

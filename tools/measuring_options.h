@@ -9,8 +9,11 @@ namespace tools {
 
 void addMeasuringOptions(CommandLine& line, const QString& toolsDescription);
 
+/// The units as values of an option.
+std::vector<std::pair<const char*, std::optional<analysis::Unit>>> unitNames();
+
 /// Without --unit, the photograph's own.
-analysis::UnitChoice readUnit(CommandLine& line);
+std::optional<analysis::Unit> readUnit(CommandLine& line);
 
 /// No tools without --tools. A file that cannot be read or makes no sense is bad usage.
 overlay::Tools readTools(CommandLine& line);

@@ -14,7 +14,7 @@
 #include <QTranslator>
 
 using analysis::PhotographReader;
-using analysis::UnitChoice;
+using analysis::Unit;
 using files::Outcome;
 using files::Problem;
 
@@ -63,7 +63,7 @@ int reportCommand(const QStringList& arguments)
     photographs.jobs = line.jobs();
     photographs.writesFiles = true;
     const std::optional<int> modelIndex = line.modelIndex();
-    const UnitChoice unit = readUnit(line);
+    const std::optional<Unit> unit = readUnit(line);
     const TargetRules rules = readTargetRules(line);
     const QString language = line.value(QStringLiteral("language"));
     if (!config::findLanguage(language))

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "analysis/export/csv.h"
 #include "analysis/photograph/photograph_reader.h"
 #include "files/whole_file.h"
 
@@ -32,15 +33,9 @@ struct ExportOptions
     files::Existing existing = files::Existing::Refuse;
 
     // Temperatures: all but Png.
-    UnitChoice unit = UnitChoice::AsStored;
+    std::optional<Unit> unit; ///< nothing: the one the photograph opens with
 
-    // Csv. Numbers have a decimal point whatever the locale.
-    char separator = ',';
-    /// Digits behind the point, 0 … maximumDecimals, rounded as the windows do; without it nine
-    /// significant digits, from which the very same 32-bit float can be read back.
-    std::optional<int> decimals;
-    static constexpr int maximumDecimals = 9;
-    bool header = false; ///< a first line "# unit=C columns=240 rows=320"
+    CsvOptions csv;
 
     // Png: the two values of the colour bar, 0 … 255, steps of the palette from its hot end.
     int startValue = 0;

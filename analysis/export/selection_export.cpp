@@ -74,8 +74,7 @@ Outcome SelectionExport::writeReport(const QString& path, const QString& target)
     const Outcome reading = m_reader.read(path, layoutOf(m_order));
     if (!reading.isGood())
         return reading;
-    const Report report =
-        photographReport(path, m_reader, UnitChoice::AsStored, {}, m_order.language);
+    const Report report = photographReport(path, m_reader, std::nullopt, {}, m_order.language);
     return writeWholeFile(target, reportPdf(report), Existing::Refuse);
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/imager_picture.h"
+
 #include <array>
 #include <cstdint>
 
@@ -11,8 +13,8 @@
 /// the start of the file, all numbers little-endian.
 namespace analysis::format {
 
-constexpr int columns = 240;
-constexpr int rows = 320;
+constexpr int columns = platform::pictureColumns;
+constexpr int rows = platform::pictureRows;
 constexpr int grayBytes = columns * rows; ///< 76,800
 constexpr int paletteEntries = 256;       ///< RGB565, 16 bits each
 

@@ -118,12 +118,11 @@ QString PhotographReader::machineIds() const
     return texts.join(QStringLiteral(", "));
 }
 
-ShownUnit shownUnit(UnitChoice choice, int fileUnit, bool raw)
+ShownUnit shownUnit(std::optional<Unit> wanted, int fileUnit, bool raw)
 {
-    const int index =
-        choice == UnitChoice::AsStored ? int(fileUnit == 1) : int(choice == UnitChoice::Fahrenheit);
+    const Unit unit = wanted ? *wanted : unitAt(fileUnit).value_or(Unit::Celsius);
     constexpr int afterLoading = 0;
-    return {index, conversionFor(index, afterLoading, fileUnit, raw, unchanged)};
+    return {unit, conversionFor(int(unit), afterLoading, fileUnit, raw, unchanged)};
 }
 
 } // namespace analysis

@@ -45,25 +45,15 @@ private:
     int m_modelIndex = 0;
 };
 
-/// In what unit temperatures are wanted.
-enum class UnitChoice
-{
-    Celsius,
-    Fahrenheit,
-    AsStored ///< the one the photograph opens with
-};
-
 /// What the unit selector shows, and how stored temperatures become shown ones, in a window that
 /// has just opened the photograph and was then switched to the wanted unit.
 struct ShownUnit
 {
-    int index = 0; ///< 0 °C, 1 °F
+    Unit unit = Unit::Celsius;
     Conversion conversion;
-
-    /// "C" or "F".
-    QString letter() const { return index == 1 ? QStringLiteral("F") : QStringLiteral("C"); }
 };
 
-ShownUnit shownUnit(UnitChoice choice, int fileUnit, bool raw);
+/// `wanted` is nothing for the unit that the photograph opens with.
+ShownUnit shownUnit(std::optional<Unit> wanted, int fileUnit, bool raw);
 
 } // namespace analysis

@@ -2,6 +2,16 @@
 
 namespace analysis {
 
+QString letterOf(Unit unit)
+{
+    return QString::fromUtf8(units[std::size_t(unit)].letter);
+}
+
+QString signOf(Unit unit)
+{
+    return QString::fromUtf8(units[std::size_t(unit)].sign);
+}
+
 Conversion conversionFor(int index, int displayState, int fileUnit, bool raw, Conversion current)
 {
     if (index != 0 && index != 1)

@@ -2,8 +2,39 @@
 
 #include <QString>
 
-/// How stored temperatures become shown ones.
+#include <array>
+#include <optional>
+
+/// The units of temperatures, and how stored temperatures become shown ones.
 namespace analysis {
+
+/// The numbers are the indices of the unit selector, and what photographs store.
+enum class Unit
+{
+    Celsius,
+    Fahrenheit
+};
+
+struct UnitRow
+{
+    Unit unit;
+    const char* letter; ///< in files and on the command line
+    const char* sign;   ///< in windows and reports, UTF-8
+};
+
+constexpr std::array<UnitRow, 2> units{{
+    {Unit::Celsius, "C", "°C"},
+    {Unit::Fahrenheit, "F", "°F"},
+}};
+
+/// The unit of an index of the selector, or of a photograph's unit byte; nothing for others.
+constexpr std::optional<Unit> unitAt(int index)
+{
+    return index >= 0 && index < int(units.size()) ? std::optional(Unit(index)) : std::nullopt;
+}
+
+QString letterOf(Unit unit);
+QString signOf(Unit unit);
 
 /// A stored temperature t is shown as 10 × t / scale + offset.
 struct Conversion

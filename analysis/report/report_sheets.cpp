@@ -169,7 +169,8 @@ private:
     void paintTools(Row first, Row last)
     {
         heading(translated(QT_TRANSLATE_NOOP("Analysis_Widget", "测温信息")) +
-                (m_report.unitIndex == 0 ? QStringLiteral("(°C)") : QStringLiteral("(°F)")));
+                QStringLiteral("(%1)").arg(
+                    signOf(unitAt(m_report.unitIndex).value_or(Unit::Fahrenheit))));
         ToolCells header;
         std::transform(toolHeader.begin(), toolHeader.end(), header.begin(), translated);
         const Edges edges = columns(header);

@@ -71,7 +71,7 @@ bool Analysis_Widget::set_Image_addr(const QString& imagePath, int modelIndex)
     qDebug().noquote() << QStringLiteral("单位:") << parameters.unit;
     // A change of the selector refills both tables, still with the temperatures of the photograph
     // before.
-    if (parameters.unit <= 1)
+    if (unitAt(parameters.unit))
         ui->comboBox->setCurrentIndex(parameters.unit);
 
     const bool supported = readMeasurements(fileBuffer.bytes(), readCount, modelIndex, photograph);
@@ -161,12 +161,11 @@ void Analysis_Widget::updat_XY_Temp(int x, int y)
 {
     ui->label_2->setText(QStringLiteral("X: %1").arg(x));
     ui->label_3->setText(QStringLiteral("Y: %1").arg(y));
-    const int unit = ui->comboBox->currentIndex();
-    if (unit != 0 && unit != 1)
+    const std::optional<Unit> unit = unitAt(ui->comboBox->currentIndex());
+    if (!unit)
         return;
     const float temperature = shown(nearestTemperature(photograph.temperatures, x, y), conversion);
-    ui->label_4->setText(oneDecimal(double(temperature)) +
-                         (unit == 0 ? QStringLiteral("°C") : QStringLiteral("°F")));
+    ui->label_4->setText(oneDecimal(double(temperature)) + signOf(*unit));
 }
 
 void Analysis_Widget::updat_Tool_Temp()

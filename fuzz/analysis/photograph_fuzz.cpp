@@ -222,11 +222,11 @@ void readStrictly(const PhotographFile& file)
 void inform(const Photograph& photograph, const PhotographFile& file, int unitByte)
 {
     const bool raw = file.size == format::rawFileBytes;
-    const ShownUnit unit = shownUnit(UnitChoice(unitByte % 3), photograph.parameters.unit, raw);
-    mustHold(unit.index == 0 || unit.index == 1, "a unit is Celsius or Fahrenheit");
+    const ShownUnit unit = shownUnit(unitAt(unitByte % 3), photograph.parameters.unit, raw);
+    mustHold(unitAt(int(unit.unit)).has_value(), "a unit is Celsius or Fahrenheit");
     const auto texts =
         informationTexts(QStringLiteral("a.bmp"), QString(), file.size, photograph.parameters,
-                         photograph.mean, unit.index, unit.conversion);
+                         photograph.mean, int(unit.unit), unit.conversion);
     for (std::size_t row = 0; row < texts.size(); ++row)
         mustHold(texts[row].isEmpty() == (row == std::size_t(InformationRow::Created)),
                  "every row has a text");

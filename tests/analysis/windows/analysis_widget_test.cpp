@@ -191,6 +191,9 @@ private slots:
         QCOMPARE(unit().count(), 2);
         QCOMPARE(unit().itemText(0), QStringLiteral("°C"));
         QCOMPARE(unit().itemText(1), QStringLiteral("°F"));
+        QCOMPARE(unit().count(), int(analysis::units.size()));
+        for (int index = 0; index < unit().count(); ++index)
+            QCOMPARE(unit().itemText(index), analysis::signOf(*analysis::unitAt(index)));
         QCOMPARE(label().text(), QStringLiteral("TextLabel"));
         QCOMPARE(readOut(), QStringLiteral("X:000|Y:000|26.6°C"));
         QCOMPARE(child<QLabel>("label_5").text(), QStringLiteral("温度信息"));

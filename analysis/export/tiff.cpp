@@ -1,0 +1,67 @@
+#include "analysis/export/tiff.h"
+
+#include "analysis/export/little_endian.h"
+
+namespace analysis {
+
+using namespace format;
+
+QByteArray tiffOf(const std::vector<float>& values, const ShownUnit& unit,
+                  const Parameters& parameters)
+{
+    const QByteArray description =
+        "unit=" + letterOf(unit.unit).toLatin1() +
+        " emissivity=" + QByteArray::number(parameters.emissivity100 / 100.0, 'f', 2) + '\0';
+    const QByteArray software("ThermaDesk\0", 11);
+    constexpr int strip = 8;
+    constexpr int stripBytes = grayBytes * int(sizeof(float));
+    constexpr int descriptionPlace = strip + stripBytes;
+    const int softwarePlace = descriptionPlace + description.size();
+    const int textsEnd = softwarePlace + software.size();
+    const int directory = textsEnd + textsEnd % 2; // begins at an even byte
+
+    enum Type : quint16
+    {
+        Text = 2,
+        Short = 3,
+        Long = 4
+    };
+    struct Entry
+    {
+        quint16 tag;
+        Type type;
+        int count;
+        int value; ///< or the place of a text
+    };
+    const Entry entries[]{{256, Long, 1, columns},
+                          {257, Long, 1, rows},
+                          {258, Short, 1, 32}, // bits a sample
+                          {259, Short, 1, 1},  // not compressed
+                          {262, Short, 1, 1},  // the least value is black
+                          {270, Text, description.size(), descriptionPlace},
+                          {273, Long, 1, strip},
+                          {277, Short, 1, 1},   // sample a pixel
+                          {278, Long, 1, rows}, // in the strip
+                          {279, Long, 1, stripBytes},
+                          {305, Text, software.size(), softwarePlace},
+                          {339, Short, 1, 3}}; // floating point
+
+    QByteArray tiff("II*\0", 4);
+    tiff.reserve(directory + 200);
+    appendNumber(tiff, quint32(directory));
+    tiff.resize(descriptionPlace);
+    qToLittleEndian<float>(values.data(), grayBytes, tiff.data() + strip);
+    tiff += description + software;
+    tiff.resize(directory);
+    appendNumber(tiff, quint16(std::size(entries)));
+    for (const Entry& entry : entries) {
+        appendNumber(tiff, entry.tag);
+        appendNumber(tiff, quint16(entry.type));
+        appendNumber(tiff, quint32(entry.count));
+        appendNumber(tiff, quint32(entry.value));
+    }
+    appendNumber(tiff, quint32(0)); // no further directory
+    return tiff;
+}
+
+} // namespace analysis
