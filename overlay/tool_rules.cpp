@@ -42,6 +42,11 @@ void dragEnd(Cornered& tool, int x, int y)
     tool.y2 = y;
 }
 
+bool isInside(int x, int y)
+{
+    return x >= 0 && x <= imageColumns && y >= 0 && y <= imageRows;
+}
+
 } // namespace
 
 bool hits(const PointTool& point, const Press& press)
@@ -149,12 +154,57 @@ void drag(CircleTool& circle, int x, int y)
     }
 }
 
+bool isInside(const PointTool& point)
+{
+    return isInside(point.x, point.y);
+}
+
+bool isInside(const LineTool& line)
+{
+    return isInside(line.x1, line.y1) && isInside(line.x2, line.y2);
+}
+
+bool isInside(const RectTool& rect)
+{
+    return isInside(rect.x1, rect.y1) && isInside(rect.x2, rect.y2);
+}
+
+bool isInside(const CircleTool& circle)
+{
+    return draggedRadius(circle.cx, circle.cy, circle.x2, circle.y2) == circle.radius;
+}
+
 std::optional<int> draggedRadius(int cx, int cy, int x, int y)
 {
     const int radius = truncatedDistance(cx, cy, x, y);
     const bool fits =
         cx + radius < imageColumns && cx - radius > 0 && cy + radius < imageRows && cy - radius > 0;
     return fits ? std::optional<int>(radius) : std::nullopt;
+}
+
+void setNumbers(PointTool& point, const ToolNumbers& numbers)
+{
+    place(point, numbers[0], numbers[1]);
+}
+
+void setNumbers(LineTool& line, const ToolNumbers& numbers)
+{
+    place(line, numbers[0], numbers[1]);
+    drag(line, numbers[2], numbers[3]);
+}
+
+void setNumbers(RectTool& rect, const ToolNumbers& numbers)
+{
+    place(rect, numbers[0], numbers[1]);
+    drag(rect, numbers[2], numbers[3]);
+}
+
+/// Dragged to the right, which way does not matter; a radius below 0 is no drag.
+void setNumbers(CircleTool& circle, const ToolNumbers& numbers)
+{
+    place(circle, numbers[0], numbers[1]);
+    circle.radius = numbers[2];
+    circle.x2 = circle.cx + std::max(circle.radius, 0);
 }
 
 } // namespace overlay

@@ -2,6 +2,7 @@
 
 #include "overlay/tools.h"
 
+#include <array>
 #include <cmath>
 #include <optional>
 
@@ -135,8 +136,26 @@ void drag(LineTool& line, int x, int y);
 void drag(RectTool& rect, int x, int y);
 void drag(CircleTool& circle, int x, int y);
 
+/// Wholly inside the picture, as the mouse leaves a tool: positions 0 … 240 and 0 … 320, and
+/// circles as far as they can be dragged.
+bool isInside(const PointTool& point);
+bool isInside(const LineTool& line);
+bool isInside(const RectTool& rect);
+bool isInside(const CircleTool& circle);
+
 /// The radius of a circle round (cx, cy) dragged to (x, y); nothing when it would leave the
 /// picture. It may touch the last column and row but not the first.
 std::optional<int> draggedRadius(int cx, int cy, int x, int y);
+
+// What files keep of a tool
+
+/// As many as the row of its kind says: a position, both ends, both corners; centre and radius.
+using ToolNumbers = std::array<int, 4>;
+
+/// Any numbers are taken; ask isInside() and isUnfinished() what has become of the tool.
+void setNumbers(PointTool& point, const ToolNumbers& numbers);
+void setNumbers(LineTool& line, const ToolNumbers& numbers);
+void setNumbers(RectTool& rect, const ToolNumbers& numbers);
+void setNumbers(CircleTool& circle, const ToolNumbers& numbers);
 
 } // namespace overlay

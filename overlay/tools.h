@@ -43,16 +43,17 @@ struct KindRow
     ToolMode mode;
     char letter;      ///< begins the names of its tools, and stands for it in `currentType`
     const char* name; ///< English, for files and commands; lists of it end in "s"
+    int numbers;      ///< how many a file keeps of each tool
     bool isDragged;   ///< has an extent, which a drag gives it; the others are placed by a press
                       ///< and can be moved later
     const char* hit;  ///< what is logged when one was hit; %1 is its index
 };
 
 inline constexpr std::array<KindRow, 4> toolKinds{{
-    {ToolKind::Point, ToolMode::Point, 'P', "point", false, "您点击了第%1个点工具"},
-    {ToolKind::Line, ToolMode::Line, 'L', "line", true, "您点击了第%1个线工具"},
-    {ToolKind::Rect, ToolMode::Rect, 'R', "rectangle", true, "您点击了第%1个矩形工具"},
-    {ToolKind::Circle, ToolMode::Circle, 'C', "circle", true, "您点击了第%1个圆工具"},
+    {ToolKind::Point, ToolMode::Point, 'P', "point", 2, false, "您点击了第%1个点工具"},
+    {ToolKind::Line, ToolMode::Line, 'L', "line", 4, true, "您点击了第%1个线工具"},
+    {ToolKind::Rect, ToolMode::Rect, 'R', "rectangle", 4, true, "您点击了第%1个矩形工具"},
+    {ToolKind::Circle, ToolMode::Circle, 'C', "circle", 3, true, "您点击了第%1个圆工具"},
 }};
 
 constexpr const KindRow& rowOf(ToolKind kind)

@@ -1,7 +1,6 @@
 #include "tools/tool_file.h"
 
 #include "files/reading.h"
-#include "overlay/label_geometry.h"
 #include "overlay/tool_rules.h"
 #include "tools/messages.h"
 
@@ -9,73 +8,43 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-#include <array>
+#include <algorithm>
 #include <cmath>
 
 namespace tools {
 namespace {
 
-const QLatin1String pointsKey("points");
-const QLatin1String linesKey("lines");
-const QLatin1String rectanglesKey("rectangles");
-const QLatin1String circlesKey("circles");
-
-/// Numbers of one tool. The last column and row that the label can give are 240 and 320.
-using Numbers = std::array<int, 4>;
-
-bool isInPicture(int x, int y)
+QString keyOf(const overlay::KindRow& kind)
 {
-    return x >= 0 && x <= overlay::imageColumns && y >= 0 && y <= overlay::imageRows;
+    return QLatin1String(kind.name) + QLatin1Char('s');
 }
 
-QString wrongWith(const overlay::PointTool& point)
+/// The keys of all kinds, as a sentence has them.
+QString knownKeys()
 {
-    return isInPicture(point.x, point.y) ? QString() : QStringLiteral("is outside the picture");
+    QString keys;
+    for (const overlay::KindRow& kind : overlay::toolKinds) {
+        if (&kind != &overlay::toolKinds.front())
+            keys += &kind == &overlay::toolKinds.back() ? QStringLiteral(" and ")
+                                                        : QStringLiteral(", ");
+        keys += QStringLiteral("\"%1\"").arg(keyOf(kind));
+    }
+    return keys;
 }
 
-/// Lines and rectangles.
+/// Nothing, or what keeps the window from holding this tool.
 template<typename Tool>
 QString wrongWith(const Tool& tool)
 {
-    if (!isInPicture(tool.x1, tool.y1) || !isInPicture(tool.x2, tool.y2))
-        return QStringLiteral("is not wholly inside the picture");
-    return isUnfinished(tool) ? QStringLiteral("has no extent") : QString();
-}
-
-QString wrongWith(const overlay::CircleTool& circle)
-{
-    if (circle.radius < 1)
+    if (isPlaced(tool) && isUnfinished(tool))
         return QStringLiteral("has no extent");
-    const bool canBeDragged =
-        overlay::draggedRadius(circle.cx, circle.cy, circle.x2, circle.y2) == circle.radius;
-    return canBeDragged ? QString() : QStringLiteral("is not wholly inside the picture");
+    if (isInside(tool))
+        return {};
+    return overlay::rowOf(tool.kind).isDragged ? QStringLiteral("is not wholly inside the picture")
+                                               : QStringLiteral("is outside the picture");
 }
 
-void place(overlay::PointTool& point, const Numbers& n)
-{
-    point.x = n[0];
-    point.y = n[1];
-}
-
-void place(overlay::CircleTool& circle, const Numbers& n)
-{
-    circle.cx = n[0];
-    circle.cy = n[1];
-    circle.radius = n[2];
-    circle.x2 = n[0] + n[2];
-    circle.y2 = n[1];
-}
-
-template<typename Tool>
-void place(Tool& tool, const Numbers& n)
-{
-    tool.x1 = n[0];
-    tool.y1 = n[1];
-    tool.x2 = n[2];
-    tool.y2 = n[3];
-}
-
-bool readNumbers(const QJsonValue& value, int count, Numbers& numbers)
+bool readNumbers(const QJsonValue& value, int count, overlay::ToolNumbers& numbers)
 {
     const QJsonArray array = value.toArray();
     if (!value.isArray() || array.size() != count)
@@ -92,19 +61,21 @@ bool readNumbers(const QJsonValue& value, int count, Numbers& numbers)
 
 /// Appends the tools of one kind and returns what is wrong with them.
 template<typename Tool>
-QString readKind(const QJsonObject& object, QLatin1String key, int count, QVector<Tool>& tools)
+QString readKind(const QJsonObject& object, QVector<Tool>& tools)
 {
+    const overlay::KindRow& kind = overlay::rowOf(Tool::kind);
+    const QString key = keyOf(kind);
     const QJsonValue list = object.value(key);
     if (!list.isArray() && !list.isUndefined())
         return QStringLiteral("\"%1\" is not a list").arg(key);
     for (const QJsonValue value : list.toArray()) {
         const QString where = QStringLiteral("\"%1\", number %2 ").arg(key).arg(tools.size() + 1);
-        Numbers numbers{};
-        if (!readNumbers(value, count, numbers))
-            return where + QStringLiteral("is not a list of %1 whole numbers").arg(count);
+        overlay::ToolNumbers numbers{};
+        if (!readNumbers(value, kind.numbers, numbers))
+            return where + QStringLiteral("is not a list of %1 whole numbers").arg(kind.numbers);
         Tool tool;
-        place(tool, numbers);
-        tool.name = QLatin1Char(overlay::rowOf(tool.kind).letter) + QString::number(tools.size());
+        setNumbers(tool, numbers);
+        tool.name = QLatin1Char(kind.letter) + QString::number(tools.size());
         const QString wrong = wrongWith(tool);
         if (!wrong.isEmpty())
             return where + wrong;
@@ -116,19 +87,18 @@ QString readKind(const QJsonObject& object, QLatin1String key, int count, QVecto
 QString readTools(const QJsonObject& object, overlay::Tools& tools)
 {
     for (const QString& key : object.keys()) {
-        if (key != pointsKey && key != linesKey && key != rectanglesKey && key != circlesKey)
-            return QStringLiteral("\"%1\" is none of \"points\", \"lines\", \"rectangles\" and "
-                                  "\"circles\"")
-                .arg(key);
+        const auto isKey = [&](const overlay::KindRow& kind) {
+            return key == keyOf(kind);
+        };
+        if (std::none_of(overlay::toolKinds.begin(), overlay::toolKinds.end(), isKey))
+            return QStringLiteral("\"%1\" is none of %2").arg(key, knownKeys());
     }
-    for (const QString& wrong : {readKind(object, pointsKey, 2, tools.pointList),
-                                 readKind(object, linesKey, 4, tools.lineList),
-                                 readKind(object, rectanglesKey, 4, tools.rectList),
-                                 readKind(object, circlesKey, 3, tools.circleList)}) {
-        if (!wrong.isEmpty())
-            return wrong;
-    }
-    return {};
+    QString wrong;
+    overlay::forEachList(tools, [&](auto& list) {
+        if (wrong.isEmpty())
+            wrong = readKind(object, list);
+    });
+    return wrong;
 }
 
 } // namespace

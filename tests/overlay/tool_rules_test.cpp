@@ -131,6 +131,40 @@ private slots:
         QVERIFY(!hits(circle(100, 100, -1), {100, 100}));
     }
 
+    void numbersMakeTools()
+    {
+        PointTool point;
+        setNumbers(point, {3, 4, 0, 0});
+        QVERIFY((point == PointTool{QString(), 3, 4}));
+        LineTool line;
+        setNumbers(line, {3, 4, 5, 6});
+        QVERIFY((line == LineTool{QString(), 3, 4, 5, 6}));
+        RectTool rect;
+        setNumbers(rect, {300, 4, 5, -6});
+        QVERIFY((rect == RectTool{QString(), 300, 4, 5, -6}));
+        CircleTool circle;
+        setNumbers(circle, {120, 160, 30});
+        QVERIFY((circle == CircleTool{QString(), 120, 160, 150, 160, 30}));
+        QVERIFY(isInside(circle) && !isUnfinished(circle));
+        setNumbers(circle, {120, 160, -30});
+        QVERIFY(isUnfinished(circle));
+    }
+
+    void whatIsInsideThePicture()
+    {
+        QVERIFY(isInside(PointTool{{}, 0, 0}) && isInside(PointTool{{}, 240, 320}));
+        for (const QPoint& out : {QPoint(-1, 5), QPoint(241, 5), QPoint(5, -1), QPoint(5, 321)}) {
+            QVERIFY(!isInside(PointTool{{}, out.x(), out.y()}));
+            QVERIFY(!isInside(line(out.x(), out.y(), 9, 9)) &&
+                    !isInside(line(9, 9, out.x(), out.y())));
+            QVERIFY(!isInside(rect(out.x(), out.y(), 9, 9)) &&
+                    !isInside(rect(9, 9, out.x(), out.y())));
+        }
+        QVERIFY(isInside(line(240, 0, 0, 320)) && isInside(rect(240, 0, 0, 320)));
+        QVERIFY(isInside(circle(50, 160, 49)) && !isInside(circle(50, 160, 50)));
+        QVERIFY(!isInside(circle(120, 160, 500)));
+    }
+
     void draggedCirclesStayInThePicture()
     {
         QCOMPARE(draggedRadius(120, 160, 123, 164).value(), 5);
