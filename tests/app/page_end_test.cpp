@@ -6,6 +6,8 @@
 #include "live/camer_window.h"
 #include "live/live_frame.h"
 #include "platform/removable_drives.h"
+#include "simulator/photograph.h"
+#include "simulator/scene.h"
 #include "simulator/simulated_camera.h"
 #include "tests/support/dialogs.h"
 #include "tests/support/test_run.h"
@@ -15,6 +17,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListView>
 #include <QListWidget>
 #include <QMenu>
@@ -85,6 +88,8 @@ private slots:
         QVERIFY(QDir().mkpath(m_disk + QStringLiteral("DCIM_100")));
         QFile photograph(m_disk + QStringLiteral("DCIM_100/a.bmp"));
         QVERIFY(photograph.open(QIODevice::WriteOnly));
+        const simulator::Scene scene(simulator::SceneKind::Motor);
+        photograph.write(simulator::photograph(scene.field(0, 60), {}));
         m_window = std::make_unique<MainWindow>();
         m_window->show();
     }
@@ -171,6 +176,59 @@ private slots:
         QTRY_COMPARE(m_window->mode(), 2);
     }
 
+    /// The browser waits in the report's file dialog, through the photograph inside it.
+    void aReportDialogWithItsMenuOpen()
+    {
+        becomeDisk();
+        const QPointer<photo_window> browser = m_window->browser();
+        const QWidget* photograph = openPhotograph();
+        const testing::Answer<QFileDialog> answer([&](QFileDialog& dialog) {
+            withItsMenuOpen(dialog, [&] {
+                becomeCamera();
+                QVERIFY(browser);
+            });
+        });
+        part<QPushButton>(photograph, "pushButton")->click();
+        QVERIFY(answer.wasAsked());
+        QTRY_VERIFY(!browser);
+        QTRY_COMPARE(m_window->mode(), 1);
+    }
+
+    void aReportDialogClosedBelowItsMenuAndThenTheDevice()
+    {
+        becomeDisk();
+        const QPointer<photo_window> browser = m_window->browser();
+        const QWidget* photograph = openPhotograph();
+        const testing::Answer<QFileDialog> answer([&](QFileDialog& dialog) {
+            withItsMenuOpen(dialog, [&] {
+                closeByWindowManager(&dialog);
+                becomeCamera();
+                QVERIFY(browser);
+            });
+        });
+        part<QPushButton>(photograph, "pushButton")->click();
+        QVERIFY(answer.wasAsked());
+        QTRY_VERIFY(!browser);
+    }
+
+    void aColourDialogWithAMenuOpen()
+    {
+        becomeDisk();
+        const QPointer<photo_window> browser = m_window->browser();
+        const QWidget* photograph = openPhotograph();
+        const testing::Answer<QColorDialog> answer([&](QColorDialog& dialog) {
+            rightClick(dialog.findChild<QLineEdit*>());
+            QVERIFY(openMenu());
+            becomeCamera();
+            QVERIFY(!openMenu());
+            QVERIFY(browser);
+        });
+        part<QPushButton>(photograph, "pushButton_4")->click();
+        QVERIFY(answer.wasAsked());
+        QTRY_VERIFY(!browser);
+        QTRY_COMPARE(m_window->mode(), 1);
+    }
+
 private:
     static SimulatedCamera& camera() { return SimulatedCamera::instance(); }
 
@@ -194,6 +252,13 @@ private:
         becomeCamera();
         QTRY_VERIFY(camera().deliver(QByteArray(live::frameBytes, '\x80')));
         QTRY_VERIFY(!m_window->liveWindow()->currentPixmap.isNull());
+    }
+
+    QWidget* openPhotograph()
+    {
+        QListWidgetItem item(QStringLiteral("a.bmp"));
+        m_window->browser()->list_item_doubleclicked(&item);
+        return m_window->findChild<QWidget*>(QStringLiteral("Analysis_Widget"));
     }
 
     QFileDialog* askForExportFolder()
