@@ -27,13 +27,20 @@ int ask(QWidget* page, const std::function<void()>& meanwhile,
     return answer;
 }
 
-/// A menu as Qt's own context menus are: on the stack of the function that shows it.
-void showMenu(QWidget* owner, const std::function<void()>& meanwhile)
+/// A menu as Qt's own context menus are: on the stack of the function that shows it. Whether it was
+/// closed by what happened meanwhile.
+bool showMenu(QWidget* owner, const std::function<void()>& meanwhile)
 {
     QMenu menu(owner);
     menu.addAction(QStringLiteral("entry"));
-    QTimer::singleShot(0, &menu, meanwhile);
+    bool closed = false;
+    QTimer::singleShot(0, &menu, [&] {
+        meanwhile();
+        closed = !menu.isVisible();
+        menu.close();
+    });
     menu.exec(QPoint(5, 5));
+    return closed;
 }
 
 } // namespace
@@ -144,7 +151,7 @@ private slots:
     void theMenuOfADialogIsClosedFirst()
     {
         const int answer = ask(m_page, [this] {
-            showMenu(QApplication::activeModalWidget(), [this] { dialogs::end(m_page); });
+            QVERIFY(showMenu(QApplication::activeModalWidget(), [this] { dialogs::end(m_page); }));
             QVERIFY(m_page);
         });
         QCOMPARE(answer, int(QDialog::Rejected));
@@ -154,7 +161,7 @@ private slots:
     /// As that of a file dialog's side bar.
     void aMenuWithoutAParentToo()
     {
-        ask(m_page, [this] { showMenu(nullptr, [this] { dialogs::end(m_page); }); });
+        ask(m_page, [this] { QVERIFY(showMenu(nullptr, [this] { dialogs::end(m_page); })); });
         QTRY_VERIFY(!m_page);
     }
 
@@ -193,11 +200,11 @@ private slots:
     {
         const QPointer<QDialog> dialog = new QDialog(m_window.get());
         dialogs::open(dialog, m_page);
-        showMenu(dialog, [&] {
+        QVERIFY(showMenu(dialog, [&] {
             dialogs::end(m_page);
             QVERIFY(!m_page);
             QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        });
+        }));
         QVERIFY(dialog);
         QTRY_VERIFY(!dialog);
     }
@@ -208,10 +215,10 @@ private slots:
         dialogs::open(dialog, m_page);
         QMessageBox question(dialog);
         QTimer::singleShot(0, &question, [&] {
-            showMenu(&question, [&] {
+            QVERIFY(showMenu(&question, [&] {
                 dialog->reject();
                 QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-            });
+            }));
         });
         question.exec();
         QVERIFY(dialog);
