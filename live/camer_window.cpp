@@ -5,14 +5,11 @@
 #include "dialogs/dialogs.h"
 #include "files/paths.h"
 #include "live/alarm_records.h"
-#include "live/imager_camera.h"
 #include "live/qt_camera_capture.h"
 #include "live/saved_picture.h"
 
 #include "ui_camer_window.h"
 
-#include <QCamera>
-#include <QCameraInfo>
 #include <QDebug>
 #include <QDir>
 #include <QFileDialog>
@@ -28,17 +25,7 @@ namespace {
 
 constexpr int blinkInterval = 500;  // ms
 constexpr int healthInterval = 300; // ms
-constexpr int parked = 9;           // overCount behind the record
-constexpr int countOfRecord = 8;
 
-const QString belowStyle = QStringLiteral("background-color: rgb(255, 255, 255);\n"
-                                          " color: rgb(80, 180, 50);");
-const QString aboveStyle = QStringLiteral("background-color: rgb(255, 255, 255);\n"
-                                          " color: rgb(255, 0, 0);");
-const QString blinkOnStyle = QStringLiteral("background-color: rgb(255, 0, 0);\n"
-                                            "color: rgb(255, 255, 0);");
-const QString blinkOffStyle = QStringLiteral("background-color: rgb(255, 255, 255);\n"
-                                             "color: rgb(255, 0, 0);");
 /// For wide captions: tabs 150 wide instead of the form's 85.
 const QString wideTabStyle =
     QStringLiteral("QTabWidget#tabWidget{border-color:rgb(255,0,0);}"
@@ -63,33 +50,27 @@ QString chosenPath(const QFileDialog& dialog)
 } // namespace
 
 camer_window::camer_window(QWidget* parent)
-    : QWidget(parent), lastAlarmText(QStringLiteral("36.2,34.0,0.97")),
-      player(std::make_unique<QMediaPlayer>())
+    : QWidget(parent), player(std::make_unique<QMediaPlayer>())
 {
     ui = std::make_unique<Ui::camer_window>();
     setFocus(Qt::OtherFocusReason);
     ui->setupUi(this);
     ui->pushButton->setIcon(QIcon(QStringLiteral(":/photo/camaer.png")));
-    ui->pushButton->setIconSize({20, 20});
     ui->pushButton_2->setIcon(QIcon(QStringLiteral(":/photo/stop.png")));
 
-    readConfiguration();
+    const config::Record record = config::read();
+    languageCode = record.language;
+    historyFolder = record.alarmFolder;
+    if (config::languageOf(languageCode).hasWideCaptions)
+        ui->tabWidget->setStyleSheet(wideTabStyle);
     ui->tabWidget->tabBar()->setStyleSheet(focusedTabStyle);
 
     warnTimer = std::make_unique<QTimer>();
     connect(warnTimer.get(), &QTimer::timeout, this, &camer_window::timeout_warn);
-    ui->checkBox_2->setEnabled(false);
-    ui->checkBox_3->setEnabled(false);
-    ui->label_17->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
-    ui->label_18->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
-
     ui->pictureArea->installEventFilter(this);
-
-    capture = std::make_unique<QtCameraCapture>();
     connect(capture.get(), &QtCameraCapture::display_Qimage, this, &camer_window::display_cap);
     connect(capture.get(), &QtCameraCapture::Send_MaxTemp, this, &camer_window::updat_temp);
-    if (const auto imager = live::findImager())
-        openCamera(*imager);
+    open();
 
     healthTimer = std::make_unique<QTimer>();
     connect(healthTimer.get(), &QTimer::timeout, this, &camer_window::timeout_connect);
@@ -108,38 +89,10 @@ camer_window::~camer_window()
     stopEverything();
 }
 
-void camer_window::readConfiguration()
-{
-    const config::Record record = config::read();
-    languageCode = record.language;
-    historyFolder = record.alarmFolder;
-    if (config::languageOf(languageCode).hasWideCaptions)
-        ui->tabWidget->setStyleSheet(wideTabStyle);
-}
-
-void camer_window::openCamera(const QCameraInfo& imager)
-{
-    camera = std::make_unique<QCamera>(imager);
-    camera->setViewfinder(capture.get());
-    camera->start();
-}
-
 void camer_window::reopenCamera()
 {
-    if (!ui)
-        return;
-    if (camera)
-        camera->stop();
-    const QList<QCameraInfo> cameras = QCameraInfo::availableCameras();
-    for (const QCameraInfo& info : cameras) {
-        qDebug().noquote() << QStringLiteral("可用相机:") << info.description();
-        if (live::isImager(info)) {
-            openCamera(info);
-            break;
-        }
-    }
-    if (camera)
-        camera->start();
+    if (ui)
+        reopen();
 }
 
 void camer_window::stopEverything()
@@ -147,8 +100,7 @@ void camer_window::stopEverything()
     healthTimer->stop();
     warnTimer->stop();
     player->stop();
-    if (camera)
-        camera->stop();
+    stopCamera();
 }
 
 void camer_window::setAlarmFolder(const QString& folder)
@@ -172,18 +124,13 @@ void camer_window::display_cap(QImage cap_image) // NOLINT(performance-unnecessa
         return;
     currentPixmap = QPixmap::fromImage(cap_image);
     live::showScaled(*ui->label_17, currentPixmap);
-    if (recentFrames.size() >= live::recordPictures)
-        recentFrames.removeFirst();
-    recentFrames.append(cap_image);
+    onPicture(cap_image);
 }
 
 void camer_window::timeout_connect()
 {
-    if (!ui || !camera)
-        return;
-    cameraRunning = camera->error() == QCamera::NoError;
-    if (!cameraRunning)
-        camera->stop();
+    if (ui)
+        checkHealth();
 }
 
 void camer_window::on_pushButton_clicked()
@@ -272,30 +219,7 @@ void camer_window::updat_temp(float maxTem, float warn, float fsl)
 {
     if (!ui)
         return;
-    if (maxTem >= warn) { // false for NaN
-        if (alarmEnabled && !alarmSilenced) {
-            if (!warnTimer->isActive())
-                warnTimer->start(blinkInterval);
-            if (alarmFilesEnabled) {
-                if (overCount < countOfRecord)
-                    ++overCount;
-                if (overCount == countOfRecord) {
-                    // Parked first: one record per excursion, whatever comes of it.
-                    overCount = parked;
-                    saveAlarmRecord();
-                }
-            }
-        } else if (!alarmEnabled) {
-            warnTimer->stop();
-            setReadoutStyle(aboveStyle);
-        }
-    } else {
-        warnTimer->stop();
-        player->stop();
-        overCount = 0;
-        alarmSilenced = false;
-        setReadoutStyle(belowStyle);
-    }
+    carryOut(onFrame(maxTem, warn)); // a record has the read-outs of the frame before
     ui->label_6->setText(QString::number(double(maxTem), 'f', 1));
     ui->label_7->setText(QString::number(double(warn), 'f', 1));
     ui->label_8->setText(QString::number(double(fsl), 'f', 2));
@@ -305,18 +229,24 @@ void camer_window::timeout_warn()
 {
     if (!ui)
         return;
-    setReadoutStyle(blinkPhase ? blinkOnStyle : blinkOffStyle);
-    blinkPhase = !blinkPhase;
-    if (soundEnabled)
-        playAlarm();
-    else
-        player->stop();
+    carryOut(onTick());
 }
 
-void camer_window::setReadoutStyle(const QString& style)
+void camer_window::carryOut(const live::AlarmActions& actions)
 {
+    if (actions.blinking == live::Change::Stop)
+        warnTimer->stop();
+    else if (actions.blinking == live::Change::Start && !warnTimer->isActive())
+        warnTimer->start(blinkInterval);
+    if (actions.sound == live::Change::Stop)
+        player->stop();
+    else if (actions.sound == live::Change::Start)
+        playAlarm();
+    if (actions.writesRecord)
+        saveAlarmRecord();
     // Setting a style sheet is dear, and most frames change nothing.
-    if (ui->label_6->styleSheet() != style)
+    const QString style = live::styleSheetOf(actions.look);
+    if (!style.isEmpty() && ui->label_6->styleSheet() != style)
         ui->label_6->setStyleSheet(style);
 }
 
@@ -338,12 +268,10 @@ void camer_window::on_checkBox_stateChanged(int arg1)
 {
     if (!ui)
         return;
-    alarmEnabled = arg1 == Qt::Checked;
-    alarmSilenced = false;
+    onAlarmEnabled(arg1 == Qt::Checked);
     if (!alarmEnabled) {
         ui->checkBox_2->setChecked(false);
         ui->checkBox_3->setChecked(false);
-        overCount = 0;
     }
     ui->checkBox_2->setEnabled(alarmEnabled);
     ui->checkBox_3->setEnabled(alarmEnabled);
@@ -352,26 +280,19 @@ void camer_window::on_checkBox_stateChanged(int arg1)
 void camer_window::on_checkBox_2_stateChanged(int arg1)
 {
     if (ui)
-        soundEnabled = arg1 == Qt::Checked;
+        onSoundEnabled(arg1 == Qt::Checked);
 }
 
 void camer_window::on_checkBox_3_stateChanged(int arg1)
 {
-    if (!ui)
-        return;
-    alarmFilesEnabled = arg1 == Qt::Checked;
-    if (!alarmFilesEnabled)
-        overCount = 0;
+    if (ui)
+        onFilesEnabled(arg1 == Qt::Checked);
 }
 
 void camer_window::on_pushButton_2_clicked()
 {
-    if (!ui)
-        return;
-    alarmSilenced = true;
-    setReadoutStyle(blinkOffStyle);
-    player->stop();
-    warnTimer->stop();
+    if (ui)
+        carryOut(onStop());
 }
 
 void camer_window::saveAlarmRecord()

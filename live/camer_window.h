@@ -1,21 +1,19 @@
 #pragma once
 
+#include "live/alarm.h"
 #include "live/alarm_history.h"
+#include "live/live_camera.h"
 
 #include <QImage>
-#include <QList>
 #include <QPixmap>
 #include <QString>
 #include <QWidget>
 
 #include <memory>
 
-class QCamera;
-class QCameraInfo;
 class QListWidgetItem;
 class QMediaPlayer;
 class QTimer;
-class QtCameraCapture;
 
 namespace Ui {
 class camer_window;
@@ -23,15 +21,17 @@ class camer_window;
 
 /// The live page: the imager's picture with its three read-outs, the temperature alarm, and the
 /// history of alarm records. The main window embeds it; a double-click on the picture takes it out
-/// of its parent to fill the screen, another one, Escape or a
-/// request to close it brings it back.
+/// of its parent to fill the screen, another one, Escape or a request to close it brings it back.
 ///
 /// It opens the imager's camera when it is made and lets go of it when it is closed or destroyed,
 /// whichever comes first and in whatever state it is. After a close every slot does nothing.
 ///
 /// GUI thread only. Device and file problems are not reported: the picture and the lists show what
 /// there is.
-class camer_window : public QWidget, public live::HistoryState
+class camer_window : public QWidget,
+                     public live::AlarmState,
+                     public live::HistoryState,
+                     public live::LiveCamera
 {
     Q_OBJECT
 
@@ -62,21 +62,8 @@ public:
 
     QPixmap currentPixmap; ///< last live picture, 240 × 320; null before the first
     bool isFull = false;   ///< out of its parent, on the whole screen
-    bool cameraRunning = false;
-
-    bool alarmEnabled = false;      ///< "checkBox"
-    bool alarmSilenced = false;     ///< stop was pressed; until a frame below or the enabling box
-    bool alarmFilesEnabled = false; ///< "checkBox_3"
-    bool soundEnabled = false;      ///< "checkBox_2"
-    int overCount = 0;              ///< frames towards the record, 0 … 8, then parked at 9
-    bool blinkPhase = false;        ///< which of the two blink styles comes next
-    QList<QImage> recentFrames;     ///< the last seven pictures, oldest first
-    QString lastAlarmText;          ///< text of the last alarm record
     QString languageCode;
 
-    // Each outlives those below it, which use it.
-    std::unique_ptr<QtCameraCapture> capture;
-    std::unique_ptr<QCamera> camera; ///< null while no imager was found
     std::unique_ptr<QMediaPlayer> player;
     std::unique_ptr<QTimer> warnTimer;   ///< 500 ms: blink and sound
     std::unique_ptr<QTimer> healthTimer; ///< 300 ms: camera errors
@@ -108,10 +95,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void readConfiguration();
-    void openCamera(const QCameraInfo& imager);
     void stopEverything();
-    void setReadoutStyle(const QString& style);
+    void carryOut(const live::AlarmActions& actions);
     void playAlarm();
 
     std::unique_ptr<live::AlarmHistory> m_history;

@@ -1,6 +1,6 @@
 #include "live/live_frame.h"
 
-#include "live/colour_kernels.h"
+#include "live/frame_kernels.h"
 
 #include <QtEndian>
 
@@ -8,8 +8,8 @@ namespace live {
 
 void convertPicture(const uchar* frame, uchar* rgb)
 {
-    static const ColourKernel convert = colourKernels().back().convert;
-    convert(frame, picturePixels, rgb);
+    static_assert(picturePixels % pixelsAtOnce == 0);
+    convertPixels(frame, picturePixels, rgb);
 }
 
 Readings readings(const uchar* frame)

@@ -1,7 +1,7 @@
 // One frame's picture: our conversion against an approximate one of a well-known library, and
 // against the formula as written with one setPixel per pixel.
-#include "live/colour_kernels.h"
 #include "live/live_frame.h"
+#include "tests/live/instruction_sets.h"
 
 #include <QImage>
 
@@ -30,16 +30,13 @@ void decodeOurs(benchmark::State& state)
     }
 }
 
-void decodeKernel(benchmark::State& state)
+/// The same with each instruction set by itself.
+void decodeWith(benchmark::State& state)
 {
-    const live::NamedKernel kernel = live::colourKernels()[std::size_t(state.range(0))];
-    state.SetLabel(kernel.name);
-    const std::vector<uchar> yuyv = frame();
-    std::vector<uchar> rgb(live::rgbBytes);
-    for ([[maybe_unused]] auto _ : state) {
-        kernel.convert(yuyv.data(), live::picturePixels, rgb.data());
-        benchmark::ClobberMemory();
-    }
+    const std::int64_t set = testing::instructionSets()[std::size_t(state.range(0))];
+    state.SetLabel(hwy::TargetName(set));
+    const testing::UsedInstructionSet used(set);
+    decodeOurs(state);
 }
 
 void decodeLibyuv(benchmark::State& state)
@@ -83,8 +80,8 @@ void decodeAsWritten(benchmark::State& state)
 }
 
 BENCHMARK(decodeOurs)->Unit(benchmark::kMicrosecond);
-BENCHMARK(decodeKernel)
-    ->DenseRange(0, int(live::colourKernels().size()) - 1)
+BENCHMARK(decodeWith)
+    ->DenseRange(0, int(testing::instructionSets().size()) - 1)
     ->Unit(benchmark::kMicrosecond);
 BENCHMARK(decodeLibyuv)->Unit(benchmark::kMicrosecond);
 BENCHMARK(decodeAsWritten)->Unit(benchmark::kMicrosecond);

@@ -1,6 +1,6 @@
 #include "bench/live/live_scene.h"
 
-#include "live/colour_kernels.h"
+#include "live/frame_kernels.h"
 #include "live/live_frame.h"
 
 #include <QCoreApplication>
@@ -57,8 +57,9 @@ void LiveFloor::show(const QImage& picture)
 {
     // Painting can leave the processor's vector registers in a state in which the scaling takes
     // more than twice its time. Decoding a frame ends it on the page; a few pixels end it here.
-    std::array<uchar, 96> pixels{};
-    live::colourKernels().back().convert(std::array<uchar, 64>{}.data(), 32, pixels.data());
+    std::array<uchar, 3 * live::pixelsAtOnce> pixels{};
+    live::convertPixels(std::array<uchar, 2 * live::pixelsAtOnce>{}.data(), live::pixelsAtOnce,
+                        pixels.data());
     m_label.setPixmap(QPixmap::fromImage(picture).scaled(m_label.size(), Qt::KeepAspectRatio,
                                                          Qt::SmoothTransformation));
 }

@@ -1,4 +1,4 @@
-/// Live frames: the video surface on frames of any size and content, and the conversion loops of
+/// Live frames: the video surface on frames of any size and content, and the conversion loop with
 /// every instruction set on short pictures.
 ///
 /// Input: a byte that says which; then either
@@ -9,9 +9,10 @@
 #include "fuzz/support/input.h"
 #include "fuzz/support/surroundings.h"
 #include "fuzz/support/target.h"
-#include "live/colour_kernels.h"
+#include "live/frame_kernels.h"
 #include "live/live_frame.h"
 #include "live/qt_camera_capture.h"
+#include "tests/live/instruction_sets.h"
 
 #include <QAbstractVideoBuffer>
 
@@ -69,16 +70,17 @@ private:
 void tryKernels(fuzz::Input& input)
 {
     const std::size_t shift = input.byte() % 32;
-    constexpr int multiple = 32; // pixels
+    constexpr int multiple = live::pixelsAtOnce;
     const QByteArray picture = input.rest();
     const int pixels = picture.size() / 2 / multiple * multiple;
     Exactly yuyv(std::size_t(pixels) * 2, shift);
     std::copy_n(picture.begin(), yuyv.size(), yuyv.data());
     const std::vector<uchar> expected = converted(yuyv.data(), pixels / 2);
-    for (const live::NamedKernel& kernel : live::colourKernels()) {
+    for (const std::int64_t set : testing::instructionSets()) {
+        const testing::UsedInstructionSet used(set);
         Exactly rgb(std::size_t(pixels) * 3, shift / 2);
-        kernel.convert(yuyv.data(), pixels, rgb.data());
-        mustHold(std::equal(expected.begin(), expected.end(), rgb.data()), kernel.name);
+        live::convertPixels(yuyv.data(), pixels, rgb.data());
+        mustHold(std::equal(expected.begin(), expected.end(), rgb.data()), hwy::TargetName(set));
     }
 }
 

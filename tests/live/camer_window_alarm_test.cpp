@@ -1,14 +1,9 @@
 #include "resources/resources.h"
-#include "simulator/simulated_camera.h"
 #include "tests/live/page.h"
 #include "tests/support/test_run.h"
 
 #include <QCheckBox>
 #include <QDir>
-#include <QFile>
-#include <QLabel>
-#include <QListWidget>
-#include <QMediaPlayer>
 #include <QPushButton>
 
 #include <cmath>
@@ -48,12 +43,6 @@ void pressStop(const Page& page)
     QTest::mouseClick(page.get<QPushButton>("pushButton_2"), Qt::LeftButton);
 }
 
-QByteArray contents(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
-}
-
 } // namespace
 
 class CamerWindowAlarmTest : public QObject
@@ -79,31 +68,12 @@ private slots:
     void blinkingRunsByItself();
     void blinkPhaseIsKept();
     void belowEndsTheAlarm();
-
     void boxesFollowTheEnablingBox();
     void disablingDuringAnExcursion();
     void stopSilencesTheExcursion();
     void stopWhileIdleSilencesTheNextExcursion();
     void enablingBoxEndsTheSilence();
     void disabledAndSilencedIsSteadyRed();
-
-    void recordOnTheEighthFrame();
-    void oneFrameBelowStartsAnew();
-    void countsOnlyWhileRecordsAreWanted();
-    void filesBoxAloneDoesNotCount();
-    void recheckingTheFilesBoxStartsAnew();
-    void ringThatIsNotFullMakesNoRecord();
-    void textHoldsTheReadOutsOfTheFrameBefore();
-    void picturesAreTheLastSeven();
-    void throughTheCamera();
-    void everyRecordIsKept();
-
-    void soundOfTheLanguage_data();
-    void soundOfTheLanguage();
-    void soundPlaysWhileTheAlarmLasts();
-    void soundIsNotRestartedWhilePlaying();
-    void tickWithoutSoundStopsThePlayer();
-    void disablingLeavesThePlayer();
 
 private:
     QStringList recordsOnDisk() const
@@ -332,248 +302,6 @@ void CamerWindowAlarmTest::disabledAndSilencedIsSteadyRed()
     page.frame(over);
     QCOMPARE(readOutStyle(page), steadyRedStyle);
     QVERIFY(!page->warnTimer->isActive());
-}
-
-void CamerWindowAlarmTest::recordOnTheEighthFrame()
-{
-    const Page page;
-    enable(page);
-    for (int i = 1; i <= 7; ++i) {
-        page.frame(over);
-        QCOMPARE(page->overCount, i);
-        QCOMPARE(recordsOnDisk(), QStringList());
-    }
-    page.frame(over);
-    QCOMPARE(page->overCount, 9);
-    QCOMPARE(recordsOnDisk().size(), 1);
-    page.frames(30, over);
-    QCOMPARE(page->overCount, 9);
-    QCOMPARE(recordsOnDisk().size(), 1);
-    QCOMPARE(page.rows("listWidget"), recordsOnDisk());
-    QCOMPARE(page.rows("listWidget_2"), recordsOnDisk());
-    QVERIFY(QRegularExpression(QStringLiteral("^20\\d{12}$")).match(recordsOnDisk()[0]).hasMatch());
-}
-
-void CamerWindowAlarmTest::oneFrameBelowStartsAnew()
-{
-    const Page page;
-    enable(page);
-    page.frames(7, over);
-    page.frame(below);
-    page.frames(7, over);
-    QCOMPARE(recordsOnDisk(), QStringList());
-    page.frame(over);
-    QCOMPARE(recordsOnDisk().size(), 1);
-}
-
-void CamerWindowAlarmTest::countsOnlyWhileRecordsAreWanted()
-{
-    const Page page;
-    page.check("checkBox");
-    page.frames(10, over);
-    QCOMPARE(page->overCount, 0);
-    page.check("checkBox_3");
-    page.frames(7, over);
-    QCOMPARE(recordsOnDisk(), QStringList());
-    page.frame(over);
-    QCOMPARE(recordsOnDisk().size(), 1);
-}
-
-void CamerWindowAlarmTest::filesBoxAloneDoesNotCount()
-{
-    const Page page;
-    page.check("checkBox_3"); // by code; a user finds it disabled
-    page.frames(10, over);
-    QCOMPARE(page->overCount, 0);
-    QCOMPARE(recordsOnDisk(), QStringList());
-}
-
-void CamerWindowAlarmTest::recheckingTheFilesBoxStartsAnew()
-{
-    const Page page;
-    enable(page);
-    page.frames(8, over);
-    page.check("checkBox_3", false);
-    QCOMPARE(page->overCount, 0);
-    page.check("checkBox_3");
-    page.frames(7, over);
-    QCOMPARE(recordsOnDisk().size(), 1);
-    page.frame(over);
-    QCOMPARE(recordsOnDisk().size(), 2);
-}
-
-void CamerWindowAlarmTest::ringThatIsNotFullMakesNoRecord()
-{
-    const Page page;
-    enable(page);
-    page.frames(6, over);
-    for (int i = 0; i < 2; ++i)
-        page->updat_temp(over, 40, 1); // numbers without a picture
-    QCOMPARE(page->recentFrames.size(), 6);
-    QCOMPARE(page->overCount, 9);
-    page.frames(20, over);
-    QCOMPARE(recordsOnDisk(), QStringList());
-    QCOMPARE(page->lastAlarmText, QStringLiteral("36.2,34.0,0.97"));
-}
-
-void CamerWindowAlarmTest::textHoldsTheReadOutsOfTheFrameBefore()
-{
-    const Page page;
-    enable(page);
-    for (int i = 1; i <= 9; ++i)
-        page.frame(50.0F + float(i), 40.0F + float(i), 0.9F + 0.01F * float(i));
-    QCOMPARE(page->lastAlarmText, QStringLiteral("57.0,47.0,0.97"));
-    QCOMPARE(contents(m_folder + QLatin1Char('/') + recordsOnDisk()[0] + QStringLiteral(".ini")),
-             QByteArray("57.0,47.0,0.97"));
-}
-
-void CamerWindowAlarmTest::picturesAreTheLastSeven()
-{
-    const Page page;
-    enable(page);
-    page.frame(below, 40, 1, 250);
-    for (int i = 1; i <= 9; ++i)
-        page.frame(over, 40, 1, 20 * i);
-    const QString record = m_folder + QLatin1Char('/') + recordsOnDisk()[0] + QLatin1Char('/');
-    const QStringList oldestFirst{"F1", "F2", "F3", "Alarm", "L1", "L2", "L3"};
-    for (int i = 0; i < 7; ++i) {
-        const QImage picture(record + oldestFirst[i] + QStringLiteral(".JPG"));
-        QCOMPARE(picture.size(), QSize(240, 320));
-        QVERIFY(qAbs(picture.pixelColor(9, 9).red() - 20 * (i + 2)) <= 2);
-    }
-}
-
-void CamerWindowAlarmTest::throughTheCamera()
-{
-    auto& camera = simulator::SimulatedCamera::instance();
-    camera.plug();
-    const Page page;
-    enable(page);
-    for (int i = 1; i <= 8; ++i) {
-        QCOMPARE(recordsOnDisk(), QStringList());
-        QVERIFY(camera.deliver(testing::grayFrame(20 * i, 700 + i, 600, 95)));
-    }
-    QCOMPARE(recordsOnDisk().size(), 1);
-    QCOMPARE(page->lastAlarmText, QStringLiteral("70.7,60.0,0.95"));
-    // The picture of the eighth frame is in the record, its numbers are not.
-    const QImage last(m_folder + QLatin1Char('/') + recordsOnDisk()[0] + QStringLiteral("/L3.JPG"));
-    QVERIFY(qAbs(last.pixelColor(9, 9).red() - 160) <= 2);
-    QCOMPARE(page.text("label_6"), QStringLiteral("70.8"));
-    camera.unplug();
-}
-
-void CamerWindowAlarmTest::everyRecordIsKept()
-{
-    const Page page;
-    enable(page);
-    for (int excursion = 1; excursion <= 5; ++excursion) {
-        page.frames(8, 50.0F + float(excursion));
-        page.frame(below);
-    }
-    QCOMPARE(recordsOnDisk().size(), 5);
-    QSet<QByteArray> texts;
-    for (const QString& name : recordsOnDisk()) {
-        texts.insert(contents(m_folder + QLatin1Char('/') + name + QStringLiteral(".ini")));
-        QCOMPARE(QDir(m_folder + QLatin1Char('/') + name).entryList(QDir::Files).size(), 7);
-    }
-    QCOMPARE(texts, QSet<QByteArray>({"51.0,40.0,0.95", "52.0,40.0,0.95", "53.0,40.0,0.95",
-                                      "54.0,40.0,0.95", "55.0,40.0,0.95"}));
-}
-
-void CamerWindowAlarmTest::soundOfTheLanguage_data()
-{
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<QUrl>("url");
-    for (const char* language : {"CH", "EN", "KO", "RU"})
-        QTest::newRow(language)
-            << QString::fromLatin1(language)
-            << QUrl(QStringLiteral("qrc:/Sound/%1/Alarm.wav").arg(QLatin1String(language)));
-    QTest::newRow("unknown") << QStringLiteral("XX") << QUrl();
-    QTest::newRow("lower case") << QStringLiteral("en") << QUrl();
-    QTest::newRow("none") << QString() << QUrl();
-}
-
-void CamerWindowAlarmTest::soundOfTheLanguage()
-{
-    QFETCH(QString, language);
-    QFETCH(QUrl, url);
-    testing::configure(language, m_folder);
-    const Page page;
-    page.check("checkBox");
-    page.check("checkBox_2");
-    QCOMPARE(page->player->media().request().url(), QUrl());
-    page.frame(over);
-    page->timeout_warn();
-    QCOMPARE(page->player->media().request().url(), url);
-    if (!url.isEmpty())
-        QVERIFY(QFile::exists(QLatin1Char(':') + url.path()));
-}
-
-void CamerWindowAlarmTest::soundPlaysWhileTheAlarmLasts()
-{
-    const Page page;
-    page.check("checkBox");
-    page.check("checkBox_2");
-    page.frame(over);
-    QCOMPARE(page->player->state(), QMediaPlayer::StoppedState);
-    page->timeout_warn();
-    QTRY_COMPARE(page->player->state(), QMediaPlayer::PlayingState);
-    page.frame(over);
-    QCOMPARE(page->player->state(), QMediaPlayer::PlayingState);
-    page.frame(below);
-    QCOMPARE(page->player->state(), QMediaPlayer::StoppedState);
-
-    page.frame(over);
-    page->timeout_warn();
-    QTRY_COMPARE(page->player->state(), QMediaPlayer::PlayingState);
-    pressStop(page);
-    QCOMPARE(page->player->state(), QMediaPlayer::StoppedState);
-}
-
-void CamerWindowAlarmTest::soundIsNotRestartedWhilePlaying()
-{
-    const Page page;
-    page.check("checkBox");
-    page.check("checkBox_2");
-    page->timeout_warn();
-    QTRY_COMPARE(page->player->state(), QMediaPlayer::PlayingState);
-    page->languageCode = QStringLiteral("RU"); // would change the sound
-    page->timeout_warn();
-    QCOMPARE(page->player->media().request().url(),
-             QUrl(QStringLiteral("qrc:/Sound/EN/Alarm.wav")));
-    page->player->stop(); // it has ended
-    page->timeout_warn();
-    QCOMPARE(page->player->media().request().url(),
-             QUrl(QStringLiteral("qrc:/Sound/RU/Alarm.wav")));
-    QTRY_COMPARE(page->player->state(), QMediaPlayer::PlayingState);
-}
-
-void CamerWindowAlarmTest::tickWithoutSoundStopsThePlayer()
-{
-    const Page page;
-    page.check("checkBox");
-    page.check("checkBox_2");
-    page->timeout_warn();
-    QTRY_COMPARE(page->player->state(), QMediaPlayer::PlayingState);
-    page.check("checkBox_2", false);
-    QCOMPARE(page->player->state(), QMediaPlayer::PlayingState);
-    page->timeout_warn();
-    QCOMPARE(page->player->state(), QMediaPlayer::StoppedState);
-}
-
-void CamerWindowAlarmTest::disablingLeavesThePlayer()
-{
-    const Page page;
-    page.check("checkBox");
-    page.check("checkBox_2");
-    page.frame(over);
-    page->timeout_warn();
-    QTRY_COMPARE(page->player->state(), QMediaPlayer::PlayingState);
-    page.check("checkBox", false);
-    page.frame(over);
-    QCOMPARE(page->player->state(), QMediaPlayer::PlayingState);
-    page.frame(below);
-    QCOMPARE(page->player->state(), QMediaPlayer::StoppedState);
 }
 
 int main(int argc, char** argv)

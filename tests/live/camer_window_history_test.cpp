@@ -1,3 +1,4 @@
+// The record that is open.
 #include "resources/resources.h"
 #include "tests/live/page.h"
 #include "tests/support/test_run.h"
@@ -7,9 +8,6 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QTabWidget>
-
-#include <chrono>
-#include <filesystem>
 
 using testing::Page;
 using testing::PaintCounter;
@@ -57,12 +55,6 @@ private slots:
         testing::configure(QStringLiteral("EN"), m_folder);
     }
 
-    void listsRecordsInBothTabs();
-    void refreshFollowsTheDisk();
-    void refreshKeepsTheSelection();
-    void aNewRecordIsListedWithoutReadingTheFolder();
-    void whatOthersChangeComesWithTheNextRecord();
-    void anotherFolder();
     void showsARecord();
     void picturesSortedByName();
     void rowChanges();
@@ -75,10 +67,6 @@ private slots:
     void recordDeletedWhileListed();
     void pictureFollowsTheLabel();
     void openRecordComesToRest();
-    void clickOnTheFirstTabDoesNothing();
-    void doubleClickOpensTheFirstRecord();
-    void doubleClickWithoutRecords();
-    void fiveThousandRecords();
 
 private:
     QString path(const QString& name) const { return m_folder + QLatin1Char('/') + name; }
@@ -95,116 +83,6 @@ private:
     }
     QString m_folder;
 };
-
-void CamerWindowHistoryTest::listsRecordsInBothTabs()
-{
-    for (const char* name : {"20240101120000", "20240101120000x", "2023", "backup"})
-        QDir(m_folder).mkdir(QLatin1String(name));
-    testing::putFile(path(second), "a file");
-    const Page page;
-    QStringList rows = page.rows("listWidget");
-    QCOMPARE(page.rows("listWidget_2"), rows);
-    rows.sort();
-    QCOMPARE(rows, QStringList({first, first + QLatin1Char('x')}));
-    const QListWidgetItem* const item = page.get<QListWidget>("listWidget")->item(0);
-    QCOMPARE(item->icon().actualSize({100, 100}), QSize(20, 20));
-    QCOMPARE(page.get<QListWidget>("listWidget_2")->item(0)->icon().actualSize({100, 100}),
-             QSize(30, 30));
-}
-
-void CamerWindowHistoryTest::refreshFollowsTheDisk()
-{
-    const Page page;
-    for (int i = 10; i < 60; ++i)
-        QDir(m_folder).mkdir(QStringLiteral("202401011200%1").arg(i));
-    const auto onDisk = [this] {
-        return QDir(m_folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Unsorted);
-    };
-    page->refreshHistory();
-    QCOMPARE(page.rows("listWidget"), onDisk());
-    for (const int i : {10, 33, 59})
-        QVERIFY(QDir(m_folder).rmdir(QStringLiteral("202401011200%1").arg(i)));
-    QDir(m_folder).mkdir(second);
-    page->refreshHistory();
-    QCOMPARE(page.rows("listWidget").size(), 48);
-    QCOMPARE(page.rows("listWidget"), onDisk());
-    QCOMPARE(page.rows("listWidget_2"), onDisk());
-    QVERIFY(QDir(m_folder).removeRecursively());
-    page->refreshHistory();
-    QCOMPARE(page.rows("listWidget"), QStringList());
-}
-
-void CamerWindowHistoryTest::refreshKeepsTheSelection()
-{
-    putRecord(first, "1,2,3", {});
-    const Page page;
-    auto* const list = page.get<QListWidget>("listWidget_2");
-    list->setCurrentRow(0);
-    for (int i = 10; i < 40; ++i)
-        QDir(m_folder).mkdir(QStringLiteral("202403011200%1").arg(i));
-    page->refreshHistory();
-    QCOMPARE(list->count(), 31);
-    QCOMPARE(list->currentItem()->text(), first);
-}
-
-void CamerWindowHistoryTest::aNewRecordIsListedWithoutReadingTheFolder()
-{
-    const Page page;
-    page.frames(7, 20);
-    page->saveAlarmRecord();
-    const QStringList one = page.rows("listWidget");
-    QCOMPARE(one.size(), 1);
-    // A folder that claims that nobody has touched it since.
-    const std::filesystem::path folder(m_folder.toStdString());
-    const auto time = std::filesystem::last_write_time(folder);
-    QVERIFY(QDir(m_folder).mkdir(first));
-    std::filesystem::last_write_time(folder, time);
-    page->saveAlarmRecord();
-    QStringList rows = page.rows("listWidget");
-    QCOMPARE(rows.size(), 2);
-    QCOMPARE(rows.first(), one.first());
-    QVERIFY(!rows.contains(first));
-    QCOMPARE(page.rows("listWidget_2"), rows);
-    QCOMPARE(page.get<QListWidget>("listWidget")->item(1)->icon().actualSize({100, 100}),
-             QSize(20, 20));
-    QCOMPARE(page.get<QListWidget>("listWidget_2")->item(1)->icon().actualSize({100, 100}),
-             QSize(30, 30));
-    page->refreshHistory();
-    QVERIFY(page.rows("listWidget").contains(first));
-}
-
-void CamerWindowHistoryTest::whatOthersChangeComesWithTheNextRecord()
-{
-    const Page page;
-    page.frames(7, 20);
-    page->saveAlarmRecord();
-    const QString gone = page.rows("listWidget").value(0);
-    QVERIFY(QDir(path(gone)).removeRecursively());
-    QVERIFY(QDir(m_folder).mkdir(first));
-    const std::filesystem::path folder(m_folder.toStdString());
-    std::filesystem::last_write_time(folder, std::filesystem::last_write_time(folder) +
-                                                 std::chrono::seconds(2));
-    page->saveAlarmRecord();
-    QCOMPARE(page.rows("listWidget").size(), 2);
-    QVERIFY(page.rows("listWidget").contains(first));
-    QVERIFY(!page.rows("listWidget").contains(gone));
-}
-
-void CamerWindowHistoryTest::anotherFolder()
-{
-    putRecord(first, "1,2,3", {});
-    const Page page;
-    const QString other = testing::makeFolder(QStringLiteral("тревоги, 경보"));
-    QDir(other).mkdir(second);
-    page->setAlarmFolder(other);
-    QCOMPARE(page->historyFolder, other);
-    QCOMPARE(page.rows("listWidget"), QStringList({second}));
-    testing::putFile(other + QLatin1Char('/') + second + QStringLiteral(".ini"), "7,8,9");
-    open(page, second);
-    QCOMPARE(readings(page), QStringList({"7", "8", "9"}));
-    page->setAlarmFolder(QString());
-    QCOMPARE(page.rows("listWidget"), QStringList());
-}
 
 void CamerWindowHistoryTest::showsARecord()
 {
@@ -396,63 +274,6 @@ void CamerWindowHistoryTest::openRecordComesToRest()
         QCoreApplication::processEvents();
     QVERIFY(counter.paints <= 2);
     QCOMPARE(page.get<QLabel>("label_18")->pixmap()->cacheKey(), key);
-}
-
-void CamerWindowHistoryTest::clickOnTheFirstTabDoesNothing()
-{
-    putRecord(first, "1,2,3", {{"a.png", Qt::red}});
-    const Page page;
-    auto* const list = page.get<QListWidget>("listWidget");
-    emit list->itemClicked(list->item(0));
-    QCOMPARE(page.get<QTabWidget>("tabWidget")->currentIndex(), 0);
-    QCOMPARE(readings(page), QStringList({"36.9", "35.2", "0.95"}));
-    QVERIFY(page->historyPixmaps.isEmpty());
-}
-
-void CamerWindowHistoryTest::doubleClickOpensTheFirstRecord()
-{
-    putRecord(first, "1,1,1", {{"a.png", Qt::red}});
-    putRecord(second, "2,2,2", {{"b.png", Qt::green}});
-    const Page page;
-    page->show();
-    auto* const list = page.get<QListWidget>("listWidget");
-    const QString top = page.rows("listWidget_2").first();
-    const QString part = top == first ? QStringLiteral("1") : QStringLiteral("2");
-    const QPoint lower = list->visualItemRect(list->item(1)).center();
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, lower);
-    QTest::mouseDClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, lower);
-    QCOMPARE(page.get<QTabWidget>("tabWidget")->currentIndex(), 1);
-    QCOMPARE(page.get<QListWidget>("listWidget_2")->currentRow(), 0);
-    QCOMPARE(readings(page), QStringList({part, part, part}));
-    QCOMPARE(page->historyPixmaps.size(), 1);
-}
-
-void CamerWindowHistoryTest::doubleClickWithoutRecords()
-{
-    putRecord(first, "1,1,1", {});
-    const Page page;
-    auto* const list = page.get<QListWidget>("listWidget");
-    page.get<QListWidget>("listWidget_2")->clear();
-    emit list->itemDoubleClicked(list->item(0));
-    QCOMPARE(page.get<QTabWidget>("tabWidget")->currentIndex(), 1);
-    QCOMPARE(readings(page), QStringList({"36.9", "35.2", "0.95"}));
-}
-
-void CamerWindowHistoryTest::fiveThousandRecords()
-{
-    const QDir folder(m_folder);
-    for (int i = 0; i < 5000; ++i)
-        QVERIFY(folder.mkdir(QStringLiteral("2024010112%1").arg(i, 4, 10, QLatin1Char('0'))));
-    const Page page;
-    page->show();
-    QCOMPARE(page.get<QListWidget>("listWidget")->count(), 5000);
-    QCOMPARE(page.get<QListWidget>("listWidget_2")->count(), 5000);
-    open(page, QStringLiteral("20240101124999"));
-    page.get<QTabWidget>("tabWidget")->setCurrentIndex(1);
-    page->grab();
-    QVERIFY(folder.mkdir(QStringLiteral("20240101125000")));
-    page->refreshHistory();
-    QCOMPARE(page.get<QListWidget>("listWidget_2")->count(), 5001);
 }
 
 int main(int argc, char** argv)

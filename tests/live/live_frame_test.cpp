@@ -1,5 +1,6 @@
-#include "live/colour_kernels.h"
+#include "live/frame_kernels.h"
 #include "live/live_frame.h"
+#include "tests/live/instruction_sets.h"
 #include "tests/support/test_run.h"
 
 #include <array>
@@ -51,15 +52,15 @@ class LiveFrameTest : public QObject
     Q_OBJECT
 
 private slots:
-    void everyColourWithEveryKernel()
+    void everyColourWithEveryInstructionSet()
     {
         // For one pair of chroma values, 256 pixels hold every luma once.
         constexpr int pixels = 256;
         std::array<uchar, pixels * 2> yuyv{};
         std::array<uchar, pixels * 3> expected{};
         std::array<uchar, pixels * 3> actual{};
-        const std::vector<live::NamedKernel> kernels = live::colourKernels();
-        QVERIFY(!kernels.empty());
+        const std::vector<std::int64_t> sets = testing::instructionSets();
+        QVERIFY(!sets.empty());
         for (int u = 0; u < 256; ++u) {
             for (int v = 0; v < 256; ++v) {
                 for (int luma = 0; luma < pixels; ++luma) {
@@ -70,12 +71,13 @@ private slots:
                     for (std::size_t channel = 0; channel < 3; ++channel)
                         expected[3 * at + channel] = uchar(colour[channel]);
                 }
-                for (const live::NamedKernel& kernel : kernels) {
+                for (const std::int64_t set : sets) {
+                    const testing::UsedInstructionSet used(set);
                     actual.fill(0x5A);
-                    kernel.convert(yuyv.data(), pixels, actual.data());
+                    live::convertPixels(yuyv.data(), pixels, actual.data());
                     if (actual != expected)
                         QFAIL(qPrintable(QStringLiteral("%1 differs for U = %2, V = %3")
-                                             .arg(QLatin1String(kernel.name))
+                                             .arg(QLatin1String(hwy::TargetName(set)))
                                              .arg(u)
                                              .arg(v)));
                 }
@@ -143,12 +145,13 @@ private slots:
     void stopsAtTheEndOfThePicture()
     {
         const std::vector<uchar> frame = frameOf(200, 128, 200, 128);
-        for (const live::NamedKernel& kernel : live::colourKernels()) {
+        for (const std::int64_t set : testing::instructionSets()) {
+            const testing::UsedInstructionSet used(set);
             // One byte in, so that nothing is aligned.
             std::vector<uchar> rgb(live::rgbBytes + 65, 0x5A);
             std::vector<uchar> shifted(frame.size() + 1);
             std::memcpy(shifted.data() + 1, frame.data(), frame.size());
-            kernel.convert(shifted.data() + 1, live::picturePixels, rgb.data() + 1);
+            live::convertPixels(shifted.data() + 1, live::picturePixels, rgb.data() + 1);
             QCOMPARE(int(rgb.front()), 0x5A);
             for (std::size_t i = 0; i < 64; ++i)
                 QCOMPARE(int(rgb[rgb.size() - 1 - i]), 0x5A);
