@@ -79,12 +79,14 @@ const Layout* PhotographReader::cutOffLayout() const
 {
     const uchar* const bytes = m_buffer.bytes();
     constexpr int bitsOfAPixel = 28; // its place in a bitmap's header
-    const auto* const layout =
-        std::find_if(layouts.begin(), layouts.end(), [this, bytes](const Layout& candidate) {
-            return bytes[bitsOfAPixel] == 8 * candidate.pixelBytes &&
-                   m_readCount < bytesNeeded(candidate);
-        });
-    return bytes[0] == 'B' && bytes[1] == 'M' && layout != layouts.end() ? layout : nullptr;
+    const Layout* shortest = nullptr;
+    for (const Layout& layout : layouts) {
+        const bool hasItsPicture = bytes[bitsOfAPixel] == 8 * layout.pixelBytes;
+        if (hasItsPicture && (!shortest || bytesNeeded(layout) < bytesNeeded(*shortest)))
+            shortest = &layout;
+    }
+    const bool isBitmap = bytes[0] == 'B' && bytes[1] == 'M';
+    return isBitmap && shortest && m_readCount < bytesNeeded(*shortest) ? shortest : nullptr;
 }
 
 /// Nothing where the photograph ends before its blocks do.
