@@ -28,7 +28,7 @@ struct SelectionOrder
     QStringList names;  ///< of the photographs in it
     int modelIndex = 0; ///< file layout: 1, or 0 and any other
     QString target;     ///< the folder to write to; must exist
-    QString language;   ///< of the configuration record: RU and KO set reports in their own way;
+    QString language;   ///< of the configuration record: some set reports in their own way;
                         ///< the words themselves are the installed translators'
 };
 
