@@ -19,7 +19,10 @@ ROOMS = [
     "dialogs",
     "overlay",
     "live",
-    "analysis",
+    "analysis/photograph",
+    "analysis/report",
+    "analysis/export",
+    "analysis/windows",
     "app",
     "simulator",
     "tools",
@@ -109,7 +112,26 @@ def sources_without_tests(checkout):
         yield f"tested-elsewhere.txt: there is no {test}"
 
 
+def names_of_no_source(checkout):
+    """Names in the architecture's page that no source has."""
+    page = (checkout / "docs/architecture.md").read_text(encoding="utf-8")
+    whole = "\n".join((checkout / name).read_text(encoding="utf-8")
+                      for name in sources(checkout, ".cpp", ".h"))
+    headers = {pathlib.PurePath(name).name for name in sources(checkout, ".h")}
+    for name in sorted(set(re.findall(r"`([\w:]+(?:\(\))?|\w+\.h)`", page))):
+        if name.startswith("thermadesk_"):
+            continue  # a library
+        if name.endswith(".h"):
+            is_there = name in headers
+        else:
+            last = name.removesuffix("()").split("::")[-1]
+            is_there = re.search(rf"\b{last}\b", whole) or (checkout / last).exists()
+        if not is_there:
+            yield f"docs/architecture.md: no source has {name}"
+
+
 def complaints(checkout):
+    yield from names_of_no_source(checkout)
     yield from wrong_includes(checkout)
     yield from other_orders(checkout)
     yield from sources_without_tests(checkout)

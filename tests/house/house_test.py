@@ -19,6 +19,7 @@ class House(unittest.TestCase):
         self.write("live/frame.cpp", '#include "live/frame.h"\n\n#include <QString>\n')
         self.write("tests/live/frame_test.cpp", '#include "live/frame.h"\n')
         self.write("tests/house/tested-elsewhere.txt", "# Sources without a test\n")
+        self.write("docs/architecture.md", "`frame.h`, then `live::include` in `tests/`.\n")
 
     def write(self, name, text):
         path = self.checkout / name
@@ -68,6 +69,13 @@ class House(unittest.TestCase):
         self.setUp()
         self.write("README.md", "| `config/` | first |\n")
         self.assertOneComplaint("README.md")
+
+    def test_the_page_names_what_is_there(self):
+        self.write("docs/architecture.md", "`gone.h`, `live::include`, `live::lost()`\n")
+        found = self.complaints()
+        self.assertEqual(len(found), 2, found)
+        self.assertIn("gone.h", found[0])
+        self.assertIn("live::lost()", found[1])
 
     def test_a_source_without_a_test(self):
         self.write("live/other.cpp", "")
