@@ -1,6 +1,7 @@
 #include "live/alarm_records.h"
 
 #include "files/paths.h"
+#include "files/reading.h"
 
 #include <QBuffer>
 #include <QDir>
@@ -215,9 +216,8 @@ QStringList recordNames(const QString& historyFolder)
 
 RecordReadings recordReadings(const QString& historyFolder, const QString& name)
 {
-    const QString path = historyFolder + QLatin1Char('/') + textName(name);
-    QFile file(path);
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+    QFile file(files::pathIn(historyFolder, textName(name)));
+    if (!files::openForReading(file).isGood())
         return {};
     QByteArray text = file.read(mostTextBytes);
     for (const char end : {'\n', '\r'})
@@ -230,7 +230,7 @@ RecordReadings recordReadings(const QString& historyFolder, const QString& name)
 
 QStringList recordPicturePaths(const QString& historyFolder, const QString& name)
 {
-    const QString folder = historyFolder + QLatin1Char('/') + name;
+    const QString folder = files::pathIn(historyFolder, name);
     QStringList paths;
     for (const QString& file : QDir(folder).entryList(
              {QStringLiteral("*.png"), QStringLiteral("*.jpg"), QStringLiteral("*.bmp")},

@@ -1,12 +1,13 @@
 #include "simulator/simulated_disk.h"
 
 #include "analysis/photograph/layouts.h"
+#include "files/paths.h"
+#include "files/whole_file.h"
 #include "platform/removable_drives.h"
 
 #include <QDir>
 #include <QFile>
 #include <QLocale>
-#include <QSaveFile>
 
 namespace simulator {
 namespace {
@@ -87,15 +88,13 @@ QString SimulatedDisk::store(const QByteArray& photograph, int modelIndex, const
     const QString folder = m_root + photographFolderName(modelIndex);
     if (!m_plugged || !QDir().mkpath(folder))
         return {};
-    const QString name = folder + QLatin1Char('/') +
-                         QLocale::c().toString(takenAt, QStringLiteral("yyyyMMdd_hhmmss"));
+    const QString name = files::pathIn(
+        folder, QLocale::c().toString(takenAt, QStringLiteral("yyyyMMdd_hhmmss")));
     QString path = name + QStringLiteral(".bmp");
     for (int number = 2; QFile::exists(path); ++number)
         path = name + QStringLiteral("_%1.bmp").arg(number);
-    QSaveFile file(path);
-    const bool isStored = file.open(QIODevice::WriteOnly) &&
-                          file.write(photograph) == photograph.size() && file.commit();
-    return isStored ? path : QString();
+    return files::writeWholeFile(path, photograph, files::Existing::Refuse).isGood() ? path
+                                                                                     : QString();
 }
 
 } // namespace simulator

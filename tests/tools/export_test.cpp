@@ -1,76 +1,21 @@
-#include "tests/analysis/photograph_writer.h"
 #include "tests/support/test_run.h"
-#include "tests/tools/thermaphoto.h"
+#include "tests/tools/exported.h"
 
 #include <QtEndian>
 
 #include <cmath>
-#include <cstring>
 
+using testing::columns;
 using testing::Ended;
-using testing::Folder;
+using testing::Exported;
+using testing::grayAt;
+using testing::option;
+using testing::rows;
 using testing::Shot;
-using testing::thermaphoto;
+using testing::slope;
+using testing::stored;
 
 namespace {
-
-constexpr int columns = 240;
-constexpr int rows = 320;
-
-/// A gray value of the sloping photograph: no two neighbours alike, and not symmetric in any way.
-int grayAt(int x, int y)
-{
-    return (3 * x + 7 * y) % 241;
-}
-
-/// 20.0 at gray 0, 44.0 at gray 240.
-Shot slope(int model = 0, int unit = 0)
-{
-    Shot shot;
-    shot.model = model;
-    shot.gray = grayAt;
-    shot.maximum10 = 440;
-    shot.minimum10 = 200;
-    shot.grayMaximum = 240;
-    shot.grayMinimum = 0;
-    shot.unit = unit;
-    return shot;
-}
-
-/// The temperature that the imager means by a gray value of it, to the last bit.
-float stored(int gray)
-{
-    const float ratio = (240.0F - float(gray)) / 240.0F;
-    return float(44.0 - double(ratio) * 24.0);
-}
-
-QString option(const char* name, const QString& value)
-{
-    return QStringLiteral("--%1=%2").arg(QLatin1String(name), value);
-}
-
-/// One photograph "a.bmp" exported into the same folder.
-class Exported : public Folder
-{
-public:
-    Exported(const QByteArray& photograph, const QString& format, const QStringList& options = {})
-    {
-        write(QStringLiteral("a.bmp"), photograph);
-        ended = thermaphoto(QStringList{QStringLiteral("export"), option("format", format),
-                                        QStringLiteral("a.bmp")} +
-                                options,
-                            path());
-        file = read(QStringLiteral("a.") + format);
-    }
-
-    QList<QByteArray> cells(int row, char separator = ',') const
-    {
-        return file.split('\n').value(row).split(separator);
-    }
-
-    Ended ended;
-    QByteArray file;
-};
 
 std::vector<float> floatsAt(const QByteArray& bytes, int offset)
 {
@@ -117,13 +62,6 @@ private slots:
     void asSeen();
     void units_data();
     void units();
-    void csvIsExact();
-    void csvDecimals_data();
-    void csvDecimals();
-    void csvSeparators_data();
-    void csvSeparators();
-    void csvHeader();
-    void csvOfNonsense();
     void npyHeaderIsNumPys();
     void tiffTags();
     void tiffReadByOthers();
@@ -138,6 +76,7 @@ void ExportTest::asSeen_data()
     QTest::newRow("layout 1") << 1;
 }
 
+/// All number formats hold the same matrix: row after row from the top, each from left to right.
 void ExportTest::asSeen()
 {
     QFETCH(int, model);
@@ -212,103 +151,6 @@ void ExportTest::units()
     QVERIFY(tiff.file.contains(isFahrenheit ? "unit=F" : "unit=C"));
 }
 
-void ExportTest::csvIsExact()
-{
-    const Exported csv(photographBytes(slope()), QStringLiteral("csv"),
-                       {option("unit", QStringLiteral("F"))});
-    int different = 0;
-    for (int x = 0; x < columns; ++x) {
-        const float expected = 10.0F * stored(grayAt(x, 5)) / 5.556F + 32.0F;
-        char text[32];
-        std::snprintf(text, sizeof text, "%.9g", double(expected));
-        QCOMPARE(csv.cells(5)[x], QByteArray(text));
-        different += int(std::strlen(text) >= 9);
-    }
-    QVERIFY(different > 100);
-}
-
-void ExportTest::csvDecimals_data()
-{
-    QTest::addColumn<QString>("decimals");
-    QTest::addColumn<QByteArray>("tie");
-    QTest::addColumn<QByteArray>("negative");
-    QTest::newRow("none") << "0" << QByteArray("30") << QByteArray("-0");
-    // As the windows round: halves away from zero, and the sign of a small number stays.
-    QTest::newRow("one") << "1" << QByteArray("30.3") << QByteArray("-0.0");
-    QTest::newRow("two") << "2" << QByteArray("30.25") << QByteArray("-0.03");
-    QTest::newRow("nine") << "9" << QByteArray("30.250000000") << QByteArray("-0.031250000");
-}
-
-void ExportTest::csvDecimals()
-{
-    QFETCH(QString, decimals);
-    Shot shot;
-    shot.maximum10 = 400;
-    shot.minimum10 = 205;
-    shot.grayMaximum = 200;
-    shot.grayMinimum = 0;
-    shot.gray = [](int, int) {
-        return 100;
-    }; // half way from 40 to 20.5: 30.25
-    const QStringList options{option("decimals", decimals)};
-    QTEST(Exported(photographBytes(shot), QStringLiteral("csv"), options).cells(0)[0], "tie");
-
-    shot.maximum10 = 0;
-    shot.minimum10 = -10;
-    shot.grayMaximum = 32;
-    shot.gray = [](int, int) {
-        return 31;
-    }; // a 32nd of the way from 0 to −1: −0.03125
-    QTEST(Exported(photographBytes(shot), QStringLiteral("csv"), options).cells(0)[0], "negative");
-}
-
-void ExportTest::csvSeparators_data()
-{
-    QTest::addColumn<QString>("given");
-    QTest::addColumn<char>("separator");
-    QTest::newRow("semicolon") << ";" << ';';
-    QTest::newRow("blank") << " " << ' ';
-    QTest::newRow("tab itself") << "\t" << '\t';
-    QTest::newRow("tab by name") << "tab" << '\t';
-    QTest::newRow("tab escaped") << "\\t" << '\t';
-}
-
-void ExportTest::csvSeparators()
-{
-    QFETCH(QString, given);
-    QFETCH(char, separator);
-    const Exported csv(photographBytes(slope()), QStringLiteral("csv"),
-                       {QStringLiteral("--separator"), given});
-    QCOMPARE(csv.cells(0, separator).size(), columns);
-    QCOMPARE(csv.cells(0, separator)[0].toDouble(), 20.0);
-}
-
-void ExportTest::csvHeader()
-{
-    const QByteArray photograph = photographBytes(slope());
-    const Exported plain(photograph, QStringLiteral("csv"));
-    const Exported titled(photograph, QStringLiteral("csv"), {QStringLiteral("--header")});
-    QCOMPARE(titled.file, "# unit=C columns=240 rows=320\n" + plain.file);
-    const Exported inF(photograph, QStringLiteral("csv"),
-                       {QStringLiteral("--header"), option("unit", QStringLiteral("F"))});
-    QVERIFY(inF.file.startsWith("# unit=F columns=240 rows=320\n"));
-}
-
-void ExportTest::csvOfNonsense()
-{
-    Shot shot = slope();
-    shot.grayMinimum = shot.grayMaximum = 100;
-    shot.gray = [](int x, int) {
-        return 99 + x % 3;
-    };
-    for (const QStringList& options : {QStringList(), {option("decimals", QStringLiteral("1"))}}) {
-        const Exported csv(photographBytes(shot), QStringLiteral("csv"), options);
-        QCOMPARE(csv.ended.status, 0);
-        QVERIFY(csv.file.startsWith("-inf,nan,inf,-inf,"));
-        QVERIFY(!csv.file.contains("-nan"));
-    }
-}
-
 void ExportTest::npyHeaderIsNumPys()
 {
     const Exported npy(photographBytes(slope()), QStringLiteral("npy"));
@@ -339,6 +181,7 @@ void ExportTest::tiffTags()
              QByteArray("unit=F emissivity=0.07"));
 }
 
+/// ImageMagick, in the build whose pixels are floating point, reads the same matrix.
 void ExportTest::tiffReadByOthers()
 {
     const Exported tiff(photographBytes(slope()), QStringLiteral("tiff"));

@@ -116,6 +116,8 @@ void InterruptionTest::interrupted_data()
     QTest::newRow("terminal closed") << SIGHUP;
 }
 
+/// What was begun is finished, nothing else is, no file is half there, and what is told of is what
+/// is on the disk.
 void InterruptionTest::interrupted()
 {
     QFETCH(int, signal);
@@ -138,6 +140,7 @@ void InterruptionTest::interrupted()
         QCOMPARE(stalled.read(file).size(), 128 + 240 * 320 * 4);
 }
 
+/// As under nohup: the terminal may be closed, the work goes on.
 void InterruptionTest::ignoredRequestStaysIgnored()
 {
     Stalled stalled(QStringLiteral("trap '' HUP; "));

@@ -114,6 +114,7 @@ void TargetFilesTest::folderThatCannotBeMade()
     }
 }
 
+/// A file has the name that one of the folders needs: the others are made.
 void TargetFilesTest::subfolderThatCannotBeMade()
 {
     const Folder folder;
@@ -154,6 +155,7 @@ void TargetFilesTest::subfoldersAreKept()
              (QStringList{"out/1.npy", "out/a/c/1.npy", "out/b/1.npy"}));
 }
 
+/// Two photographs whose files would have the same name: the first gets it, also with --force.
 void TargetFilesTest::sameNameTwice()
 {
     const Folder folder;
@@ -184,6 +186,7 @@ void TargetFilesTest::neverOverAPhotograph()
     QVERIFY(folder.read(QStringLiteral("1.png.png")).startsWith("\x89PNG"));
 }
 
+/// No file may grow beyond 150 KB here: what is written first fits, the rest does not.
 void TargetFilesTest::fullDisk()
 {
     const Folder folder;
