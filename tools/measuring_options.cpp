@@ -1,5 +1,9 @@
 #include "tools/measuring_options.h"
 
+#include "files/reading.h"
+#include "overlay/tool_file.h"
+#include "tools/messages.h"
+
 using analysis::Unit;
 
 namespace tools {
@@ -33,7 +37,10 @@ overlay::Tools readTools(CommandLine& line)
     const QString file = line.value(QStringLiteral("tools"));
     if (!line.isSet(QStringLiteral("tools")))
         return tools;
-    const QString wrong = readToolFile(file, tools);
+    constexpr qint64 mostBytes = 10'000'000;
+    QByteArray json;
+    const files::Outcome reading = files::readWhole(file, mostBytes, json);
+    const QString wrong = reading.isGood() ? toolsFromJson(json, tools) : reason(reading);
     if (!wrong.isEmpty())
         line.refuse(file + QStringLiteral(": ") + wrong);
     return tools;

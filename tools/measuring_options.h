@@ -1,8 +1,8 @@
 #pragma once
 
 #include "analysis/photograph/photograph_reader.h"
+#include "overlay/tools.h"
 #include "tools/command_line.h"
-#include "tools/tool_file.h"
 
 /// What commands that measure are asked for: --tools and --unit.
 namespace tools {

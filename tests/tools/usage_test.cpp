@@ -37,6 +37,7 @@ private slots:
     void helpShowsAnOrderThatIsTaken();
     void whatIsMissing_data();
     void whatIsMissing();
+    void wrongToolFile();
     void version();
 };
 
@@ -181,6 +182,26 @@ void UsageTest::whatIsMissing()
     const Ended ended = thermaphoto(arguments);
     QCOMPARE(ended.status, 2);
     QVERIFY2(ended.errors.contains(": " + missing + " is missing"), ended.errors.constData());
+}
+
+/// The line tells which tool of which file is wrong.
+void UsageTest::wrongToolFile()
+{
+    const Folder folder;
+    folder.write("a.bmp", photograph());
+    folder.write("tools.json", R"({"circles": [[50, 50, 9], [120, 160, 500]]})");
+    folder.write("large.json", QByteArray(10'000'001, ' '));
+    for (const QStringList& command :
+         {QStringList("measure"), QStringList{"report", "-o", "out"}}) {
+        const auto told = [&](const char* file) {
+            const Ended ended =
+                thermaphoto(command + QStringList{"--tools", file, "a.bmp"}, folder.path());
+            return ended.status == 2 ? ended.errors : QByteArray();
+        };
+        QVERIFY(told("tools.json").contains(": tools.json: \"circles\", number 2 is not wholly"));
+        QVERIFY(told("large.json").contains(": large.json: too large: 10000001/10000000 bytes"));
+    }
+    QCOMPARE(folder.files(), (QStringList{"a.bmp", "large.json", "tools.json"}));
 }
 
 void UsageTest::version()

@@ -1,29 +1,8 @@
-#include "tests/analysis/photograph_writer.h"
+#include "overlay/tool_file.h"
 #include "tests/support/test_run.h"
-#include "tests/tools/thermaphoto.h"
 
-using testing::Ended;
-using testing::Folder;
-using testing::thermaphoto;
-
-namespace {
-
-/// A photograph measured with the tools of a file.
-struct Measured
-{
-    explicit Measured(const QByteArray& toolFile)
-        : toolPath(folder.write("tools.json", toolFile)),
-          ended(thermaphoto({"measure", "--tools", toolPath,
-                             folder.write("a.bmp", testing::photographBytes({}))}))
-    {
-    }
-
-    Folder folder;
-    QString toolPath;
-    Ended ended;
-};
-
-} // namespace
+using overlay::Tools;
+using overlay::toolsFromJson;
 
 /// Files of tools hold what the window can hold.
 class ToolFileTest : public QObject
@@ -31,11 +10,27 @@ class ToolFileTest : public QObject
     Q_OBJECT
 
 private slots:
+    void taken();
     void whatTheWindowHolds_data();
     void whatTheWindowHolds();
     void wrongTools_data();
     void wrongTools();
 };
+
+void ToolFileTest::taken()
+{
+    Tools tools;
+    QCOMPARE(toolsFromJson(R"({"points": [[7, 9], [120, 160]], "lines": [[10, 300, 200, 20]],
+                               "rectangles": [[100, 99, 30, 60]], "circles": [[150, 200, 40]]})",
+                           tools),
+             QString());
+    Tools expected;
+    expected.pointList = {{"P0", 7, 9}, {"P1", 120, 160}};
+    expected.lineList = {{"L0", 10, 300, 200, 20}};
+    expected.rectList = {{"R0", 100, 99, 30, 60}};
+    expected.circleList = {{"C0", 150, 200, 190, 200, 40}};
+    QVERIFY(tools == expected);
+}
 
 void ToolFileTest::whatTheWindowHolds_data()
 {
@@ -53,9 +48,9 @@ void ToolFileTest::whatTheWindowHolds_data()
 void ToolFileTest::whatTheWindowHolds()
 {
     QFETCH(QByteArray, file);
-    const Ended ended = Measured(file).ended;
-    QCOMPARE(ended.errors, QByteArray());
-    QCOMPARE(ended.status, 0);
+    Tools tools;
+    QCOMPARE(toolsFromJson(file, tools), QString());
+    QVERIFY(countOf(tools) > 0);
 }
 
 void ToolFileTest::wrongTools_data()
@@ -102,13 +97,9 @@ void ToolFileTest::wrongTools()
 {
     QFETCH(QByteArray, file);
     QFETCH(QByteArray, complaint);
-    const Measured measured(file);
-    const Ended& ended = measured.ended;
-    QCOMPARE(ended.status, 2);
-    QCOMPARE(ended.output, QByteArray());
-    QCOMPARE(ended.errorLines().size(), 1);
-    QVERIFY2(ended.errors.contains(complaint), ended.errors.constData());
-    QVERIFY(ended.errors.contains(measured.toolPath.toUtf8()));
+    Tools tools;
+    const QByteArray told = toolsFromJson(file, tools).toUtf8();
+    QVERIFY2(told.contains(complaint), told.constData());
 }
 
 int main(int argc, char** argv)

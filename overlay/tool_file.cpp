@@ -1,8 +1,6 @@
-#include "tools/tool_file.h"
+#include "overlay/tool_file.h"
 
-#include "files/reading.h"
 #include "overlay/tool_rules.h"
-#include "tools/messages.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -11,10 +9,10 @@
 #include <algorithm>
 #include <cmath>
 
-namespace tools {
+namespace overlay {
 namespace {
 
-QString keyOf(const overlay::KindRow& kind)
+QString keyOf(const KindRow& kind)
 {
     return QLatin1String(kind.name) + QLatin1Char('s');
 }
@@ -23,10 +21,9 @@ QString keyOf(const overlay::KindRow& kind)
 QString knownKeys()
 {
     QString keys;
-    for (const overlay::KindRow& kind : overlay::toolKinds) {
-        if (&kind != &overlay::toolKinds.front())
-            keys += &kind == &overlay::toolKinds.back() ? QStringLiteral(" and ")
-                                                        : QStringLiteral(", ");
+    for (const KindRow& kind : toolKinds) {
+        if (&kind != &toolKinds.front())
+            keys += &kind == &toolKinds.back() ? QStringLiteral(" and ") : QStringLiteral(", ");
         keys += QStringLiteral("\"%1\"").arg(keyOf(kind));
     }
     return keys;
@@ -40,11 +37,11 @@ QString wrongWith(const Tool& tool)
         return QStringLiteral("has no extent");
     if (isInside(tool))
         return {};
-    return overlay::rowOf(tool.kind).isDragged ? QStringLiteral("is not wholly inside the picture")
-                                               : QStringLiteral("is outside the picture");
+    return rowOf(tool.kind).isDragged ? QStringLiteral("is not wholly inside the picture")
+                                      : QStringLiteral("is outside the picture");
 }
 
-bool readNumbers(const QJsonValue& value, int count, overlay::ToolNumbers& numbers)
+bool readNumbers(const QJsonValue& value, int count, ToolNumbers& numbers)
 {
     const QJsonArray array = value.toArray();
     if (!value.isArray() || array.size() != count)
@@ -63,14 +60,14 @@ bool readNumbers(const QJsonValue& value, int count, overlay::ToolNumbers& numbe
 template<typename Tool>
 QString readKind(const QJsonObject& object, QVector<Tool>& tools)
 {
-    const overlay::KindRow& kind = overlay::rowOf(Tool::kind);
+    const KindRow& kind = rowOf(Tool::kind);
     const QString key = keyOf(kind);
     const QJsonValue list = object.value(key);
     if (!list.isArray() && !list.isUndefined())
         return QStringLiteral("\"%1\" is not a list").arg(key);
     for (const QJsonValue value : list.toArray()) {
         const QString where = QStringLiteral("\"%1\", number %2 ").arg(key).arg(tools.size() + 1);
-        overlay::ToolNumbers numbers{};
+        ToolNumbers numbers{};
         if (!readNumbers(value, kind.numbers, numbers))
             return where + QStringLiteral("is not a list of %1 whole numbers").arg(kind.numbers);
         Tool tool;
@@ -84,17 +81,17 @@ QString readKind(const QJsonObject& object, QVector<Tool>& tools)
     return {};
 }
 
-QString readTools(const QJsonObject& object, overlay::Tools& tools)
+QString readTools(const QJsonObject& object, Tools& tools)
 {
     for (const QString& key : object.keys()) {
-        const auto isKey = [&](const overlay::KindRow& kind) {
+        const auto isKey = [&](const KindRow& kind) {
             return key == keyOf(kind);
         };
-        if (std::none_of(overlay::toolKinds.begin(), overlay::toolKinds.end(), isKey))
+        if (std::none_of(toolKinds.begin(), toolKinds.end(), isKey))
             return QStringLiteral("\"%1\" is none of %2").arg(key, knownKeys());
     }
     QString wrong;
-    overlay::forEachList(tools, [&](auto& list) {
+    forEachList(tools, [&](auto& list) {
         if (wrong.isEmpty())
             wrong = readKind(object, list);
     });
@@ -103,15 +100,10 @@ QString readTools(const QJsonObject& object, overlay::Tools& tools)
 
 } // namespace
 
-QString readToolFile(const QString& path, overlay::Tools& tools)
+QString toolsFromJson(const QByteArray& json, Tools& tools)
 {
-    constexpr qint64 mostBytes = 10'000'000;
-    QByteArray bytes;
-    const files::Outcome reading = files::readWhole(path, mostBytes, bytes);
-    if (!reading.isGood())
-        return reason(reading);
     QJsonParseError error;
-    const QJsonDocument document = QJsonDocument::fromJson(bytes, &error);
+    const QJsonDocument document = QJsonDocument::fromJson(json, &error);
     if (error.error != QJsonParseError::NoError)
         return QStringLiteral("byte %1: %2").arg(error.offset).arg(error.errorString());
     if (!document.isObject())
@@ -119,4 +111,4 @@ QString readToolFile(const QString& path, overlay::Tools& tools)
     return readTools(document.object(), tools);
 }
 
-} // namespace tools
+} // namespace overlay
