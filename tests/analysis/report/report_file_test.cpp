@@ -1,0 +1,148 @@
+#include "analysis/report/report.h"
+#include "tests/analysis/pdf_reader.h"
+#include "tests/analysis/sample_report.h"
+#include "tests/support/test_run.h"
+
+#include <csignal>
+#include <memory>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+using analysis::Report;
+
+namespace {
+
+QByteArray fileBytes(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void putFile(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+QStringList filesIn(const QString& folder)
+{
+    return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System |
+                                  QDir::NoDotAndDotDot);
+}
+
+/// While it lives no file of this process can grow beyond a few kilobytes, as on a full disk.
+class FullDisk
+{
+public:
+    FullDisk() : m_handler(std::signal(SIGXFSZ, SIG_IGN))
+    {
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        rlimit limit = m_before;
+        limit.rlim_cur = 20'000;
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FullDisk()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_handler);
+    }
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+
+private:
+    rlimit m_before{};
+    void (*m_handler)(int);
+};
+
+} // namespace
+
+/// Where reports are written to, and where they cannot be.
+class ReportFileTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { m_folder = std::make_unique<QTemporaryDir>(); }
+
+    void pathsInAnyLanguage()
+    {
+        const QString path = m_folder->filePath("отчёт 보고서 报告.pdf");
+        QVERIFY(analysis::writeReport(testing::sampleReport("CH", 0, 4), path));
+        QCOMPARE(testing::pdfInfo(path, "Pages"), QString("2"));
+        QCOMPARE(filesIn(m_folder->path()), QStringList("отчёт 보고서 报告.pdf"));
+    }
+
+    void anExistingFileIsReplaced()
+    {
+        const QString path = m_folder->filePath("report.pdf");
+        putFile(path, QByteArray(5'000'000, 'x'));
+        QVERIFY(analysis::writeReport(testing::sampleReport("CH", 0, 4), path));
+        QCOMPARE(testing::pdfInfo(path, "Pages"), QString("2"));
+        QCOMPARE(filesIn(m_folder->path()), QStringList("report.pdf"));
+    }
+
+    void noSuffixIsAdded()
+    {
+        QVERIFY(
+            analysis::writeReport(testing::sampleReport("CH", 0, 4), m_folder->filePath("report")));
+        QCOMPARE(filesIn(m_folder->path()), QStringList("report"));
+    }
+
+    void pathsThatCannotBeWritten()
+    {
+        testing::LogRecorder log;
+        const Report report = testing::sampleReport("CH", 0, 4);
+        const QString before = QDir::currentPath();
+        QDir::setCurrent(m_folder->path());
+        QVERIFY(!analysis::writeReport(report, QString()));
+        QVERIFY(!analysis::writeReport(report, m_folder->path()));
+        QVERIFY(!analysis::writeReport(report, m_folder->filePath("missing/report.pdf")));
+        QDir::setCurrent(before);
+        QCOMPARE(filesIn(m_folder->path()), QStringList());
+        QCOMPARE(log.messages(), QStringList());
+    }
+
+    void onlyFilesAreReplaced()
+    {
+        const QString pipe = m_folder->filePath("pipe.pdf");
+        QCOMPARE(mkfifo(qPrintable(pipe), 0600), 0);
+        QVERIFY(!analysis::writeReport(testing::sampleReport("CH", 0, 4), pipe));
+        QVERIFY(QFileInfo::exists(pipe) && !QFileInfo(pipe).isFile());
+
+        const QString file = m_folder->filePath("file.pdf");
+        const QString link = m_folder->filePath("link.pdf");
+        putFile(file, "older");
+        QVERIFY(QFile::link(file, link));
+        QVERIFY(analysis::writeReport(testing::sampleReport("CH", 0, 4), link));
+        QVERIFY(QFileInfo(link).isSymLink());
+        QCOMPARE(testing::pdfInfo(file, "Pages"), QString("2"));
+        QCOMPARE(filesIn(m_folder->path()).size(), 3);
+    }
+
+    void aFullDiskLeavesWhatWasThere()
+    {
+        const Report report = testing::sampleReport("CH", 0, 4);
+        const QString path = m_folder->filePath("report.pdf");
+        const QByteArray old("an older report");
+        putFile(path, old);
+        {
+            const FullDisk full;
+            QVERIFY(!analysis::writeReport(report, path));
+            QVERIFY(!analysis::writeReport(report, m_folder->filePath("new.pdf")));
+        }
+        QCOMPARE(filesIn(m_folder->path()), QStringList("report.pdf"));
+        QCOMPARE(fileBytes(path), old);
+        QVERIFY(analysis::writeReport(report, path));
+    }
+
+private:
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+int main(int argc, char** argv)
+{
+    return testing::run<ReportFileTest>(argc, argv);
+}
+
+#include "report_file_test.moc"
