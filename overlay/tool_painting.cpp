@@ -49,13 +49,12 @@ public:
         : m_painter(painter), m_geometry(geometry), m_penWidth(geometry.imageHeight / 500 + 1),
           m_nameExtent(onSheet(0, 0, nameSize).w)
     {
+        painter.setRenderHint(QPainter::Antialiasing);
     }
 
     /// The tools from `begin` to before `end`, counted over all kinds.
     void drawTools(const Tools& tools, const QColor& selectColor, int begin, int end) const;
-    /// A cross of double strokes that leaves its centre free, with a large letter beside it.
-    void drawSpot(const Marker& marker, const QColor& colour, const QString& letter) const;
-    void drawReticle(const Marker& marker) const;
+    void drawSpots(const Spots& spots) const;
     void drawMargins() const;
 
 private:
@@ -80,6 +79,9 @@ private:
              y + above(y > m_geometry.labelHeight / 2, 4), name);
     }
     void drawCross(int cx, int cy, int arm, int gap) const;
+    /// A cross of double strokes that leaves its centre free, with a large letter beside it.
+    void drawSpot(const Marker& marker, const QColor& colour, const QString& letter) const;
+    void drawReticle(const Marker& marker) const;
     void draw(const PointTool& point) const;
     void draw(const LineTool& line) const;
     void draw(const RectTool& rect) const;
@@ -148,6 +150,14 @@ void Canvas::draw(const CircleTool& circle) const
     nameBeside(cx, cy, circle.name);
 }
 
+void Canvas::drawSpots(const Spots& spots) const
+{
+    drawSpot(spots.markerA, QColor(0, 255, 0), QStringLiteral("L"));
+    drawSpot(spots.markerB, QColor(255, 0, 0), QStringLiteral("H"));
+    if (hasReticle(spots))
+        drawReticle(spots.markerC);
+}
+
 void Canvas::drawSpot(const Marker& marker, const QColor& colour, const QString& letter) const
 {
     const auto [cx, cy, m, mHeight] = onSheet(marker.x, marker.y, spotSize);
@@ -206,6 +216,16 @@ bool isSame(const Sheet& left, const Sheet& right)
     return left.geometry == right.geometry && left.ratio == right.ratio;
 }
 
+/// Tools of their own layer: laid over others, smoothed edges come out a little different from
+/// tools that are drawn after them.
+QImage layerOf(const Tools& tools, const Sheet& sheet, int begin, int end)
+{
+    QImage image = transparent(sheet);
+    QPainter painter(&image);
+    Canvas(painter, sheet.geometry).drawTools(tools, sheet.selectColor, begin, end);
+    return image;
+}
+
 /// The tools as their layers show them: without the selection, and without the selected tool.
 Tools withoutSelected(Tools tools)
 {
@@ -232,14 +252,24 @@ QImage paintedTools(const Tools& tools, const Spots& spots, const Sheet& sheet)
         return {};
     QImage image = transparent(sheet);
     QPainter painter(&image);
-    ToolLayers().paint(painter, tools, spots, sheet);
+    const Canvas canvas(painter, sheet.geometry);
+    if (hasPicture(sheet.geometry)) {
+        const int selected = selectedPlace(tools);
+        const int count = countOf(tools);
+        const int first = selected < 0 ? count : selected + 1;
+        canvas.drawTools(tools, sheet.selectColor, 0, first);
+        if (first < count)
+            painter.drawImage(0, 0, layerOf(tools, sheet, first, count));
+        canvas.drawSpots(spots);
+    }
+    if (sheet.whiteMargins)
+        canvas.drawMargins();
     return image;
 }
 
 void ToolLayers::paint(QPainter& painter, const Tools& tools, const Spots& spots,
                        const Sheet& sheet)
 {
-    painter.setRenderHint(QPainter::Antialiasing);
     const Canvas canvas(painter, sheet.geometry);
     if (hasPicture(sheet.geometry)) {
         const int selected = selectedPlace(tools);
@@ -249,10 +279,7 @@ void ToolLayers::paint(QPainter& painter, const Tools& tools, const Spots& spots
             canvas.drawTools(tools, sheet.selectColor, selected, selected + 1);
             painter.drawImage(0, 0, m_over);
         }
-        canvas.drawSpot(spots.markerA, QColor(0, 255, 0), QStringLiteral("L"));
-        canvas.drawSpot(spots.markerB, QColor(255, 0, 0), QStringLiteral("H"));
-        if (hasReticle(spots))
-            canvas.drawReticle(spots.markerC);
+        canvas.drawSpots(spots);
     }
     if (sheet.whiteMargins)
         canvas.drawMargins();
@@ -263,16 +290,9 @@ void ToolLayers::update(const Tools& tools, const Sheet& sheet, int selected)
     const Tools shown = withoutSelected(tools);
     if (m_tools == shown && isSame(m_sheet, sheet) && m_selected == selected && !m_under.isNull())
         return;
-    const auto layer = [&](int begin, int end) {
-        QImage image = transparent(sheet);
-        QPainter painter(&image);
-        painter.setRenderHint(QPainter::Antialiasing);
-        Canvas(painter, sheet.geometry).drawTools(shown, {}, begin, end);
-        return image;
-    };
     const int count = countOf(tools);
-    m_under = layer(0, selected >= 0 ? selected : count);
-    m_over = selected >= 0 ? layer(selected + 1, count) : QImage();
+    m_under = layerOf(shown, sheet, 0, selected >= 0 ? selected : count);
+    m_over = selected >= 0 ? layerOf(shown, sheet, selected + 1, count) : QImage();
     m_tools = shown;
     m_sheet = sheet;
     m_selected = selected;

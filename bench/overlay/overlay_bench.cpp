@@ -1,4 +1,5 @@
-/// What a mouse move costs on the label and on the colour bar, repaint included.
+/// What a mouse move costs on the label and on the colour bar, repaint included, and what the tools
+/// of a report cost.
 
 #include "tests/overlay/overlay_host.h"
 
@@ -92,6 +93,31 @@ void selectAmongTools(benchmark::State& state)
         QApplication::sendEvent(&label, &press);
 }
 BENCHMARK(selectAmongTools)->Unit(benchmark::kMicrosecond);
+
+/// The tools of a report: painted, and, as a host can still do it, drawn by a frozen label.
+void paintForReport(benchmark::State& state)
+{
+    MyLabel label;
+    placeTools(label, static_cast<int>(state.range(0)));
+    const overlay::Sheet sheet{{721, 720, 960, 960}};
+    for ([[maybe_unused]] auto _ : state)
+        benchmark::DoNotOptimize(overlay::paintedTools(label, label, sheet));
+}
+BENCHMARK(paintForReport)->Arg(20)->Arg(100)->Unit(benchmark::kMillisecond);
+
+void drawFrozenLabel(benchmark::State& state)
+{
+    MyLabel label;
+    placeTools(label, static_cast<int>(state.range(0)));
+    label.frozenGeometry = true;
+    static_cast<overlay::Geometry&>(label) = {721, 720, 960, 960};
+    QPixmap nowhere(1, 1);
+    for ([[maybe_unused]] auto _ : state) {
+        label.pointList[0].x ^= 1; // or its layers would be those of before
+        label.render(&nowhere, QPoint(), QRegion(0, 0, 1, 1), QWidget::RenderFlags());
+    }
+}
+BENCHMARK(drawFrozenLabel)->Arg(20)->Arg(100)->Unit(benchmark::kMillisecond);
 
 /// One step of a drag: the host renders the whole picture anew, twice.
 void dragColourBar(benchmark::State& state)
