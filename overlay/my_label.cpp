@@ -142,7 +142,8 @@ void MyLabel::drawOverlay()
 {
     // As fine as the screen, but for a report as large as was asked for.
     const qreal ratio = frozenGeometry ? 1.0 : devicePixelRatioF();
-    const overlay::Sheet sheet{*this, ratio, selectColor, !frozenGeometry};
+    const overlay::Geometry& shown = *this;
+    const overlay::Sheet sheet{shown, ratio, selectColor, !frozenGeometry};
     if (sheet.pixels().isEmpty()) {
         overlay = QPixmap();
         return;

@@ -81,7 +81,8 @@ bool Analysis_Widget::set_Image_addr(const QString& imagePath, int modelIndex)
     if (!supported)
         return false;
 
-    static_cast<overlay::Spots&>(*ui->label) = photograph;
+    const overlay::Spots& spots = photograph;
+    static_cast<overlay::Spots&>(*ui->label) = spots;
     if (format::layoutOf(modelIndex).hasFirmware)
         qDebug().noquote() << QStringLiteral("版本号:") << parameters.firmware10 / 10.0;
     qDebug().noquote() << QStringLiteral("中心灰度:")

@@ -214,7 +214,8 @@ private slots:
 
         MyLabel fresh;
         prepare(fresh, {520, 640}, {480, 640});
-        static_cast<overlay::Tools&>(fresh) = label;
+        const overlay::Tools& tools = label;
+        static_cast<overlay::Tools&>(fresh) = tools;
         QCOMPARE(dragged, fresh.grab().toImage());
         mouse.release({140, 141});
 

@@ -11,8 +11,10 @@ namespace {
 
 void take(MyLabel& label, const PaintingScene& scene)
 {
-    static_cast<overlay::Tools&>(label) = scene;
-    static_cast<overlay::Spots&>(label) = scene;
+    const overlay::Tools& tools = scene;
+    const overlay::Spots& spots = scene;
+    static_cast<overlay::Tools&>(label) = tools;
+    static_cast<overlay::Spots&>(label) = spots;
 }
 
 } // namespace

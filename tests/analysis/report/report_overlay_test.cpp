@@ -37,8 +37,12 @@ private slots:
     {
         const testing::SampleTools tools;
         MyLabel label;
-        static_cast<overlay::Tools&>(label) = tools;
-        static_cast<overlay::Spots&>(label) = tools;
+        const overlay::Spots& spots = tools;
+        label.pointList = tools.pointList;
+        label.lineList = tools.lineList;
+        label.rectList = tools.rectList;
+        label.circleList = tools.circleList;
+        static_cast<overlay::Spots&>(label) = spots;
         label.frozenGeometry = true;
         label.labelWidth = 721;
         label.imageWidth = 720;
