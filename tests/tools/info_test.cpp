@@ -1,7 +1,7 @@
 #include "analysis/photograph/photograph_reader.h"
 #include "analysis/report/information.h"
-#include "tests/analysis/photograph_writer.h"
 #include "tests/support/test_run.h"
+#include "tests/tools/photographs.h"
 #include "tests/tools/thermaphoto.h"
 
 #include <QJsonObject>
@@ -9,6 +9,7 @@
 using testing::Ended;
 using testing::Folder;
 using testing::Shot;
+using testing::tenths;
 using testing::thermaphoto;
 
 namespace {
@@ -16,24 +17,7 @@ namespace {
 const QString info = QStringLiteral("info");
 const QString asJson = QStringLiteral("--json");
 
-/// 20.0 °C at gray 0, 0.1 °C more with each gray value: 40.0 °C at gray 200.
-Shot slope()
-{
-    Shot shot;
-    shot.gray = [](int x, int y) {
-        return (x + y) % 201;
-    };
-    shot.maximum10 = 400;
-    shot.minimum10 = 200;
-    shot.grayMaximum = 200;
-    shot.grayMinimum = 0;
-    shot.centre10 = 279;
-    shot.emissivity100 = 87;
-    shot.markers = {10, 20, 30, 40, 121, 161};
-    return shot;
-}
-
-double meanOfSlope()
+double meanOfTenths()
 {
     double sum = 0;
     for (int y = 0; y < 320; ++y) {
@@ -63,13 +47,13 @@ private slots:
 void InfoTest::everyKey()
 {
     const Folder folder;
-    const QString path = folder.write(QStringLiteral("a.bmp"), photographBytes(slope()));
+    const QString path = folder.write(QStringLiteral("a.bmp"), photographBytes(tenths()));
     const Ended ended = thermaphoto({info, asJson, path});
     QCOMPARE(ended.errors, QByteArray());
     QCOMPARE(ended.status, 0);
     QCOMPARE(ended.json().size(), 1);
     QJsonObject object = ended.json()[0].toObject();
-    QVERIFY(std::abs(object.take(QStringLiteral("mean")).toDouble() - meanOfSlope()) < 1e-5);
+    QVERIFY(std::abs(object.take(QStringLiteral("mean")).toDouble() - meanOfTenths()) < 1e-5);
     const QJsonObject expected{{"file", path},
                                {"bytes", 307966},
                                {"layout", 0},
@@ -144,7 +128,7 @@ void InfoTest::everyKind()
 void InfoTest::readableText()
 {
     const Folder folder;
-    const QString path = folder.write(QStringLiteral("a.bmp"), photographBytes(slope()));
+    const QString path = folder.write(QStringLiteral("a.bmp"), photographBytes(tenths()));
     const Ended ended = thermaphoto({info, path});
     QCOMPARE(ended.status, 0);
     const QStringList lines{path,
@@ -161,7 +145,7 @@ void InfoTest::readableText()
                             QStringLiteral("  marker B     30, 40"),
                             QStringLiteral("  marker C     120, 160"),
                             QStringLiteral("  mean         ") +
-                                QString::number(meanOfSlope(), 'f', 1) + QStringLiteral(" °C"),
+                                QString::number(meanOfTenths(), 'f', 1) + QStringLiteral(" °C"),
                             {}};
     QCOMPARE(QString::fromUtf8(ended.output), lines.join(QLatin1Char('\n')));
 }
@@ -169,7 +153,7 @@ void InfoTest::readableText()
 /// 24.975 °C everywhere in a raw image, in a photograph that speaks of °F.
 void InfoTest::meanOfRawImageIsInCelsius()
 {
-    Shot shot = slope();
+    Shot shot = tenths();
     shot.unit = 1;
     shot.raw = [](int, int) {
         return 4770;
@@ -187,7 +171,7 @@ void InfoTest::meanOfRawImageIsInCelsius()
 /// All pixels but one are 20 °C, that one 40 °C: the mean shows in the seventh digit.
 void InfoTest::meanIsFullyPrecise()
 {
-    Shot shot = slope();
+    Shot shot = tenths();
     shot.gray = [](int x, int y) {
         return x == 7 && y == 9 ? 200 : 0;
     };
@@ -199,7 +183,7 @@ void InfoTest::meanIsFullyPrecise()
 
 void InfoTest::meanThatIsNoNumber()
 {
-    Shot shot = slope();
+    Shot shot = tenths();
     shot.grayMinimum = shot.grayMaximum;
     const Folder folder;
     const QString path = folder.write(QStringLiteral("a.bmp"), photographBytes(shot));

@@ -1,5 +1,5 @@
-#include "tests/analysis/photograph_writer.h"
 #include "tests/support/test_run.h"
+#include "tests/tools/photographs.h"
 #include "tests/tools/thermaphoto.h"
 
 #include <QJsonObject>
@@ -8,21 +8,12 @@
 #include <sys/ioctl.h>
 #include <sys/stat.h>
 
+using testing::anyPhotograph;
 using testing::Ended;
 using testing::Folder;
-using testing::Shot;
 using testing::thermaphoto;
 
 namespace {
-
-QByteArray photograph()
-{
-    Shot shot;
-    shot.gray = [](int x, int y) {
-        return (x * y) % 256;
-    };
-    return photographBytes(shot);
-}
 
 /// Whether a process still waits for a signal, as the system tells.
 bool catches(qint64 process, int signal)
@@ -43,7 +34,7 @@ public:
     /// `shellWords` come before the program in the shell.
     explicit Stalled(const QString& shellWords)
     {
-        const QString good = write(QStringLiteral("good"), photograph());
+        const QString good = write(QStringLiteral("good"), anyPhotograph());
         QStringList names;
         for (int i = 0; i < pairs; ++i) {
             const QString number = QString::number(i);

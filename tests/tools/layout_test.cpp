@@ -1,5 +1,5 @@
-#include "tests/analysis/photograph_writer.h"
 #include "tests/support/test_run.h"
+#include "tests/tools/photographs.h"
 #include "tests/tools/thermaphoto.h"
 
 #include <QJsonObject>
@@ -7,29 +7,13 @@
 using testing::Ended;
 using testing::Folder;
 using testing::Shot;
+using testing::tenths;
 using testing::thermaphoto;
 
 namespace {
 
 const QString info = QStringLiteral("info");
 const QString asJson = QStringLiteral("--json");
-
-/// 20.0 °C at gray 0, 0.1 °C more with each gray value: 40.0 °C at gray 200.
-Shot slope()
-{
-    Shot shot;
-    shot.gray = [](int x, int y) {
-        return (x + y) % 201;
-    };
-    shot.maximum10 = 400;
-    shot.minimum10 = 200;
-    shot.grayMaximum = 200;
-    shot.grayMinimum = 0;
-    shot.centre10 = 279;
-    shot.emissivity100 = 87;
-    shot.markers = {10, 20, 30, 40, 121, 161};
-    return shot;
-}
 
 } // namespace
 
@@ -70,7 +54,7 @@ void LayoutTest::layouts()
     QFETCH(int, model);
     QFETCH(QStringList, option);
     QFETCH(int, layout);
-    Shot shot = slope();
+    Shot shot = tenths();
     shot.model = model;
     const Folder folder;
     const QString path = folder.write(QStringLiteral("a.bmp"), photographBytes(shot));
@@ -86,7 +70,7 @@ void LayoutTest::layouts()
 /// The gray image may happen to hold a known machine ID where the other layout has one.
 void LayoutTest::bothLayoutsWithAKnownImager()
 {
-    QByteArray bytes = photographBytes(slope());
+    QByteArray bytes = photographBytes(tenths());
     testing::put(bytes, 230969 + 10, 5, 4);
     const Folder folder;
     const Ended ended = thermaphoto({info, asJson, folder.write(QStringLiteral("a.bmp"), bytes)});
@@ -99,7 +83,7 @@ void LayoutTest::bothLayoutsWithAKnownImager()
 /// sees what stands there.
 void LayoutTest::anotherImagersPhotograph()
 {
-    Shot shot = slope();
+    Shot shot = tenths();
     shot.machineId = 0x105; // all four bytes count
     const Folder folder;
     const QString path = folder.write(QStringLiteral("a.bmp"), photographBytes(shot));
@@ -150,7 +134,7 @@ void LayoutTest::shortFiles()
     QFETCH(int, bytes);
     QFETCH(QString, layout);
     QFETCH(int, status);
-    Shot shot = slope();
+    Shot shot = tenths();
     shot.model = model;
     const Folder folder;
     const QString path = folder.write(QStringLiteral("a.bmp"), photographBytes(shot).left(bytes));
@@ -164,7 +148,7 @@ void LayoutTest::shortFiles()
 void LayoutTest::cutOffIsNoOtherImager()
 {
     const Folder folder;
-    const QByteArray whole = photographBytes(slope());
+    const QByteArray whole = photographBytes(tenths());
     for (const int bytes : {230995, 300000, 307791}) {
         const QString path = folder.write("a.bmp", whole.left(bytes));
         const Ended ended = thermaphoto({info, path});
@@ -172,7 +156,7 @@ void LayoutTest::cutOffIsNoOtherImager()
         QCOMPARE(ended.errors, "thermaphoto: " + path.toUtf8() + ": too short for a photograph: " +
                                    QByteArray::number(bytes) + "/307792 bytes\n");
     }
-    Shot foreign = slope();
+    Shot foreign = tenths();
     foreign.model = 1;
     foreign.machineId = 7;
     const Ended ended = thermaphoto({info, folder.write("a.bmp", photographBytes(foreign))});
@@ -184,7 +168,7 @@ void LayoutTest::cutOffIsNoOtherImager()
 void LayoutTest::nothingStaysFromThePhotographBefore()
 {
     const Folder folder;
-    const QByteArray whole = photographBytes(slope());
+    const QByteArray whole = photographBytes(tenths());
     folder.write(QStringLiteral("1.bmp"), whole);
     folder.write(QStringLiteral("2.bmp"), whole.left(250000));
     folder.write(QStringLiteral("3.bmp"), whole);
@@ -198,7 +182,7 @@ void LayoutTest::nothingStaysFromThePhotographBefore()
 void LayoutTest::tooLongIsReadInPart()
 {
     const Folder folder;
-    QByteArray bytes = photographBytes(slope());
+    QByteArray bytes = photographBytes(tenths());
     bytes.resize(2'000'001);
     const QString path = folder.write(QStringLiteral("a.bmp"), bytes);
     const QJsonObject object = thermaphoto({info, asJson, path}).json()[0].toObject();

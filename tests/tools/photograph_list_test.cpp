@@ -1,26 +1,17 @@
-#include "tests/analysis/photograph_writer.h"
 #include "tests/support/test_run.h"
+#include "tests/tools/photographs.h"
 #include "tests/tools/thermaphoto.h"
 
 #include <QJsonObject>
 
 #include <sys/stat.h>
 
+using testing::anyPhotograph;
 using testing::Ended;
 using testing::Folder;
-using testing::Shot;
 using testing::thermaphoto;
 
 namespace {
-
-QByteArray photograph()
-{
-    Shot shot;
-    shot.gray = [](int x, int y) {
-        return (x * y) % 256;
-    };
-    return photographBytes(shot);
-}
 
 QStringList filesOf(const Ended& ended)
 {
@@ -56,7 +47,7 @@ void PhotographListTest::folders()
 {
     const Folder folder;
     for (const char* name : {"c.bmp", "B.BMP", "a.Bmp", ".hidden.bmp", "a.txt", "bmp", "sub/d.bmp"})
-        folder.write(QLatin1String(name), photograph());
+        folder.write(QLatin1String(name), anyPhotograph());
     QDir(folder.path()).mkdir(QStringLiteral("folder.bmp"));
     const Ended ended = thermaphoto({"info", "--json", "."}, folder.path());
     QCOMPARE(ended.errors, QByteArray());
@@ -67,7 +58,7 @@ void PhotographListTest::recursive()
 {
     const Folder folder;
     for (const char* name : {"z.bmp", "b/2.bmp", "b/1.bmp", "a/x/3.bmp", ".hidden/4.bmp"})
-        folder.write(QLatin1String(name), photograph());
+        folder.write(QLatin1String(name), anyPhotograph());
     const QStringList expected{"z.bmp", "a/x/3.bmp", "b/1.bmp", "b/2.bmp"};
     for (const char* option : {"--recursive", "-r"}) {
         const Ended ended =
@@ -82,7 +73,7 @@ void PhotographListTest::recursive()
 void PhotographListTest::linkedFoldersAreNotFollowed()
 {
     const Folder folder;
-    folder.write(QStringLiteral("a/1.bmp"), photograph());
+    folder.write(QStringLiteral("a/1.bmp"), anyPhotograph());
     QVERIFY(QFile::link(folder.path(), folder / QStringLiteral("a/up")));
     QVERIFY(QFile::link(folder / QStringLiteral("a/1.bmp"), folder / QStringLiteral("2.bmp")));
     const Ended ended = thermaphoto({"info", "--json", "-r", "."}, folder.path());
@@ -92,7 +83,7 @@ void PhotographListTest::linkedFoldersAreNotFollowed()
 void PhotographListTest::folderWithoutPhotographs()
 {
     const Folder folder;
-    folder.write(QStringLiteral("sub/1.bmp"), photograph());
+    folder.write(QStringLiteral("sub/1.bmp"), anyPhotograph());
     const Ended ended = thermaphoto({"info", "--json", "."}, folder.path());
     QCOMPARE(ended.status, 1);
     QCOMPARE(ended.output, QByteArray("[]\n"));
@@ -103,7 +94,7 @@ void PhotographListTest::folderWithoutPhotographs()
 void PhotographListTest::missing()
 {
     const Folder folder;
-    folder.write(QStringLiteral("1.bmp"), photograph());
+    folder.write(QStringLiteral("1.bmp"), anyPhotograph());
     const Ended ended =
         thermaphoto({"info", "--json", "nowhere", "1.bmp", "gone.bmp"}, folder.path());
     QCOMPARE(ended.status, 1);
@@ -117,7 +108,7 @@ void PhotographListTest::missing()
 void PhotographListTest::onlyFilesArePhotographs()
 {
     const Folder folder;
-    folder.write("in/1.bmp", photograph());
+    folder.write("in/1.bmp", anyPhotograph());
     QCOMPARE(mkfifo(qPrintable(folder / "in/pipe.bmp"), 0600), 0);
     QVERIFY(QFile::link(folder / "in/pipe.bmp", folder / "in/link.bmp"));
     QVERIFY(QFile::link("/dev/zero", folder / "in/zero.bmp"));
@@ -144,7 +135,7 @@ void PhotographListTest::controlCharacters()
 {
     const Folder folder;
     const QString name = QStringLiteral("a\x1b[31m\x7f\u009b.bmp");
-    folder.write("in/" + name, photograph());
+    folder.write("in/" + name, anyPhotograph());
     folder.write("tools.json", R"({"points": [[1, 2]]})");
     const QString shown = QStringLiteral("in/a?[31m??.bmp");
     const QStringList measure{"measure", "--tools", "tools.json", "--format"};
@@ -183,7 +174,7 @@ void PhotographListTest::oddNames()
 {
     QFETCH(QString, name);
     const Folder folder;
-    folder.write(QStringLiteral("in/") + name, photograph());
+    folder.write(QStringLiteral("in/") + name, anyPhotograph());
     const QString in = folder / QStringLiteral("in");
     const Ended named = thermaphoto({"info", "--json", "--", name}, in);
     QCOMPARE(named.status, 0);
@@ -209,7 +200,7 @@ void PhotographListTest::longestName()
 {
     const Folder folder;
     const QString base(251, QLatin1Char('x'));
-    folder.write(base + QStringLiteral(".bmp"), photograph());
+    folder.write(base + QStringLiteral(".bmp"), anyPhotograph());
     QCOMPARE(thermaphoto({"export", "--format", "csv", "."}, folder.path()).status, 0);
     const Ended tooLong = thermaphoto({"export", "--format", "tiff", "."}, folder.path());
     QCOMPARE(tooLong.status, 1);
@@ -221,7 +212,7 @@ void PhotographListTest::longestName()
 void PhotographListTest::nameThatIsNoText()
 {
     const Folder folder;
-    folder.write(QStringLiteral("1.bmp"), photograph());
+    folder.write(QStringLiteral("1.bmp"), anyPhotograph());
     QCOMPARE(
         testing::shell(QStringLiteral("cp 1.bmp \"$(printf '\\344\\366.bmp')\""), folder.path())
             .status,

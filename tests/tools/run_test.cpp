@@ -1,24 +1,11 @@
-#include "tests/analysis/photograph_writer.h"
 #include "tests/support/test_run.h"
+#include "tests/tools/photographs.h"
 #include "tests/tools/thermaphoto.h"
 
+using testing::anyPhotograph;
 using testing::Ended;
 using testing::Folder;
-using testing::Shot;
 using testing::thermaphoto;
-
-namespace {
-
-QByteArray photograph()
-{
-    Shot shot;
-    shot.gray = [](int x, int y) {
-        return (x * y) % 256;
-    };
-    return photographBytes(shot);
-}
-
-} // namespace
 
 /// The program as a program: threads, places, what it says and how it ends.
 class RunTest : public QObject
@@ -52,7 +39,7 @@ void RunTest::withoutThreads()
 {
     const Folder folder;
     for (int i = 0; i < 5; ++i)
-        folder.write(QStringLiteral("in/%1.bmp").arg(i), photograph());
+        folder.write(QStringLiteral("in/%1.bmp").arg(i), anyPhotograph());
     for (const char* command :
          {"info --json", "export --jobs 3 --format png -o out", "report -o out"}) {
         const Ended ended = testing::shell(QStringLiteral("ulimit -s 200000000000 && "
@@ -133,7 +120,7 @@ void RunTest::anyNumberOfJobs()
 void RunTest::outputToFullDisk()
 {
     const Folder folder;
-    folder.write(QStringLiteral("1.bmp"), photograph());
+    folder.write(QStringLiteral("1.bmp"), anyPhotograph());
     for (const char* command :
          {"info 1.bmp", "info --json 1.bmp", "--help", "--version",
           // More than is kept back before it is written.
@@ -152,7 +139,7 @@ void RunTest::outputToFullDisk()
 void RunTest::pipeClosedEarly()
 {
     const Folder folder;
-    folder.write(QStringLiteral("1.bmp"), photograph());
+    folder.write(QStringLiteral("1.bmp"), anyPhotograph());
     // Far more output than a pipe holds.
     const Ended ended =
         testing::shell(QStringLiteral("\"$thermaphoto\" info --json $(yes 1.bmp | head -n 1000) | "
@@ -168,7 +155,7 @@ void RunTest::errorPipeClosedEarly()
 {
     const Folder folder;
     for (int i = 0; i < 20; ++i)
-        folder.write(QStringLiteral("%1.bmp").arg(i), i % 2 == 0 ? photograph() : "broken");
+        folder.write(QStringLiteral("%1.bmp").arg(i), i % 2 == 0 ? anyPhotograph() : "broken");
     const Ended ended = testing::shell(
         QStringLiteral("\"$thermaphoto\" export --format npy -o out . 2>&1 | true"), folder.path());
     QCOMPARE(ended.status, 0);
@@ -182,7 +169,7 @@ void RunTest::progressBar()
 {
     const Folder folder;
     for (int i = 0; i < 3; ++i)
-        folder.write(QStringLiteral("%1.bmp").arg(i), photograph());
+        folder.write(QStringLiteral("%1.bmp").arg(i), anyPhotograph());
     const QString command = QStringLiteral("\"$thermaphoto\" export --format npy --force .");
     const Ended piped = testing::shell(command, folder.path());
     QCOMPARE(piped.output + piped.errors, QByteArray());

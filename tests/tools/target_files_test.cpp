@@ -1,31 +1,11 @@
-#include "tests/analysis/photograph_writer.h"
 #include "tests/support/test_run.h"
-#include "tests/tools/thermaphoto.h"
+#include "tests/tools/exported.h"
 
 using testing::Ended;
 using testing::Folder;
 using testing::Shot;
+using testing::slope;
 using testing::thermaphoto;
-
-namespace {
-
-/// 20.0 at gray 0, 44.0 at gray 240.
-Shot slope(int model = 0, int unit = 0)
-{
-    Shot shot;
-    shot.model = model;
-    shot.gray = [](int x, int y) {
-        return (3 * x + 7 * y) % 241;
-    };
-    shot.maximum10 = 440;
-    shot.minimum10 = 200;
-    shot.grayMaximum = 240;
-    shot.grayMinimum = 0;
-    shot.unit = unit;
-    return shot;
-}
-
-} // namespace
 
 /// Where files are written, and what becomes of those that are there.
 class TargetFilesTest : public QObject

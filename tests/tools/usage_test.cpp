@@ -1,26 +1,13 @@
-#include "tests/analysis/photograph_writer.h"
 #include "tests/support/test_run.h"
+#include "tests/tools/photographs.h"
 #include "tests/tools/thermaphoto.h"
 
 #include <QJsonObject>
 
+using testing::anyPhotograph;
 using testing::Ended;
 using testing::Folder;
-using testing::Shot;
 using testing::thermaphoto;
-
-namespace {
-
-QByteArray photograph()
-{
-    Shot shot;
-    shot.gray = [](int x, int y) {
-        return (x * y) % 256;
-    };
-    return photographBytes(shot);
-}
-
-} // namespace
 
 /// What the program takes for an answer, and the help it gives.
 class UsageTest : public QObject
@@ -93,7 +80,7 @@ void UsageTest::usage()
 {
     QFETCH(QStringList, arguments);
     const Folder folder;
-    folder.write(QStringLiteral("a.bmp"), photograph());
+    folder.write(QStringLiteral("a.bmp"), anyPhotograph());
     folder.write(QStringLiteral("tools.json"), "{}");
     const Ended ended = thermaphoto(arguments, folder.path());
     QCOMPARE(ended.status, 2);
@@ -106,7 +93,7 @@ void UsageTest::usage()
 void UsageTest::theFirstFaultIsTold()
 {
     const Folder folder;
-    folder.write(QStringLiteral("a.bmp"), photograph());
+    folder.write(QStringLiteral("a.bmp"), anyPhotograph());
     const Ended ended =
         thermaphoto({"info", "--layout", "2", "--jobs", "0", "a.bmp"}, folder.path());
     QCOMPARE(ended.errorLines().size(), 1);
@@ -158,7 +145,7 @@ void UsageTest::helpShowsAnOrderThatIsTaken()
     const QString usage = QString::fromUtf8(help.left(help.indexOf('\n')));
     QCOMPARE(usage, QStringLiteral("Usage: thermaphoto %1 [options] PATH…").arg(command));
     const Folder folder;
-    folder.write("a.bmp", photograph());
+    folder.write("a.bmp", anyPhotograph());
     folder.write("tools.json", "{}");
     const Ended ended =
         thermaphoto(QStringList(command) + options + QStringList("a.bmp"), folder.path());
@@ -188,7 +175,7 @@ void UsageTest::whatIsMissing()
 void UsageTest::wrongToolFile()
 {
     const Folder folder;
-    folder.write("a.bmp", photograph());
+    folder.write("a.bmp", anyPhotograph());
     folder.write("tools.json", R"({"circles": [[50, 50, 9], [120, 160, 500]]})");
     folder.write("large.json", QByteArray(10'000'001, ' '));
     for (const QStringList& command :
