@@ -9,7 +9,6 @@
 using live::AlarmActions;
 using live::AlarmState;
 using live::Change;
-using live::Look;
 
 namespace {
 
