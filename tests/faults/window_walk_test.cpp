@@ -7,7 +7,6 @@
 #include "app/seting.h"
 #include "config/configuration_record.h"
 #include "live/camer_window.h"
-#include "simulator/simulated_camera.h"
 #include "simulator/simulated_imager.h"
 #include "tests/faults/endurance.h"
 
@@ -28,8 +27,6 @@
 #include <QTableWidget>
 
 #include <random>
-
-using simulator::SimulatedCamera;
 
 namespace {
 
