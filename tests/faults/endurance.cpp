@@ -134,9 +134,11 @@ Holdings holdings()
     const QMutexLocker lock(&objects().mutex);
     for (QObject* object : qAsConst(objects().alive)) {
         const auto kind = QString::fromLatin1(object->metaObject()->className());
-        // Qt keeps those of views that are gone until it next looks after its gestures, and idle
-        // threads of its pool for half a minute; those are counted as threads.
-        if (kind == QLatin1String("QPanGesture") || kind == QLatin1String("QThreadPoolThread"))
+        // Qt keeps those of views that are gone until it next looks after its gestures, idle
+        // threads of its pool for half a minute (they are counted as threads), and what makes drags
+        // for ever.
+        if (kind == QLatin1String("QPanGesture") || kind == QLatin1String("QThreadPoolThread") ||
+            kind == QLatin1String("QDragManager"))
             continue;
         ++now.objects[kind];
         if (object->thread() == QThread::currentThread())

@@ -66,7 +66,9 @@ private slots:
         MainWindow window;
         window.show();
         m_window = &window;
-        QApplication::clipboard(); // made once, by whichever menu needs it
+        // Made once, by whichever menu or drag needs it first.
+        QApplication::clipboard();
+        QApplication::desktop();
 
         // What Qt and the fonts make once and keep.
         walk(usual);
