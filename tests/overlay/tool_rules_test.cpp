@@ -131,6 +131,14 @@ private slots:
         QVERIFY(!hits(circle(100, 100, -1), {100, 100}));
     }
 
+    void theFirstColumnIsAPlace()
+    {
+        QVERIFY(isPlaced(PointTool{{}, 0, 0}) && !isPlaced(PointTool{}));
+        QVERIFY(isPlaced(line(0, 0, 9, 9)) && !isPlaced(LineTool{}));
+        QVERIFY(isPlaced(rect(0, 0, 9, 9)) && !isPlaced(RectTool{}));
+        QVERIFY(isPlaced(circle(0, 0, 9)) && !isPlaced(CircleTool{}));
+    }
+
     void numbersMakeTools()
     {
         PointTool point;
