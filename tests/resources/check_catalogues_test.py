@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """What resources/check-catalogues lets pass and what it finds, on a small tree of its own."""
 
 import pathlib
@@ -23,7 +24,8 @@ class CheckCatalogues(unittest.TestCase):
         scratch = tempfile.TemporaryDirectory()
         self.addCleanup(scratch.cleanup)
         self.tree = pathlib.Path(scratch.name)
-        for room in ("config", "platform", "overlay", "live", "analysis", "app", "resources"):
+        for room in ("config", "platform", "files", "dialogs", "overlay", "live", "analysis", "app",
+                     "resources"):
             (self.tree / room).mkdir()
         self.catalogues = self.tree / "resources" / "catalogues"
         self.catalogues.mkdir()

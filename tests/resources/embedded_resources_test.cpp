@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "config/language.h"
 #include "tests/support/test_run.h"
 
@@ -59,7 +60,7 @@ quint32 littleEndian(const QByteArray& bytes, int offset, int size)
 {
     quint32 value = 0;
     for (int i = size - 1; i >= 0; --i)
-        value = value << 8 | static_cast<uchar>(bytes[offset + i]);
+        value = value << 8 | uchar(bytes[offset + i]);
     return value;
 }
 
@@ -270,8 +271,7 @@ void EmbeddedResourcesTest::alarmIsAShortPlainRecording()
     int firstLoud = -1;
     int lastLoud = 0;
     for (int i = 0; i < samples; ++i) {
-        const int level =
-            std::abs(static_cast<int>(static_cast<qint16>(littleEndian(wave, 44 + 2 * i, 2))));
+        const int level = std::abs(int(static_cast<qint16>(littleEndian(wave, 44 + 2 * i, 2))));
         peak = std::max(peak, level);
         if (level > 1000) {
             firstLoud = firstLoud < 0 ? i : firstLoud;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a language of the table still lacks: run this after adding a row.
 #include "config/language.h"
 #include "tests/support/test_run.h"
