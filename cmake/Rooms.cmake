@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # thermadesk_add_room(NAME SOURCES file... [USES target...])
 #
 # One folder, one static library named thermadesk_NAME. Sources are named from the checkout's top
@@ -6,7 +7,11 @@ function(thermadesk_add_room name)
     cmake_parse_arguments(ROOM "" "" "SOURCES;USES" ${ARGN})
     add_library(thermadesk_${name} STATIC ${ROOM_SOURCES})
     target_include_directories(thermadesk_${name} PUBLIC ${PROJECT_SOURCE_DIR})
-    target_link_libraries(thermadesk_${name} PUBLIC ${ROOM_USES} PRIVATE thermadesk_warnings)
+    target_link_libraries(thermadesk_${name} PUBLIC ${ROOM_USES} PRIVATE thermadesk_product_warnings)
+    # Qt's compiler of meta objects casts in vain.
+    set_source_files_properties(
+        ${CMAKE_CURRENT_BINARY_DIR}/thermadesk_${name}_autogen/mocs_compilation.cpp
+        PROPERTIES COMPILE_OPTIONS $<$<CXX_COMPILER_ID:GNU>:-Wno-useless-cast>)
 endfunction()
 
 set(patience 300) # seconds; only a test that hangs takes it
