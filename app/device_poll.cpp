@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/device_poll.h"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/main_window.h"
 
 #include "analysis/photograph/layouts.h"
@@ -75,11 +76,12 @@ void MainWindow::buildMenuBar()
         return menu->addAction(QIcon(QStringLiteral(":/photo/%1.png").arg(QLatin1String(icon))),
                                text, this, slot, shortcut);
     };
-    add(m_fileMenu, "connect", tr("连接"), &MainWindow::Action_connect, Qt::CTRL + Qt::Key_K);
-    add(m_fileMenu, "Disconnect", tr("断开"), &MainWindow::Action_Disconnect, Qt::CTRL + Qt::Key_D)
+    add(m_fileMenu, "connect", tr("连接"), &MainWindow::Action_connect, QStringLiteral("Ctrl+K"));
+    add(m_fileMenu, "Disconnect", tr("断开"), &MainWindow::Action_Disconnect,
+        QStringLiteral("Ctrl+D"))
         ->setEnabled(false);
-    add(m_fileMenu, "setting", tr("选项"), &MainWindow::Action_chose, Qt::CTRL + Qt::Key_Comma);
-    add(m_fileMenu, "colse", tr("关闭"), &MainWindow::Action_Close, Qt::CTRL + Qt::Key_Q);
+    add(m_fileMenu, "setting", tr("选项"), &MainWindow::Action_chose, QStringLiteral("Ctrl+,"));
+    add(m_fileMenu, "colse", tr("关闭"), &MainWindow::Action_Close, QStringLiteral("Ctrl+Q"));
     add(ui->menuBar->addMenu(tr("帮助")), "doc", tr("用户手册"), &MainWindow::Action_Doc,
         Qt::Key_F1);
     // The texts have no letters underlined, in no language: F10 opens the first menu.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/seting.h"
 
 #include "config/configuration_record.h"

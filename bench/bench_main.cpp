@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Every benchmark program: offscreen, with a home folder of its own, and silent, as logging would
 // be measured too.
 #include "tests/support/test_run.h"

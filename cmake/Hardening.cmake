@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Release builds read files from strangers: what compiler and linker can guard stays guarded.
 include(CheckCXXCompilerFlag)
 include(CheckPIESupported)

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Only core and imgproc are used. OpenCV's own package file stands in Debian's libopencv-dev, which
 # brings every module and its dependencies along; the two small -dev packages come without it.
 find_package(OpenCV QUIET COMPONENTS core imgproc)

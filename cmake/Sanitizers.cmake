@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 if(THERMADESK_SANITIZE)
     # Numbers that fit no int are left out of "undefined", although they are.
     add_compile_options(-fsanitize=address,undefined,float-cast-overflow

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 # Translation catalogues: our own, made from .ts files, and the ones that Qt brings along.
 #
 # Both programs and files are looked for by hand: Qt's CMake module for translations is missing

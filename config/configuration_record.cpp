@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "config/configuration_record.h"
 
 #include <QDataStream>

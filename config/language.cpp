@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "config/language.h"
 
 #include <algorithm>

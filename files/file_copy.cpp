@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "files/file_copy.h"
 
 #include "files/paths.h"

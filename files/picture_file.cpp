@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "files/picture_file.h"
 
 #include "files/paths.h"

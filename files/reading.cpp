@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "files/reading.h"
 
 #include "files/paths.h"

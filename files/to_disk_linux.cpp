@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "files/to_disk.h"
 
 #include <QFileDevice>

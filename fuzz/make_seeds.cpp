@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Makes the seeds of the fuzz targets from what the simulated imager makes: make_seeds FOLDER
 /// writes FOLDER/TARGET/NAME, a few small files for each target.
 

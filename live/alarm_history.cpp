@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "live/alarm_history.h"
 
 #include "config/configuration_record.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "live/alarm_records.h"
 
 #include "files/paths.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "live/camer_window.h"
 
 #include "config/configuration_record.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Compiled once for every instruction set that a machine may have: foreach_target.h includes this
 // file again for each of them, under another HWY_NAMESPACE.
 #include "live/frame_kernels.h"
@@ -31,9 +32,9 @@ uchar clamped(int value)
     return uchar(value < 0 ? 0 : value > 255 ? 255 : value);
 }
 
-void convert(const uchar* yuyv, size_t pixels, uchar* rgb)
+void convert(const uchar* yuyv, std::size_t pixels, uchar* rgb)
 {
-    for (size_t pair = 0; pair < pixels / 2; ++pair, yuyv += 4) {
+    for (std::size_t pair = 0; pair < pixels / 2; ++pair, yuyv += 4) {
         const int u = yuyv[1] - greyChroma;
         const int v = yuyv[3] - greyChroma;
         for (const int luma : {yuyv[0], yuyv[2]}) {
@@ -106,10 +107,10 @@ hn::Vec<Bytes> colour(Pairs lumas, Pairs part)
     return hn::BitCast(bytes, hn::Or(first, hn::ShiftLeft<8>(second)));
 }
 
-void convert(const uchar* yuyv, size_t pixels, uchar* rgb)
+void convert(const uchar* yuyv, std::size_t pixels, uchar* rgb)
 {
-    const size_t atOnce = hn::Lanes(bytes);
-    for (size_t pixel = 0; pixel < pixels; pixel += atOnce) {
+    const std::size_t atOnce = hn::Lanes(bytes);
+    for (std::size_t pixel = 0; pixel < pixels; pixel += atOnce) {
         hn::Vec<Bytes> luma;
         hn::Vec<Bytes> chroma;
         hn::LoadInterleaved2(bytes, yuyv + 2 * pixel, luma, chroma);
@@ -136,7 +137,7 @@ HWY_EXPORT(convert);
 
 void convertPixels(const uchar* yuyv, int pixels, uchar* rgb)
 {
-    HWY_DYNAMIC_DISPATCH(convert)(yuyv, size_t(pixels), rgb);
+    HWY_DYNAMIC_DISPATCH(convert)(yuyv, std::size_t(pixels), rgb);
 }
 
 } // namespace live

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "live/imager_camera.h"
 
 #include "platform/camera_identity.h"

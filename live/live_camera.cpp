@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "live/live_camera.h"
 
 #include "live/imager_camera.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "live/live_frame.h"
 
 #include "live/frame_kernels.h"

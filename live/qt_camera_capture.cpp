@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "live/qt_camera_capture.h"
 
 static_assert(int(QtCameraCapture::Format_YUYV) == int(QVideoFrame::Format_YUYV));

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "live/saved_picture.h"
 
 #include "files/whole_file.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "overlay/colour_bar_scale.h"
 
 #include <algorithm>
@@ -19,13 +20,13 @@ std::optional<int> valueAt(int y, int height)
     if (travel(height) <= 0)
         return std::nullopt;
     const double product = (y - scaleMargin) * lastStep;
-    return static_cast<int>(product / travel(height) + 0.5);
+    return int(product / travel(height) + 0.5);
 }
 
 int markerY(int value, int height)
 {
     const double product = value * travel(height);
-    return static_cast<int>(product / lastStep + scaleMargin + 0.5);
+    return int(product / lastStep + scaleMargin + 0.5);
 }
 
 int paletteStep(int value)
@@ -38,7 +39,7 @@ std::array<float, scaleLabels> scaleTemperatures(float top, float bottom)
     const float step = (top - bottom) / 10.0F;
     std::array<float, scaleLabels> temperatures{};
     for (int k = 0; k < scaleLabels - 1; ++k)
-        temperatures[static_cast<std::size_t>(k)] = top - static_cast<float>(k) * step;
+        temperatures[std::size_t(k)] = top - float(k) * step;
     temperatures.back() = bottom;
     return temperatures;
 }

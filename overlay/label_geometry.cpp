@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "overlay/label_geometry.h"
 
 #include <algorithm>
@@ -12,7 +13,7 @@ int truncated(double value)
 {
     constexpr double lowest = std::numeric_limits<int>::min();
     constexpr double highest = std::numeric_limits<int>::max();
-    return static_cast<int>(std::clamp(value, lowest, highest));
+    return int(std::clamp(value, lowest, highest));
 }
 
 /// value × count / extent in integers, toward zero. The extent is above 0.
@@ -23,7 +24,7 @@ std::int64_t scaled(std::int64_t value, int count, int extent)
 
 int clamped(std::int64_t value, int last)
 {
-    return static_cast<int>(std::clamp<std::int64_t>(value, 0, last));
+    return int(std::clamp<std::int64_t>(value, 0, last));
 }
 
 /// Along the direction that has margins. Between the margins nothing is clamped.
@@ -35,7 +36,7 @@ int acrossMargins(int position, int label, int image, int count)
         return 0;
     if (position > end)
         return count - 1;
-    return static_cast<int>(scaled(position - begin, count, image));
+    return int(scaled(position - begin, count, image));
 }
 
 /// Along the other direction, which is taken to have none.
@@ -59,8 +60,8 @@ Box toImage(const Geometry& geometry, const Box& widget, const Box& before)
         image.y = acrossMargins(widget.y, geometry.labelHeight, geometry.imageHeight, imageRows);
         image.x = alongside(widget.x, geometry.imageWidth, imageColumns);
     }
-    image.w = static_cast<int>(scaled(widget.w, imageColumns, geometry.imageWidth));
-    image.h = static_cast<int>(scaled(widget.h, imageRows, geometry.imageHeight));
+    image.w = int(scaled(widget.w, imageColumns, geometry.imageWidth));
+    image.h = int(scaled(widget.h, imageRows, geometry.imageHeight));
     return image;
 }
 

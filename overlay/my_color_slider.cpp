@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "overlay/my_color_slider.h"
 
 #include "ui_my_color_slider.h"
@@ -28,7 +29,7 @@ const QLatin1String widestTemperature("-8888.8");
 QPoint roundedPosition(const QMouseEvent& event)
 {
     const QPointF position = event.localPos();
-    return {static_cast<int>(std::round(position.x())), static_cast<int>(std::round(position.y()))};
+    return {int(std::round(position.x())), int(std::round(position.y()))};
 }
 
 bool hits(const QPoint& marker, const QPoint& press)
@@ -74,7 +75,7 @@ void My_ColorSlider::updateScale()
     const auto temperatures = overlay::scaleTemperatures(topTemperature, bottomTemperature);
     const auto labels = scaleLabels(*ui);
     for (std::size_t k = 0; k < labels.size(); ++k)
-        labels[k]->setText(QString::number(static_cast<double>(temperatures[k]), 'f', 1));
+        labels[k]->setText(QString::number(double(temperatures[k]), 'f', 1));
     setAccessibleName(
         tr("色标，最高 %1，最低 %2").arg(labels.front()->text(), labels.back()->text()));
 }
@@ -142,7 +143,7 @@ void My_ColorSlider::paintEvent(QPaintEvent* event)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     const auto fill = [&](const QPoint& marker, int value) {
-        const auto& colour = paletteTable[static_cast<std::size_t>(overlay::paletteStep(value))];
+        const auto& colour = paletteTable[std::size_t(overlay::paletteStep(value))];
         painter.setBrush(QColor(colour[0], colour[1], colour[2]));
         painter.drawPolygon(triangle(marker));
     };

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "overlay/my_label.h"
 
 #include <QMouseEvent>
@@ -10,7 +11,7 @@ namespace {
 QPoint roundedPosition(const QMouseEvent& event)
 {
     const QPointF position = event.localPos();
-    return {static_cast<int>(std::round(position.x())), static_cast<int>(std::round(position.y()))};
+    return {int(std::round(position.x())), int(std::round(position.y()))};
 }
 
 } // namespace

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "overlay/tool_editing.h"
 
 #include <QDebug>
@@ -7,7 +8,7 @@ namespace {
 
 bool isIn(const ToolEditing& tools, ToolMode mode)
 {
-    return tools.toolMode == static_cast<int>(mode);
+    return tools.toolMode == int(mode);
 }
 
 /// By index, and read anew each time: whoever hears of a selection may change the list.

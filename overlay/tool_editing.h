@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "overlay/tool_rules.h"
@@ -11,7 +12,7 @@ namespace overlay {
 /// positions. Who shows them repaints after each of these, and tells what has changed.
 struct ToolEditing : Tools
 {
-    int toolMode = static_cast<int>(ToolMode::Select); ///< one that is no ToolMode does nothing
+    int toolMode = int(ToolMode::Select); ///< one that is no ToolMode does nothing
     int newIndex = 0; ///< where setMode() put the tool it made, in the list of its kind
     bool drawing =
         false; ///< a new tool is being dragged out; ended by whoever hears of the release

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "overlay/tool_file.h"
 
 #include "overlay/tool_rules.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "overlay/tool_painting.h"
 
 #include "overlay/tool_rules.h"
@@ -37,7 +38,7 @@ QFont labelFont(int weight, double pixelSize)
     QFont font(QStringLiteral("Microsoft YaHei"));
     font.setWeight(weight);
     if (pixelSize >= 1.0)
-        font.setPixelSize(static_cast<int>(pixelSize));
+        font.setPixelSize(int(pixelSize));
     return font;
 }
 
@@ -170,7 +171,7 @@ void Canvas::drawSpot(const Marker& marker, const QColor& colour, const QString&
         m_painter.drawLine(cx + side, cy - arm, cx + side, cy - gap);
         m_painter.drawLine(cx + side, cy + arm, cx + side, cy + gap);
     }
-    const int textSize = static_cast<int>(2.6 * m);
+    const int textSize = int(2.6 * m);
     m_painter.setFont(labelFont(QFont::Bold, textSize));
     text(cx + (marker.x > middleColumn ? -textSize : m + 2), cy - 2, letter);
 }
@@ -242,8 +243,8 @@ QSize Sheet::pixels() const
 {
     if (geometry.labelWidth <= 0 || geometry.labelHeight <= 0)
         return {};
-    return {static_cast<int>(std::ceil(geometry.labelWidth * ratio)),
-            static_cast<int>(std::ceil(geometry.labelHeight * ratio))};
+    return {int(std::ceil(geometry.labelWidth * ratio)),
+            int(std::ceil(geometry.labelHeight * ratio))};
 }
 
 QImage paintedTools(const Tools& tools, const Spots& spots, const Sheet& sheet)

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "overlay/tools.h"
@@ -16,9 +17,9 @@ namespace overlay {
 /// The Euclidean distance in whole pixels, toward zero.
 inline int truncatedDistance(int x1, int y1, int x2, int y2)
 {
-    const double dx = static_cast<double>(x2) - x1;
-    const double dy = static_cast<double>(y2) - y1;
-    return static_cast<int>(std::sqrt(dx * dx + dy * dy));
+    const double dx = double(x2) - x1;
+    const double dy = double(y2) - y1;
+    return int(std::sqrt(dx * dx + dy * dy));
 }
 
 /// The truncated distance of (x, y) from the infinite line through the tool's ends, measured to the
@@ -26,16 +27,14 @@ inline int truncatedDistance(int x1, int y1, int x2, int y2)
 /// the ends coincide: such a line has no direction.
 inline std::optional<int> truncatedDistance(const LineTool& line, int x, int y)
 {
-    const double dx = static_cast<double>(line.x2) - line.x1;
-    const double dy = static_cast<double>(line.y2) - line.y1;
+    const double dx = double(line.x2) - line.x1;
+    const double dy = double(line.y2) - line.y1;
     const double square = dx * dx + dy * dy;
     if (square == 0.0)
         return std::nullopt;
-    const double along =
-        ((static_cast<double>(y) - line.y1) * dy + (static_cast<double>(x) - line.x1) * dx) /
-        square;
-    const int footX = line.x1 + static_cast<int>(dx * along);
-    const int footY = line.y1 + static_cast<int>(dy * along);
+    const double along = ((double(y) - line.y1) * dy + (double(x) - line.x1) * dx) / square;
+    const int footX = line.x1 + int(dx * along);
+    const int footY = line.y1 + int(dy * along);
     return truncatedDistance(footX, footY, x, y);
 }
 

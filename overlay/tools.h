@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <QColor>
@@ -58,7 +59,7 @@ inline constexpr std::array<KindRow, 4> toolKinds{{
 
 constexpr const KindRow& rowOf(ToolKind kind)
 {
-    return toolKinds[static_cast<std::size_t>(kind)];
+    return toolKinds[std::size_t(kind)];
 }
 
 struct PointTool

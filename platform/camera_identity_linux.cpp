@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/camera_identity.h"
 #include "platform/device_tree_linux.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/camera_identity.h"
 
 #include <QCameraInfo>

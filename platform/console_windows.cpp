@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/console.h"
 
 #include <atomic>
@@ -42,7 +43,7 @@ const char* invisiblePlatform()
 
 void endAsInterrupted()
 {
-    constexpr int endedByControlC = static_cast<int>(0xC000013AU);
+    constexpr int endedByControlC = int(0xC000013AU);
     std::_Exit(endedByControlC);
 }
 

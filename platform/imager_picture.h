@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 /// The size of all pictures that the imager makes, live or stored: upright, in pixels.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/removable_drives.h"
 
 #include <utility>

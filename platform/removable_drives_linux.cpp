@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "platform/mounted_volumes_linux.h"
 #include "platform/removable_drives.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 /// Everything the program carries inside itself: icons under ":/photo/", alarm recordings under

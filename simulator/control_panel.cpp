@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "simulator/control_panel.h"
 
 #include "analysis/photograph/layouts.h"
@@ -42,7 +43,7 @@ const std::vector<FileLayout> fileLayouts = makeFileLayouts();
 
 int indexOfLayout(const PhotographSettings& settings)
 {
-    for (size_t i = 0; i < fileLayouts.size(); ++i)
+    for (std::size_t i = 0; i < fileLayouts.size(); ++i)
         if (fileLayouts[i].modelIndex == settings.modelIndex && fileLayouts[i].raw == settings.raw)
             return int(i);
     return -1;
@@ -63,16 +64,26 @@ ControlPanel::ControlPanel(SimulatedImager& imager, QWidget* parent)
         m_ui->layoutCombo->addItem(layout.title);
     m_ui->unitCombo->addItems({QStringLiteral("°C"), QStringLiteral("°F")});
     showSettings();
+    followImager();
+    passOnChanges();
+}
 
+ControlPanel::~ControlPanel() = default;
+
+void ControlPanel::followImager()
+{
     connect(&m_imager, &SimulatedImager::changed, this, &ControlPanel::showSettings);
     connect(&m_imager, &SimulatedImager::frameSent, this, &ControlPanel::showReachedHotSpot);
 
     connect(&m_imager, &SimulatedImager::photographTaken, this, [this](const QString& path) {
         m_ui->storedLabel->setText(QStringLiteral("Stored %1").arg(QFileInfo(path).fileName()));
     });
+}
 
-    // A user's change reaches the imager, whose answer then fills the fields; that answer must not
-    // come back as another change.
+/// A user's change reaches the imager, whose answer then fills the fields; that answer must not
+/// come back as another change.
+void ControlPanel::passOnChanges()
+{
     const auto user = [this](auto action) {
         return [this, action](auto... value) {
             if (!m_isShowing)
@@ -115,8 +126,6 @@ ControlPanel::ControlPanel(SimulatedImager& imager, QWidget* parent)
     connect(m_ui->machineSpin, intChanged, this, user([this](int) { applyPhotographSettings(); }));
     connect(m_ui->photographButton, &QPushButton::clicked, this, &ControlPanel::takePhotograph);
 }
-
-ControlPanel::~ControlPanel() = default;
 
 void ControlPanel::showBeside(QWidget& window)
 {
@@ -174,7 +183,7 @@ void ControlPanel::showReachedHotSpot()
 void ControlPanel::applyPhotographSettings()
 {
     PhotographSettings settings = m_imager.photographSettings();
-    const FileLayout& layout = fileLayouts.at(size_t(m_ui->layoutCombo->currentIndex()));
+    const FileLayout& layout = fileLayouts.at(std::size_t(m_ui->layoutCombo->currentIndex()));
     settings.modelIndex = layout.modelIndex;
     settings.raw = layout.raw;
     settings.fahrenheit = m_ui->unitCombo->currentIndex() == 1;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "simulator/simulated_imager.h"
@@ -29,6 +30,8 @@ public:
     void showBeside(QWidget& window);
 
 private:
+    void followImager();
+    void passOnChanges();
     void showSettings();
     void showReachedHotSpot();
     void applyPhotographSettings();

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The whole product with a simulated imager plugged in, and the imager's panel beside it.
 
 #include "app/main_window.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "simulator/imager_model.h"
 
 #include "live/live_frame.h"
@@ -29,8 +30,8 @@ quint16 rgb565(double red, double green, double blue)
 PaletteTable interpolated(const std::vector<ColourStop>& stops)
 {
     PaletteTable table{};
-    size_t next = 1;
-    for (size_t i = 0; i < table.size(); ++i) {
+    std::size_t next = 1;
+    for (std::size_t i = 0; i < table.size(); ++i) {
         const double position = double(i) / 255;
         while (position > stops[next].position)
             ++next;
@@ -143,7 +144,7 @@ GrayPicture grayPicture(const Field& field, quint8 grayMinimum, quint8 grayMaxim
     const float darker = std::min(grayMinimum, grayMaximum);
     const float lighter = std::max(grayMinimum, grayMaximum);
     for (int i = 0; i < fieldSize; ++i) {
-        const float value = float(grayMinimum) + (field[size_t(i)] - lowest) * perDegree;
+        const float value = float(grayMinimum) + (field[std::size_t(i)] - lowest) * perDegree;
         picture.gray[i] = char(std::lround(std::clamp(value, darker, lighter)));
     }
     return picture;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "simulator/photograph.h"
 
 #include "analysis/photograph/layouts.h"
@@ -99,7 +100,7 @@ QByteArray photograph(const Field& celsius, const PhotographSettings& settings)
         std::reverse(gray.begin(), gray.end());
     file.replace(layout.gray, format::grayBytes, gray);
     for (int i = 0; i < format::paletteEntries; ++i)
-        put(file, layout.palette + 2 * i, palette[size_t(i)]);
+        put(file, layout.palette + 2 * i, palette[std::size_t(i)]);
 
     namespace parameter = format::parameter;
     const int base = layout.parameters;

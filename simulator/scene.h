@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "live/live_frame.h"
@@ -17,9 +18,9 @@ constexpr int fieldRows = live::frameRows;
 constexpr int fieldSize = fieldColumns * fieldRows;
 
 /// Where column x of row y stands in a field.
-constexpr size_t fieldIndex(int x, int y)
+constexpr std::size_t fieldIndex(int x, int y)
 {
-    return size_t(y) * fieldColumns + size_t(x);
+    return std::size_t(y) * fieldColumns + std::size_t(x);
 }
 
 enum class SceneKind

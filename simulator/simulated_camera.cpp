@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "simulator/simulated_camera.h"
 
 #include "live/live_frame.h"
@@ -76,7 +77,7 @@ bool SimulatedCamera::deliver(const QByteArray& frameBytes)
     QVideoFrame frame(frameBytes.size(), QSize(live::frameColumns, live::frameRows),
                       live::frameColumns * 2, QVideoFrame::Format_YUYV);
     if (frame.map(QAbstractVideoBuffer::WriteOnly)) {
-        std::memcpy(frame.bits(), frameBytes.constData(), size_t(frameBytes.size()));
+        std::memcpy(frame.bits(), frameBytes.constData(), std::size_t(frameBytes.size()));
         frame.unmap();
     }
     bool taken = false;
@@ -91,7 +92,7 @@ int SimulatedCamera::indexOf(const QString& deviceName) const
                                     [&deviceName](const CameraIdentity& identity) {
                                         return identity.deviceName == deviceName;
                                     });
-    return found == m_plugged.end() ? -1 : int(found - m_plugged.begin());
+    return found == m_plugged.end() ? -1 : found - m_plugged.begin();
 }
 
 bool SimulatedCamera::isInUse(const QString& deviceName) const

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "simulator/simulated_camera_plugin.h"
 
 #include "simulator/simulated_camera.h"

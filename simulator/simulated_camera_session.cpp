@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "simulator/simulated_camera_session.h"
 
 #include "live/live_frame.h"

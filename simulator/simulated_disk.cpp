@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "simulator/simulated_disk.h"
 
 #include "analysis/photograph/layouts.h"
@@ -88,8 +89,8 @@ QString SimulatedDisk::store(const QByteArray& photograph, int modelIndex, const
     const QString folder = m_root + photographFolderName(modelIndex);
     if (!m_plugged || !QDir().mkpath(folder))
         return {};
-    const QString name = files::pathIn(
-        folder, QLocale::c().toString(takenAt, QStringLiteral("yyyyMMdd_hhmmss")));
+    const QString name =
+        files::pathIn(folder, QLocale::c().toString(takenAt, QStringLiteral("yyyyMMdd_hhmmss")));
     QString path = name + QStringLiteral(".bmp");
     for (int number = 2; QFile::exists(path); ++number)
         path = name + QStringLiteral("_%1.bmp").arg(number);

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "simulator/simulated_imager.h"
 
 #include "simulator/simulated_camera.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/export/photograph_export.h"
 #include "tools/command_line.h"
 #include "tools/commands.h"

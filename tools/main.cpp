@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/command_line.h"
 #include "tools/commands.h"
 #include "tools/messages.h"
@@ -80,7 +81,8 @@ int main(int argc, char** argv)
         return say("thermaphoto " THERMADESK_VERSION "\n");
     if (first == QLatin1String("help") && !topic.isEmpty())
         return run(topic, {arguments.first(), topic, QStringLiteral("--help")});
-    if (QStringList{"--help", "-h", "help"}.contains(first))
+    if (QStringList{QStringLiteral("--help"), QStringLiteral("-h"), QStringLiteral("help")}
+            .contains(first))
         return say(help);
     return run(first, arguments);
 }

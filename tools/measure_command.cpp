@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/photograph/photograph_reader.h"
 #include "analysis/photograph/tool_statistics.h"
 #include "platform/console.h"

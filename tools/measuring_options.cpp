@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/measuring_options.h"
 
 #include "files/reading.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/ordered_work.h"
 
 #include <QFuture>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/photograph_list.h"
 
 #include "files/paths.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/photograph_run.h"
 
 #include "platform/console.h"

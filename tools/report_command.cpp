@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/report/photograph_report.h"
 #include "config/configuration_record.h"
 #include "config/language.h"

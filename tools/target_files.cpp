@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/target_files.h"
 
 #include "analysis/export/photograph_export.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tools/texts.h"
 
 #include <QJsonDocument>

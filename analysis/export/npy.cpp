@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/export/npy.h"
 
 #include "analysis/export/little_endian.h"

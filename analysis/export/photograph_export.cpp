@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/export/photograph_export.h"
 
 #include "analysis/export/npy.h"

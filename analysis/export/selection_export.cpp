@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/export/selection_export.h"
 
 #include "analysis/report/photograph_report.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/photograph/false_colour.h"
 
 #include <opencv2/core/utility.hpp>

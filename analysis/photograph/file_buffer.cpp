@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/photograph/file_buffer.h"
 
 #include "files/paths.h"

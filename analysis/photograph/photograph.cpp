@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/photograph/photograph.h"
 
 #include <QtEndian>

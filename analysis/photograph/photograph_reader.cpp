@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/photograph/photograph_reader.h"
 
 #include "files/paths.h"

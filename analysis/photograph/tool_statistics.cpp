@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/photograph/tool_statistics.h"
 
 #include "overlay/tool_rules.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/report/pdf_glyph_names.h"
 
 #include <QHash>
@@ -40,7 +41,7 @@ void nameGlyphsAsWritten(QByteArray& pdf, const QString& written, const QFont& f
             const QRegularExpressionMatch entry = range.next();
             for (auto names = name.globalMatch(entry.captured().mid(twoGlyphs)); names.hasNext();) {
                 const QRegularExpressionMatch old = names.next();
-                const QChar first(ushort(old.captured(1).toUShort(nullptr, 16)));
+                const QChar first(old.captured(1).toUShort(nullptr, 16));
                 if (written.contains(first))
                     continue;
                 const QChar character = byGlyph.value(glyphOf(rawFont, first), first);

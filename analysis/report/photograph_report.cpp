@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/report/photograph_report.h"
 
 #include "analysis/photograph/false_colour.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/report/report.h"
 
 #include "analysis/report/pdf_glyph_names.h"

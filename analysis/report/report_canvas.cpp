@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/report/report_canvas.h"
 
 #include "analysis/report/report_font.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/report/report_font.h"
 
 #include "config/language.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/report/report_overlay.h"
 
 #include "overlay/tool_painting.h"

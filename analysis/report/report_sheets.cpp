@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/report/report_sheets.h"
 
 #include "analysis/report/report_canvas.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/windows/analysis_tables.h"
 
 #include <QHeaderView>

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/windows/analysis_widget.h"
 
 #include "analysis/photograph/false_colour.h"

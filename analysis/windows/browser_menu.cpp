@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/windows/browser_menu.h"
 
 #include "analysis/windows/selection_job.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/windows/imager_folder.h"
 
 #include "analysis/photograph/layouts.h"

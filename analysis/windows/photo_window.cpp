@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/windows/photo_window.h"
 
 #include "analysis/windows/analysis_widget.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/windows/photograph_views.h"
 
 #include "analysis/windows/imager_folder.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/windows/picture_frame.h"
 
 #include "analysis/photograph/layouts.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/windows/selection_job.h"
 
 #include "dialogs/dialogs.h"

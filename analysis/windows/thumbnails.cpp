@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/windows/thumbnails.h"
 
 #include "files/picture_file.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Opening a photograph, measuring tools, listing a disk, and how far from what the work costs
 // alone.
 #include "analysis/photograph/tool_statistics.h"

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Decodes photographs (model index 0, no raw image) as an engineer would script it.
 
 decode_with_numpy.py FILE ROUNDS prints the seconds one photograph takes, read from disk each time:

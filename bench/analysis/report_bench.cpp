@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a report costs beside what nothing can save: packing its one picture into a PDF file.
 #include "analysis/report/report_canvas.h"
 #include "tests/analysis/sample_report.h"

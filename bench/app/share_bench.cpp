@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The share of a core that the real main window takes, second after second. One iteration is one
 // second of it; its processor time is the share.
 #include "analysis/windows/photo_window.h"
@@ -8,6 +9,7 @@
 #include "simulator/scene.h"
 #include "simulator/simulated_camera.h"
 #include "simulator/simulated_disk.h"
+#include "tests/support/paint_counter.h"
 
 #include <QApplication>
 #include <QEventLoop>
@@ -44,19 +46,6 @@ void oneSecond()
     loop.exec();
 }
 
-/// Counts all paints in the program.
-class Paints : public QObject
-{
-public:
-    Paints() { qApp->installEventFilter(this); }
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        count += event->type() == QEvent::Paint;
-        return false;
-    }
-    int count = 0;
-};
-
 void waiting(benchmark::State& state)
 {
     MainWindow window;
@@ -81,7 +70,7 @@ void analysisIdle(benchmark::State& state)
     QListWidgetItem photograph(browser.fileNames.value(0));
     browser.list_item_doubleclicked(&photograph);
     oneSecond();
-    const Paints paints;
+    const testing::PaintCounter paints(window, testing::PaintCounter::Of::WidgetAndParts);
     for ([[maybe_unused]] auto _ : state)
         oneSecond();
     state.counters["paints"] = paints.count;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // From the start of the process to its first painted window, of the program itself and of one that
 // has nothing but a window. The time is processor time; "elapsed" is what the user waits.
 #include "bench/child_process.h"

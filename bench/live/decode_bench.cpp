@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // One frame's picture: our conversion against an approximate one of a well-known library, and
 // against the formula as written with one setPixel per pixel.
 #include "live/live_frame.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "bench/live/live_scene.h"
 
 #include "live/frame_kernels.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a frame costs on the live page, and what a record costs within a frame's time.
 #include "bench/live/live_scene.h"
 #include "live/alarm_records.h"

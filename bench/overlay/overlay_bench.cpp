@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// What a mouse move costs on the label and on the colour bar, repaint included, and what the tools
 /// of a report cost.
 
@@ -54,7 +55,7 @@ void moveOverLabel(benchmark::State& state)
 {
     MyLabel label;
     showPicture(label);
-    placeTools(label, static_cast<int>(state.range(0)));
+    placeTools(label, int(state.range(0)));
     label.currentType = QStringLiteral("P");
     label.selectedIndex = 0;
     int step = 0;
@@ -98,7 +99,7 @@ BENCHMARK(selectAmongTools)->Unit(benchmark::kMicrosecond);
 void paintForReport(benchmark::State& state)
 {
     MyLabel label;
-    placeTools(label, static_cast<int>(state.range(0)));
+    placeTools(label, int(state.range(0)));
     const overlay::Sheet sheet{{721, 720, 960, 960}};
     for ([[maybe_unused]] auto _ : state)
         benchmark::DoNotOptimize(overlay::paintedTools(label, label, sheet));
@@ -108,7 +109,7 @@ BENCHMARK(paintForReport)->Arg(20)->Arg(100)->Unit(benchmark::kMillisecond);
 void drawFrozenLabel(benchmark::State& state)
 {
     MyLabel label;
-    placeTools(label, static_cast<int>(state.range(0)));
+    placeTools(label, int(state.range(0)));
     label.frozenGeometry = true;
     static_cast<overlay::Geometry&>(label) = {721, 720, 960, 960};
     QPixmap nowhere(1, 1);

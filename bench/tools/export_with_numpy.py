@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """What thermaphoto does with a folder of photographs, as an engineer would script it.
 
 export_with_numpy.py JOB FOLDER OUTPUT_FOLDER prints the seconds of processor time that all the

@@ -1,8 +1,10 @@
+// SPDX-License-Identifier: MIT
 // thermaphoto on a folder of photographs, its start included, and the same job done by a script.
 // One iteration is one photograph; the time is processor time.
 #include "bench/child_process.h"
 #include "simulator/photograph.h"
 #include "simulator/scene.h"
+#include "tests/support/folder.h"
 
 #include <QDir>
 #include <QFile>
@@ -25,13 +27,6 @@ constexpr int many = 4000;
 const char* const tools = R"({"points": [[120, 160], [10, 20]], "lines": [[10, 300, 200, 20]],
     "rectangles": [[30, 60, 100, 100]], "circles": [[150, 200, 40]]})";
 
-void write(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        qFatal("%s cannot be written", qPrintable(path));
-}
-
 void link(const QString& from, const QString& to)
 {
     if (::link(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) != 0)
@@ -44,7 +39,7 @@ class Folders
 public:
     Folders()
     {
-        write(toolFile(), tools);
+        testing::putFile(toolFile(), tools);
         for (const int count : {20, 200, many})
             QDir().mkdir(photographFolder(count));
         for (int i = 0; i < 20; ++i) {
@@ -54,9 +49,9 @@ public:
             const auto name = [](int number) {
                 return QStringLiteral("/IR_%1.bmp").arg(number);
             };
-            write(photographFolder(20) + name(i), bytes);
+            testing::putFile(photographFolder(20) + name(i), bytes);
             for (int copy = i; copy < 200; copy += 20)
-                write(photographFolder(200) + name(copy), bytes);
+                testing::putFile(photographFolder(200) + name(copy), bytes);
             for (int copy = i; copy < many; copy += 20)
                 link(photographFolder(20) + name(i), photographFolder(many) + name(copy));
         }

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Photographs on the way a user sends them: listed by the browser with their thumbnails, opened by
 /// a double click, and examined in the analysis window.
 ///

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Photographs without a window: the reader as the analysis window uses it, the stricter one of
 /// thermaphoto, and what is computed from a photograph.
 ///

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "fuzz/analysis/photograph_input.h"
 
 #include "analysis/photograph/file_buffer.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The configuration record. The input is the file.
 
 #include "config/configuration_record.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Alarm records: folders, files, links and pictures of any name and content in the history folder,
 /// read on their own and shown by the live page.
 ///

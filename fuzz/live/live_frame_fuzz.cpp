@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Live frames: the video surface on frames of any size and content, and the conversion loop with
 /// every instruction set on short pictures.
 ///

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// What the system says is mounted: volumes carry the names that strangers gave them. The input is
 /// the text of mountinfo; "8:16" is a USB disk, "8:17" its partition, "8:1" is built in.
 

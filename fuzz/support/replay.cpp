@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// Runs a fuzz target over known inputs, given as files and folders of files. Fails when one of the
 /// arguments holds none: a test that tried nothing would be no test.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "fuzz/support/surroundings.h"
 
 #include "fuzz/support/target.h"

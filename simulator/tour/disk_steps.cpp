@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/windows/analysis_widget.h"
 #include "analysis/windows/photo_window.h"
 #include "app/device_poll.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/device_poll.h"
 #include "app/seting.h"
 #include "config/configuration_record.h"
@@ -163,7 +164,10 @@ bool stopTheAlarm(Walk& walk)
         return false;
     walk.imager().coolBelowThreshold();
     return walk.await(QStringLiteral("the read-out is green again"),
-                      [&] { return form.readOut.styleSheet().contains("rgb(80, 180, 50)"); }) &&
+                      [&] {
+                          return form.readOut.styleSheet().contains(
+                              QStringLiteral("rgb(80, 180, 50)"));
+                      }) &&
            walk.click(&form.enableAlarm) && walk.shoot(QStringLiteral("alarm-over"));
 }
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Walks through every window in one language and keeps pictures of them:
 //     thermadesk-tour --language EN --output FOLDER
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/analysis/pdf_reader.h"
 
 #include <QDir>

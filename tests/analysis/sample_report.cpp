@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/analysis/sample_report.h"
 
 #include "analysis/photograph/false_colour.h"

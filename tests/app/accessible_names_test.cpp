@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What a screen reader has to say about each window: whatever takes the keyboard, and whatever
 // shows something without saying it in words, has a name.
 #include "analysis/windows/photo_window.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // From the button of the settings to a whole record in the folder that was chosen there.
 #include "app/main_window.h"
 #include "app/seting.h"
@@ -71,10 +72,8 @@ private:
             if (auto* const settings = qobject_cast<seting*>(widget))
                 dialog = settings;
         QVERIFY(dialog);
-        const testing::Answer<QFileDialog> answer([&folder](QFileDialog& chooser) {
-            chooser.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(folder);
-            QVERIFY(QMetaObject::invokeMethod(&chooser, "accept"));
-        });
+        const testing::Answer<QFileDialog> answer(
+            [&folder](QFileDialog& chooser) { testing::choose(chooser, folder); });
         QTest::mouseClick(dialog->findChild<QPushButton*>(QStringLiteral("pushButton")),
                           Qt::LeftButton);
         QVERIFY(answer.wasAsked());

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/windows/photo_window.h"
 #include "app/main_window.h"
 #include "app/seting.h"

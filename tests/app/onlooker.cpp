@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A plugin that Qt loads into any program: waits for the first window, writes to standard output
 // what there is to see, and asks the program to end. So the program needs to know of no test.
 #include <QAction>

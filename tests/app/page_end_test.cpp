@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Pages that end while a dialog of theirs is up, and a context menu of that dialog on top of it:
 // nothing may go while an event loop still runs in it. What goes too early crashes this program.
 #include "analysis/windows/photo_window.h"
@@ -10,6 +11,8 @@
 #include "simulator/scene.h"
 #include "simulator/simulated_camera.h"
 #include "tests/support/dialogs.h"
+#include "tests/support/folder.h"
+#include "tests/support/parts.h"
 #include "tests/support/test_run.h"
 
 #include <QColorDialog>
@@ -26,16 +29,11 @@
 #include <QTimer>
 
 using simulator::SimulatedCamera;
+using testing::part;
 
 namespace {
 
 QStringList drives;
-
-template<typename T>
-T* part(const QWidget* window, const char* name)
-{
-    return window->findChild<T*>(QLatin1String(name));
-}
 
 /// A right click, as the window system reports one.
 void rightClick(QWidget* widget)
@@ -85,11 +83,9 @@ private slots:
         platform::setDriveProvider([] { return drives; });
         camera().unplug();
         m_disk = testing::profile().home() + QStringLiteral("/disk/");
-        QVERIFY(QDir().mkpath(m_disk + QStringLiteral("DCIM_100")));
-        QFile photograph(m_disk + QStringLiteral("DCIM_100/a.bmp"));
-        QVERIFY(photograph.open(QIODevice::WriteOnly));
         const simulator::Scene scene(simulator::SceneKind::Motor);
-        photograph.write(simulator::photograph(scene.field(0, 60), {}));
+        testing::putFile(m_disk + QStringLiteral("DCIM_100/a.bmp"),
+                         simulator::photograph(scene.field(0, 60), {}));
         m_window = std::make_unique<MainWindow>();
         m_window->show();
     }

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "config/configuration_record.h"
 #include "tests/support/test_run.h"
 
@@ -107,7 +108,7 @@ private slots:
         QVERIFY(!window["maximized"].toBool(true));
         QStringList menus;
         for (const QJsonValue menu : window["menuBar"].toObject()["menus"].toArray())
-            menus.append(QStringList(menu.toVariant().toStringList()).join(' '));
+            menus.append(menu.toVariant().toStringList().join(' '));
         QTEST(menus.join('|'), "menus");
         QTEST(window["status"].toString(), "status");
         QTEST(program.seen["qtText"].toString(), "cancel");

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "app/seting.h"
 #include "config/configuration_record.h"
 #include "config/language.h"
@@ -326,8 +327,7 @@ private slots:
             caption = box.windowTitle();
             QVERIFY(box.testOption(QFileDialog::ShowDirsOnly));
             box.selectFile(chosen);
-            box.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(chosen);
-            QMetaObject::invokeMethod(&box, "accept");
+            testing::choose(box, chosen);
         });
         press(dialog, "pushButton");
         QVERIFY(answer.wasAsked());
@@ -349,8 +349,7 @@ private slots:
         const QSignalSpy sent(&dialog, &seting::send_addr);
         testing::Answer<QFileDialog> answer([&](QFileDialog& box) {
             box.selectFile(chosen);
-            box.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(chosen);
-            QMetaObject::invokeMethod(&box, "accept");
+            testing::choose(box, chosen);
         });
         press(dialog, "pushButton");
         QVERIFY(answer.wasAsked());

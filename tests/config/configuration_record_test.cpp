@@ -1,4 +1,6 @@
+// SPDX-License-Identifier: MIT
 #include "config/configuration_record.h"
+#include "tests/support/folder.h"
 #include "tests/support/test_run.h"
 
 #include <QDir>
@@ -61,10 +63,7 @@ private:
 
 void putFile(const QByteArray& bytes)
 {
-    QDir().mkpath(config::folderPath());
-    QFile file(config::filePath());
-    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    file.write(bytes);
+    testing::putFile(config::filePath(), bytes);
 }
 
 QByteArray fileBytes()

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The camera pulled out and plugged in again at random moments, in the middle of frames and dialogs
 // too, while the alarm blinks, sounds and writes records, and while the history is looked at.
 #include "app/main_window.h"
@@ -88,7 +89,7 @@ private slots:
             if (i % (times / 10 + 1) == 0)
                 qInfo("%d: %s", i, qPrintable(testing::holdings().text()));
         }
-        m_records += int(live::recordNames(m_folder).size());
+        m_records += live::recordNames(m_folder).size();
         rest();
         const double gap = pulse.longestGap();
         QTRY_COMPARE(testing::leftOver(before, testing::holdings()), QString());
@@ -243,7 +244,7 @@ private:
             QVERIFY(QDir(m_folder + QLatin1Char('/') + name).removeRecursively());
             QVERIFY(QFile::remove(m_folder + QLatin1Char('/') + name + QStringLiteral(".ini")));
         }
-        m_records += int(names.size());
+        m_records += names.size();
         page()->refreshHistory();
     }
 

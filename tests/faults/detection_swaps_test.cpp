@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The imager as a camera and as a disk, swapped at random through every row of the detection, while
 // the user works with whatever page there is, has dialogs open and changes the settings. Each
 // outcome is checked, and in the end the program holds what it held at the beginning.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The imager's disk, really mounted, and everything that happens to disks: it is full, it is
 // read-only, it goes in the middle of listing and opening, it answers with errors, late or not at
 // all. The program goes on, tells what it has to tell, and leaves nothing half done.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/faults/endurance.h"
 
 #include <QAbstractEventDispatcher>
@@ -72,9 +73,9 @@ QByteArray contentOf(const char* path)
 
 int entriesOf(const char* folder)
 {
-    return int(QDir(QString::fromLatin1(folder))
-                   .entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot)
-                   .size());
+    return QDir(QString::fromLatin1(folder))
+        .entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot)
+        .size();
 }
 
 qint64 residentBytes()
@@ -129,8 +130,8 @@ Holdings holdings()
     now.residentBytes = residentBytes();
     now.openFiles = entriesOf("/proc/self/fd") - 1; // less the one that reads the folder
     now.threads = entriesOf("/proc/self/task");
-    now.windows = int(QApplication::topLevelWidgets().size());
-    now.widgets = int(QApplication::allWidgets().size());
+    now.windows = QApplication::topLevelWidgets().size();
+    now.widgets = QApplication::allWidgets().size();
     const QMutexLocker lock(&objects().mutex);
     for (QObject* object : qAsConst(objects().alive)) {
         const auto kind = QString::fromLatin1(object->metaObject()->className());
@@ -142,8 +143,7 @@ Holdings holdings()
             continue;
         ++now.objects[kind];
         if (object->thread() == QThread::currentThread())
-            now.timers +=
-                int(QAbstractEventDispatcher::instance()->registeredTimers(object).size());
+            now.timers += QAbstractEventDispatcher::instance()->registeredTimers(object).size();
     }
     return now;
 }

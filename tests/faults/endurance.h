@@ -1,5 +1,7 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tests/support/parts.h"
 #include "tests/support/test_run.h"
 
 #include <QElapsedTimer>
@@ -29,16 +31,6 @@ int runScaled(int argc, char** argv, int usualTimes)
 {
     takeScale(argc, argv, usualTimes);
     return run<T>(argc, argv);
-}
-
-/// A window's widget by its object name, which must be there.
-template<typename T>
-T* part(const QWidget* window, const char* name)
-{
-    T* const found = window->findChild<T*>(QLatin1String(name));
-    if (!found)
-        qFatal("no widget %s", name);
-    return found;
 }
 
 /// What this process holds at a moment.

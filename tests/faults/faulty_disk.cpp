@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A disk that fails on demand, in user space: faulty_disk SOURCE CONTROL MOUNTPOINT
 //
 // Shows the folder SOURCE, read-only, at MOUNTPOINT. Before it answers, it looks into the file

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A day in front of the camera, accelerated: every frame goes the whole way through the simulated
 // camera, decoding, display and alarm of the program's own window, as fast as that takes them.
 // "live_soak_test --times 2160000" is a day at 25 frames a second.
@@ -9,6 +10,7 @@
 #include "simulator/imager_model.h"
 #include "simulator/simulated_camera.h"
 #include "tests/faults/endurance.h"
+#include "tests/support/paint_counter.h"
 
 #include <QCheckBox>
 #include <QDirIterator>
@@ -51,18 +53,6 @@ void setMaximum(QByteArray& frame, int tenths)
     frame[live::maximumOffset + 1] = char(tenths >> 8);
 }
 
-class Paints : public QObject
-{
-public:
-    explicit Paints(QWidget* widget) { widget->installEventFilter(this); }
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        count += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
-    int count = 0;
-};
-
 qint64 bytesBelow(const QString& folder)
 {
     qint64 bytes = 0;
@@ -99,7 +89,7 @@ private slots:
         QTRY_VERIFY(SimulatedCamera::instance().isRunning());
         window.resize(window.minimumSizeHint()); // a frame's time goes into scaling, most of all
         auto* const picture = m_page->findChild<QLabel*>(QStringLiteral("label_17"));
-        const Paints paints(picture);
+        const testing::PaintCounter paints(*picture);
         check("checkBox", true);
         check("checkBox_2", true);
         check("checkBox_3", true);
@@ -150,7 +140,7 @@ private slots:
             QCOMPARE(live::recordReadings(folder, name).threshold, QStringLiteral("75.0"));
         }
         QCOMPARE(m_page->findChild<QListWidget*>(QStringLiteral("listWidget"))->count(),
-                 int(names.size()));
+                 names.size());
         QCOMPARE(testing::leftOver(firstMinute, end), QString());
         QVERIFY(pulse.longestGap() < testing::hang);
         QVERIFY2(growth <= 2, "memory grew by more than 2 %");

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A user without a plan: clicks, keys, right clicks and the window manager's close button, wherever
 // they are possible, on the pages, their dialogs, the menus of those dialogs, while devices come
 // and go at any moment. One thing after the other, also inside the event loops of dialogs and

@@ -1,4 +1,6 @@
+// SPDX-License-Identifier: MIT
 #include "files/picture_file.h"
+#include "tests/support/folder.h"
 #include "tests/support/test_run.h"
 
 #include <QBuffer>
@@ -19,12 +21,7 @@ class PictureFileTest : public QObject
     QTemporaryDir m_folder;
     QString path() const { return m_folder.filePath(QStringLiteral("picture.bmp")); }
 
-    void put(const QByteArray& bytes) const
-    {
-        QFile file(path());
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(bytes), qint64(bytes.size()));
-    }
+    void put(const QByteArray& bytes) const { testing::putFile(path(), bytes); }
 
     static QImage black(const QSize& size)
     {
@@ -242,8 +239,8 @@ private slots:
         set(2, quint32(bitmap.size()));
         set(10, quint32(54));
         set(14, quint32(40));
-        set(18, qint32(width));
-        set(22, qint32(height));
+        set(18, width);
+        set(22, height);
         set(26, quint16(1));
         set(28, quint16(24));
         put(bitmap);

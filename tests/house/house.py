@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """What holds for the sources as a whole, whatever they do.
 
     tests/house/house.py [CHECKOUT]    names everything that does not hold; exit status 1 then
@@ -31,6 +32,8 @@ ROOMS = [
 NOT_SHIPPED = ["simulator"]
 # They may include any room, and each other's helpers, but no room includes them.
 BESIDE = ["tests", "bench", "fuzz"]
+
+MOST_LINES = 350
 
 INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+)"', re.MULTILINE)
 
@@ -78,6 +81,24 @@ def other_orders(checkout):
     told = re.findall(r"^\| `(\w+)/` \|", (checkout / "README.md").read_text(), re.MULTILINE)
     if [name for name in told if name in tops] != tops:
         yield f"README.md: lists {' '.join(told)}; the order is {' '.join(tops)}"
+
+
+def without_licence(checkout):
+    """Sources, tests and their like that do not begin with their licence."""
+    for top in [room.split("/")[0] for room in ROOMS] + BESIDE:
+        for path in sorted((checkout / top).rglob("*")):
+            if path.suffix in (".cpp", ".h"):
+                first = path.read_text(encoding="utf-8").partition("\n")[0]
+                if first != "// SPDX-License-Identifier: MIT":
+                    yield f"{path.relative_to(checkout)}: begins without its licence"
+
+
+def long_sources(checkout):
+    """Sources that nobody reads in one go. Functions are clang-tidy's, 60 lines at most."""
+    for name in sources(checkout, ".cpp", ".h"):
+        lines = len((checkout / name).read_text(encoding="utf-8").splitlines()) - 1  # its licence
+        if lines > MOST_LINES:
+            yield f"{name}: {lines} lines, more than {MOST_LINES}"
 
 
 def tested_elsewhere(checkout):
@@ -132,6 +153,8 @@ def names_of_no_source(checkout):
 
 def complaints(checkout):
     yield from names_of_no_source(checkout)
+    yield from without_licence(checkout)
+    yield from long_sources(checkout)
     yield from wrong_includes(checkout)
     yield from other_orders(checkout)
     yield from sources_without_tests(checkout)

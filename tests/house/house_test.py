@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """What house.py lets pass and what it finds, on a small house of its own."""
 
 import pathlib
@@ -24,7 +25,8 @@ class House(unittest.TestCase):
     def write(self, name, text):
         path = self.checkout / name
         path.parent.mkdir(parents=True, exist_ok=True)
-        path.write_text(text, encoding="utf-8")
+        licence = "// SPDX-License-Identifier: MIT\n" if path.suffix in (".cpp", ".h") else ""
+        path.write_text(licence + text, encoding="utf-8")
 
     def complaints(self):
         return list(house.complaints(self.checkout))
@@ -76,6 +78,16 @@ class House(unittest.TestCase):
         self.assertEqual(len(found), 2, found)
         self.assertIn("gone.h", found[0])
         self.assertIn("live::lost()", found[1])
+
+    def test_a_source_without_its_licence(self):
+        (self.checkout / "tests/live/frame_test.cpp").write_text("#include <QString>\n")
+        self.assertOneComplaint("tests/live/frame_test.cpp", "licence")
+
+    def test_a_long_source(self):
+        self.write("live/frame.h", "\n" * 350)
+        self.assertEqual(self.complaints(), [])
+        self.write("live/frame.h", "\n" * 351)
+        self.assertOneComplaint("live/frame.h", "351 lines")
 
     def test_a_source_without_a_test(self):
         self.write("live/other.cpp", "")

@@ -1,3 +1,4 @@
+# SPDX-License-Identifier: MIT
 """Every test that docs/kept-names-and-quirks.md names is there."""
 
 import pathlib

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A long watch, accelerated: every excursion leaves exactly one whole record, and memory stays
 // flat. 100 excursions, in long runs 1,500; "alarm_excursions_test --excursions 10000" for as many
 // as one likes.

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "live/alarm_records.h"
 #include "simulator/simulated_camera.h"
 #include "tests/live/page.h"

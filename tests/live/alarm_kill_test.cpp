@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Records of a program that is killed in between, and pipes that would make one wait for ever.
 #include "live/alarm_records.h"
 #include "tests/live/page.h"
@@ -172,9 +173,8 @@ private slots:
         tzset();
         const Page page;
         const auto nameNow = [hours] {
-            return QDateTime::currentDateTimeUtc()
-                .addSecs(hours * 3600)
-                .toString(QStringLiteral("yyyyMMddhhmmss"));
+            return QLocale::c().toString(QDateTime::currentDateTimeUtc().addSecs(hours * 3600),
+                                         QStringLiteral("yyyyMMddhhmmss"));
         };
         const QString earliest = nameNow();
         page.frames(7, 20);

@@ -1,5 +1,7 @@
+// SPDX-License-Identifier: MIT
 // Records beside what others have put into the history folder, and in every country.
 #include "live/alarm_records.h"
+#include "tests/support/folder.h"
 #include "tests/support/test_run.h"
 
 #include <QDir>
@@ -24,14 +26,6 @@ QList<QImage> sevenPictures()
     for (int i = 0; i < live::recordPictures; ++i)
         pictures.append(picture);
     return pictures;
-}
-
-void put(const QString& path, const QByteArray& bytes)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(bytes), bytes.size());
 }
 
 QByteArray contents(const QString& path)
@@ -98,10 +92,10 @@ private slots:
     void leftOversGoAtTheNextRecord()
     {
         const QString inTheMaking = QStringLiteral(".making/20230101000000");
-        put(path(inTheMaking + QStringLiteral("/F1.JPG")), "half a pict");
-        put(path(inTheMaking + QStringLiteral("/text")), "1,2");
-        put(path(inTheMaking + QStringLiteral(".lock")), "");
-        put(path(QStringLiteral(".making/20230101000001.lock")), "");
+        testing::putFile(path(inTheMaking + QStringLiteral("/F1.JPG")), "half a pict");
+        testing::putFile(path(inTheMaking + QStringLiteral("/text")), "1,2");
+        testing::putFile(path(inTheMaking + QStringLiteral(".lock")), "");
+        testing::putFile(path(QStringLiteral(".making/20230101000001.lock")), "");
         // Locks of nobody, and old enough for it to be certain.
         for (const char* lock : {"20230101000000", "20230101000001"}) {
             QFile file(path(QStringLiteral(".making/%1.lock").arg(QLatin1String(lock))));
@@ -117,8 +111,9 @@ private slots:
     void aWholeRecordThatOnlyLacksItsNameGetsIt()
     {
         const QString whole = QStringLiteral("20230101000000");
-        put(path(QStringLiteral(".making/") + whole + QStringLiteral("/F1.JPG")), "a picture");
-        put(path(whole + QStringLiteral(".ini")), "1,2,3");
+        testing::putFile(path(QStringLiteral(".making/") + whole + QStringLiteral("/F1.JPG")),
+                         "a picture");
+        testing::putFile(path(whole + QStringLiteral(".ini")), "1,2,3");
         QCOMPARE(live::writeRecord(path(), moment, sevenPictures(), readOuts), momentName);
         QCOMPARE(contents(path(whole + QStringLiteral("/F1.JPG"))), QByteArray("a picture"));
         QCOMPARE(live::recordReadings(path(), whole).threshold, QStringLiteral("2"));
@@ -128,7 +123,7 @@ private slots:
     void whatOthersHavePutThereStays()
     {
         const QString theirs = path(QStringLiteral(".making/20230101000000/holiday.jpg"));
-        put(theirs, "theirs");
+        testing::putFile(theirs, "theirs");
         QCOMPARE(live::writeRecord(path(), moment, sevenPictures(), readOuts), momentName);
         QCOMPARE(contents(theirs), QByteArray("theirs"));
     }
@@ -148,7 +143,7 @@ private slots:
     {
         QFETCH(QByteArray, text);
         QFETCH(QString, maximum);
-        put(path(QStringLiteral("r.ini")), text);
+        testing::putFile(path(QStringLiteral("r.ini")), text);
         QCOMPARE(live::recordReadings(path(), QStringLiteral("r")).maximum, maximum);
     }
 
@@ -161,7 +156,7 @@ private slots:
     void sixtyFourPicturesAreEnough()
     {
         for (int i = 0; i < 70; ++i)
-            put(path(QStringLiteral("r/%1.png").arg(i, 3, 10, QLatin1Char('0'))), "x");
+            testing::putFile(path(QStringLiteral("r/%1.png").arg(i, 3, 10, QLatin1Char('0'))), "x");
         const QStringList paths = live::recordPicturePaths(path(), QStringLiteral("r"));
         QCOMPARE(paths.size(), 64);
         QCOMPARE(paths.first(), path(QStringLiteral("r/000.png")));

@@ -1,4 +1,6 @@
+// SPDX-License-Identifier: MIT
 #include "live/alarm_records.h"
+#include "tests/support/folder.h"
 #include "tests/support/test_run.h"
 
 #include <QDir>
@@ -26,13 +28,6 @@ QByteArray contents(const QString& path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
-}
-
-void put(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
 }
 
 QStringList everythingIn(const QString& folder)
@@ -101,7 +96,7 @@ private slots:
 
     void aStrayTextIsNotOverwritten()
     {
-        put(path(momentName + QStringLiteral(".ini")), "older and longer than ours");
+        testing::putFile(path(momentName + QStringLiteral(".ini")), "older and longer than ours");
         QCOMPARE(live::writeRecord(path(), moment, grays(7), readOuts),
                  momentName + QStringLiteral("-2"));
         QCOMPARE(contents(path(momentName + QStringLiteral(".ini"))),
@@ -110,7 +105,7 @@ private slots:
 
     void aFileInTheFoldersPlaceIsNotOverwritten()
     {
-        put(path(momentName), "a file");
+        testing::putFile(path(momentName), "a file");
         QCOMPARE(live::writeRecord(path(), moment, grays(7), readOuts),
                  momentName + QStringLiteral("-2"));
         QCOMPARE(contents(path(momentName)), QByteArray("a file"));
@@ -178,7 +173,7 @@ private slots:
 
     void filesAreNotListed()
     {
-        put(path(momentName), "a file");
+        testing::putFile(path(momentName), "a file");
         QCOMPARE(live::recordNames(path()), QStringList());
     }
 
@@ -210,7 +205,7 @@ private slots:
     {
         QFETCH(QByteArray, text);
         QFETCH(QStringList, parts);
-        put(path(QStringLiteral("r.ini")), text);
+        testing::putFile(path(QStringLiteral("r.ini")), text);
         const live::RecordReadings readings = live::recordReadings(path(), QStringLiteral("r"));
         QCOMPARE(QStringList({readings.maximum, readings.threshold, readings.emissivity}), parts);
     }
@@ -224,7 +219,7 @@ private slots:
     void picturesAreSortedByName()
     {
         for (const char* name : {"b.JPG", "a.png", "C.BMP", "notes.txt", "d.jpeg", "e.jpg"})
-            put(path(QLatin1String(name)), "x");
+            testing::putFile(path(QLatin1String(name)), "x");
         QVERIFY(QDir(path()).mkdir(QStringLiteral("folder.png")));
         QStringList names;
         const QFileInfo folder(path());
@@ -241,7 +236,7 @@ private slots:
             testing::onWindows() ? QStringLiteral("a.png") : QStringLiteral(":a.png");
         QVERIFY(QDir(path()).mkdir(momentName));
         const QString picture = path() + QLatin1Char('/') + momentName + QLatin1Char('/') + name;
-        put(picture, "x");
+        testing::putFile(picture, "x");
         QCOMPARE(live::recordPicturePaths(path(), momentName), QStringList(picture));
     }
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The alarm without a window: no application object, no timer, no sound.
 #include "live/alarm.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "resources/resources.h"
 #include "tests/live/page.h"
 #include "tests/support/test_run.h"

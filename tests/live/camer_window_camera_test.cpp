@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The live page and its camera: frames that come, cameras that come and go.
 #include "resources/resources.h"
 #include "tests/live/camera.h"
@@ -99,19 +100,19 @@ void CamerWindowCameraTest::pictureIsScaledOncePerFrame()
 void CamerWindowCameraTest::frameRepaintsThePictureAlone()
 {
     const Page page;
-    const PaintCounter ofPage(&page.window());
-    const PaintCounter ofPicture(page.get<QLabel>("label_17"));
+    const PaintCounter ofPage(page.window());
+    const PaintCounter ofPicture(*page.get<QLabel>("label_17"));
     page->show();
     QVERIFY(QTest::qWaitForWindowExposed(&page.window()));
     QVERIFY(deliver());
-    QTRY_VERIFY(ofPage.paints > 0 && ofPicture.paints > 0);
+    QTRY_VERIFY(ofPage.count > 0 && ofPicture.count > 0);
     for (int round = 0; round < 50; ++round)
         QCoreApplication::processEvents();
-    const int before = ofPage.paints;
-    const int beforeOfPicture = ofPicture.paints;
+    const int before = ofPage.count;
+    const int beforeOfPicture = ofPicture.count;
     QVERIFY(deliver());
-    QTRY_COMPARE(ofPicture.paints, beforeOfPicture + 1);
-    QCOMPARE(ofPage.paints, before);
+    QTRY_COMPARE(ofPicture.count, beforeOfPicture + 1);
+    QCOMPARE(ofPage.count, before);
 }
 
 void CamerWindowCameraTest::keepsSevenPictures()

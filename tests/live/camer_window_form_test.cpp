@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the live page looks like, and what it says to those who do not see it.
 #include "resources/resources.h"
 #include "tests/live/page.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The records that alarms leave.
 #include "resources/resources.h"
 #include "simulator/simulated_camera.h"

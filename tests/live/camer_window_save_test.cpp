@@ -1,43 +1,20 @@
+// SPDX-License-Identifier: MIT
 // Pictures that are taken of the live page.
 #include "resources/resources.h"
 #include "tests/live/camera.h"
+#include "tests/support/dialogs.h"
 #include "tests/support/test_run.h"
 
 #include <QDir>
 #include <QFileDialog>
 #include <QImageReader>
-#include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
 
-#include <functional>
-
+using testing::Answer;
 using testing::camera;
 using testing::deliver;
 using testing::Page;
-
-namespace {
-
-/// Calls `act` with the file dialog once it is up.
-void withFileDialog(const std::function<void(QFileDialog*)>& act)
-{
-    QTimer::singleShot(0, qApp, [act] {
-        if (auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget()))
-            act(dialog);
-        else
-            withFileDialog(act);
-    });
-}
-
-void answerFileDialog(const QString& name)
-{
-    withFileDialog([name](QFileDialog* dialog) {
-        dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(name);
-        QVERIFY(QMetaObject::invokeMethod(dialog, "accept"));
-    });
-}
-
-} // namespace
 
 class CamerWindowSaveTest : public QObject
 {
@@ -103,7 +80,7 @@ void CamerWindowSaveTest::savesAPicture()
     QFETCH(QByteArray, format);
     const Page page;
     QVERIFY(deliver(100));
-    answerFileDialog(typed);
+    const Answer<QFileDialog> answer([&](QFileDialog& dialog) { testing::choose(dialog, typed); });
     QTest::mouseClick(page.get<QPushButton>("pushButton"), Qt::LeftButton);
     QCOMPARE(QDir(m_folder).entryList(QDir::Files), QStringList({written}));
     QImageReader reader(m_folder + QLatin1Char('/') + written);
@@ -118,24 +95,22 @@ void CamerWindowSaveTest::saveDialogProposesAName()
 {
     const Page page;
     QVERIFY(deliver());
-    bool seen = false;
-    withFileDialog([&](QFileDialog* dialog) {
-        seen = true;
-        QCOMPARE(dialog->windowTitle(), QStringLiteral("保存的文件"));
-        QCOMPARE(dialog->nameFilters(), QStringList({QStringLiteral("Items files(*.png)")}));
-        QCOMPARE(dialog->acceptMode(), QFileDialog::AcceptSave);
-        QCOMPARE(dialog->selectedFiles(), QStringList({m_folder + QStringLiteral("/cap.png")}));
-        dialog->reject();
+    const Answer<QFileDialog> answer([&](QFileDialog& dialog) {
+        QCOMPARE(dialog.windowTitle(), QStringLiteral("保存的文件"));
+        QCOMPARE(dialog.nameFilters(), QStringList({QStringLiteral("Items files(*.png)")}));
+        QCOMPARE(dialog.acceptMode(), QFileDialog::AcceptSave);
+        QCOMPARE(dialog.selectedFiles(), QStringList({m_folder + QStringLiteral("/cap.png")}));
+        dialog.reject();
     });
     QTest::mouseClick(page.get<QPushButton>("pushButton"), Qt::LeftButton);
-    QVERIFY(seen);
+    QVERIFY(answer.wasAsked());
 }
 
 void CamerWindowSaveTest::cancelledSaveWritesNothing()
 {
     const Page page;
     QVERIFY(deliver());
-    withFileDialog([](QFileDialog* dialog) { dialog->reject(); });
+    const Answer<QFileDialog> answer([](QFileDialog& dialog) { dialog.reject(); });
     QTest::mouseClick(page.get<QPushButton>("pushButton"), Qt::LeftButton);
     QVERIFY(QDir(m_folder).isEmpty());
 }
@@ -144,9 +119,9 @@ void CamerWindowSaveTest::savesThePictureOfThePress()
 {
     const Page page;
     QVERIFY(deliver(40));
-    withFileDialog([](QFileDialog* dialog) {
+    const Answer<QFileDialog> answer([](QFileDialog& dialog) {
         QVERIFY(deliver(220)); // the live picture goes on behind the dialog
-        QVERIFY(QMetaObject::invokeMethod(dialog, "accept"));
+        QVERIFY(QMetaObject::invokeMethod(&dialog, "accept"));
     });
     QTest::mouseClick(page.get<QPushButton>("pushButton"), Qt::LeftButton);
     QCOMPARE(QImage(m_folder + QStringLiteral("/cap.png")).pixelColor(9, 9), QColor(40, 40, 40));
@@ -157,13 +132,10 @@ void CamerWindowSaveTest::withoutPictureNothingIsWritten()
 {
     const Page page;
     const testing::LogRecorder log;
-    bool asked = false;
-    withFileDialog([&asked](QFileDialog* dialog) {
-        asked = true;
-        QVERIFY(QMetaObject::invokeMethod(dialog, "accept"));
-    });
+    const Answer<QFileDialog> answer(
+        [](QFileDialog& dialog) { QVERIFY(QMetaObject::invokeMethod(&dialog, "accept")); });
     QTest::mouseClick(page.get<QPushButton>("pushButton"), Qt::LeftButton);
-    QVERIFY(asked);
+    QVERIFY(answer.wasAsked());
     QVERIFY(QDir(m_folder).isEmpty());
     QVERIFY(!log.contains(QStringLiteral("null")));
 }
@@ -176,7 +148,8 @@ void CamerWindowSaveTest::savedPictureIsScaledSmoothly()
         for (int x = 0; x < stripes.width(); ++x)
             stripes.setPixelColor(x, y, x % 2 == 0 ? Qt::black : Qt::white);
     page->display_cap(stripes);
-    answerFileDialog(QStringLiteral("cap.png"));
+    const Answer<QFileDialog> answer(
+        [](QFileDialog& dialog) { testing::choose(dialog, QStringLiteral("cap.png")); });
     QTest::mouseClick(page.get<QPushButton>("pushButton"), Qt::LeftButton);
     const QImage saved(m_folder + QStringLiteral("/cap.png"));
     QCOMPARE(saved.size(), QSize(480, 640));
@@ -194,7 +167,7 @@ void CamerWindowSaveTest::pageMayGoWhileTheDialogIsOpen()
     const QPointer<camer_window> window = &page.window();
     page->show();
     QVERIFY(deliver());
-    withFileDialog([&page](QFileDialog*) { page.end(); });
+    const Answer<QFileDialog> answer([&page](QFileDialog&) { page.end(); });
     QTest::mouseClick(page.get<QPushButton>("pushButton"), Qt::LeftButton);
     QVERIFY(QDir(m_folder).isEmpty());
     QVERIFY(!deliver());

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The live page on the whole screen and back, and its end.
 #include "resources/resources.h"
 #include "tests/live/camera.h"

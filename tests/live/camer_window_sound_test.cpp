@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The spoken alarm.
 #include "resources/resources.h"
 #include "tests/live/page.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "resources/resources.h"
 #include "tests/live/camera.h"
 #include "tests/live/owner.h"

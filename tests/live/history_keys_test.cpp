@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The history by keyboard, and records that are not what the program writes.
 #include "resources/resources.h"
 #include "tests/live/page.h"

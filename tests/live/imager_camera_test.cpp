@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "live/imager_camera.h"
 #include "simulator/simulated_camera.h"
 #include "tests/support/test_run.h"

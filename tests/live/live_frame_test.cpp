@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "live/frame_kernels.h"
 #include "live/live_frame.h"
 #include "tests/live/instruction_sets.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/live/page.h"
 
 #include "config/configuration_record.h"
@@ -39,14 +40,6 @@ QString makeFolder(const QString& name)
     QDir(path).removeRecursively();
     QDir().mkpath(path);
     return path;
-}
-
-void putFile(const QString& path, const QByteArray& bytes)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
-        qFatal("cannot write %s", qPrintable(path));
 }
 
 QString Page::text(const char* label) const

@@ -1,7 +1,11 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "dialogs/dialogs.h"
 #include "live/camer_window.h"
+#include "tests/support/folder.h"
+#include "tests/support/paint_counter.h"
+#include "tests/support/parts.h"
 
 #include <QByteArray>
 #include <QEvent>
@@ -23,22 +27,6 @@ void configure(const QString& language, const QString& alarmFolder);
 /// A fresh history folder inside the profile.
 QString makeFolder(const QString& name = QStringLiteral("alarms"));
 
-/// Creates a file with its folders.
-void putFile(const QString& path, const QByteArray& bytes);
-
-/// Paints of a widget while this lives.
-class PaintCounter : public QObject
-{
-public:
-    explicit PaintCounter(QWidget* widget) { widget->installEventFilter(this); }
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        paints += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
-    int paints = 0;
-};
-
 /// The live page under test. It meets the cameras and the configuration there are when it is made.
 class Page
 {
@@ -55,10 +43,7 @@ public:
     template<typename T>
     T* get(const char* name) const
     {
-        T* const widget = m_window->findChild<T*>(QLatin1String(name));
-        if (!widget)
-            qFatal("no widget %s", name);
-        return widget;
+        return part<T>(m_window.get(), name);
     }
     QString text(const char* label) const;
     QString style(const char* label) const;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "live/qt_camera_capture.h"
 #include "tests/support/test_run.h"
 

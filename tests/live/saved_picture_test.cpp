@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "live/saved_picture.h"
 #include "tests/support/test_run.h"
 

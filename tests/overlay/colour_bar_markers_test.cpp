@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/overlay/shown_bar.h"
 #include "tests/support/test_run.h"
 
@@ -267,8 +268,8 @@ private slots:
         const QImage image = bar->grab().toImage();
         const double ratio = bar->devicePixelRatioF();
         const auto at = [&](const QPoint& position) {
-            return image.pixelColor(static_cast<int>((position.x() + 0.5) * ratio),
-                                    static_cast<int>((position.y() + 0.5) * ratio));
+            return image.pixelColor(int((position.x() + 0.5) * ratio),
+                                    int((position.y() + 0.5) * ratio));
         };
         for (const QPoint& inside : {QPoint(5, 0), QPoint(13, 0), QPoint(13, 6), QPoint(13, -7)}) {
             QCOMPARE(at(bar->startMarker + inside), QColor(204, 40, 51));
@@ -278,10 +279,9 @@ private slots:
         const QColor background = at({bar->startMarker.x() + 3, bar->startMarker.y() - 8});
         QCOMPARE(background, bar->palette().color(QPalette::Window));
         int darkest = 255;
-        const int end = static_cast<int>((bar->startMarker.x() + 16.5) * ratio);
-        for (int x = static_cast<int>((bar->startMarker.x() + 14.5) * ratio); x < end; ++x)
-            darkest =
-                std::min(darkest, image.pixelColor(x, static_cast<int>(130.5 * ratio)).lightness());
+        const int end = int((bar->startMarker.x() + 16.5) * ratio);
+        for (int x = int((bar->startMarker.x() + 14.5) * ratio); x < end; ++x)
+            darkest = std::min(darkest, image.pixelColor(x, int(130.5 * ratio)).lightness());
         QVERIFY(darkest < 160);
         QCOMPARE(at(bar->startMarker + QPoint(17, -9)), background);
     }
@@ -300,11 +300,10 @@ private slots:
             int darkest = 255;
             for (double dy = -1; dy <= 1; dy += 0.5 / ratio)
                 for (double dx = -1; dx <= 1; dx += 0.5 / ratio)
-                    darkest = std::min(
-                        darkest, image
-                                     .pixelColor(static_cast<int>((position.x() + dx) * ratio),
-                                                 static_cast<int>((position.y() + dy) * ratio))
-                                     .lightness());
+                    darkest = std::min(darkest, image
+                                                    .pixelColor(int((position.x() + dx) * ratio),
+                                                                int((position.y() + dy) * ratio))
+                                                    .lightness());
             return darkest;
         };
         for (const QPoint& tip : {bar->startMarker, bar->endMarker})

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "overlay/colour_bar_scale.h"
 #include "tests/support/test_run.h"
 

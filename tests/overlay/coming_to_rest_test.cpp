@@ -1,6 +1,7 @@
+// SPDX-License-Identifier: MIT
 #include "tests/overlay/mouse.h"
 #include "tests/overlay/overlay_host.h"
-#include "tests/overlay/paint_counter.h"
+#include "tests/support/paint_counter.h"
 #include "tests/support/test_run.h"
 
 #include <memory>

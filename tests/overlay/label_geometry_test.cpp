@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "overlay/label_geometry.h"
 #include "tests/support/test_run.h"
 
@@ -216,7 +217,7 @@ private:
                                      g.labelWidth + 9};
         for (const int x : xs)
             for (const double part : {-0.1, 0.0, 0.21, 0.5, 0.77, 0.999, 1.0, 1.2}) {
-                const int y = static_cast<int>(part * g.labelHeight);
+                const int y = int(part * g.labelHeight);
                 const Box result = overlay::toImage(g, {x, y, 12, 16}, before);
                 bool right = isQuotient(result.w, 12 * 240, g.imageWidth) &&
                              isQuotient(result.h, 16 * 320, g.imageHeight);

@@ -1,5 +1,6 @@
-#include "tests/overlay/paint_counter.h"
+// SPDX-License-Identifier: MIT
 #include "tests/overlay/shown_bar.h"
+#include "tests/support/paint_counter.h"
 #include "tests/support/test_run.h"
 
 #include <QLayout>
@@ -141,7 +142,7 @@ private slots:
         const QImage image = bar->grab().toImage();
         const double ratio = bar->devicePixelRatioF();
         const auto grayAt = [&](int y) {
-            return qGray(image.pixel(static_cast<int>(15 * ratio), static_cast<int>(y * ratio)));
+            return qGray(image.pixel(int(15 * ratio), int(y * ratio)));
         };
         // the whole palette over the whole travel: hottest at 10, coldest at h − 10
         QVERIFY(grayAt(11) > 250);

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/overlay/overlay_host.h"
 #include "tests/overlay/shown_label.h"
 #include "tests/support/test_run.h"

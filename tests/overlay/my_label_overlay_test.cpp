@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "overlay/my_label.h"
 #include "tests/overlay/mouse.h"
 #include "tests/overlay/painted_description.h"
@@ -23,8 +24,8 @@ private slots:
         placeTools(label);
         label.repaint();
         const double ratio = label.devicePixelRatioF();
-        QCOMPARE(label.overlay.size(), QSize(static_cast<int>(std::ceil(520 * ratio)),
-                                             static_cast<int>(std::ceil(640 * ratio))));
+        QCOMPARE(label.overlay.size(),
+                 QSize(int(std::ceil(520 * ratio)), int(std::ceil(640 * ratio))));
         QCOMPARE(label.overlay.devicePixelRatio(), ratio);
         QImage image = label.overlay.toImage();
         QCOMPARE(image.pixelColor(image.width() / 2, image.height() / 2).alpha(), 0);

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "overlay/my_label.h"
 #include "tests/overlay/mouse.h"
 #include "tests/overlay/painted_description.h"
@@ -123,7 +124,7 @@ private slots:
         const double ratio = label.devicePixelRatioF();
         // How much of the column in the line's middle is red, in label pixels.
         double extent = 0;
-        const int column = static_cast<int>(200 * ratio);
+        const int column = int(200 * ratio);
         for (int row = 0; row < image.height(); ++row) {
             const QColor colour = image.pixelColor(column, row);
             extent += double(background.green() - colour.green()) / background.green() / ratio;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "overlay/my_label.h"
 #include "tests/overlay/mouse.h"
 #include "tests/overlay/painted_description.h"
@@ -186,9 +187,8 @@ private slots:
         font.setWeight(75);
         font.setPixelSize(20);
         const double ratio = label.devicePixelRatioF();
-        const QRect pixels(static_cast<int>(area.x() * ratio), static_cast<int>(area.y() * ratio),
-                           static_cast<int>(area.width() * ratio),
-                           static_cast<int>(area.height() * ratio));
+        const QRect pixels(int(area.x() * ratio), int(area.y() * ratio), int(area.width() * ratio),
+                           int(area.height() * ratio));
         label.markerB = {qint16(column), 50};
         QImage expected = withText(plain, ratio, {letter, 98}, QStringLiteral("H"), font);
         QVERIFY(differingPixels(plain, expected, pixels) > 20);
@@ -290,8 +290,8 @@ private:
     static bool holdsColour(const QImage& image, double ratio, const QRect& area,
                             const QColor& colour)
     {
-        for (int y = static_cast<int>(area.top() * ratio); y < area.bottom() * ratio; ++y)
-            for (int x = static_cast<int>(area.left() * ratio); x < area.right() * ratio; ++x)
+        for (int y = int(area.top() * ratio); y < area.bottom() * ratio; ++y)
+            for (int x = int(area.left() * ratio); x < area.right() * ratio; ++x)
                 if (alike(image.pixelColor(x, y), colour))
                     return true;
         return false;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/overlay/overlay_host.h"
 
 #include <QHBoxLayout>
@@ -32,7 +33,7 @@ QImage grayPicture()
                 value +=
                     spot.height * std::exp(-(std::pow(x - spot.x, 2) + std::pow(y - spot.y, 2)) /
                                            (2 * spot.extent * spot.extent));
-            line[x] = static_cast<uchar>(std::clamp(value, 0.0, 255.0));
+            line[x] = uchar(std::clamp(value, 0.0, 255.0));
         }
     }
     return picture;
@@ -56,7 +57,7 @@ std::array<QRgb, 256> ironPalette()
             const auto mix = [&](int from, int to) {
                 return from + (to - from) * (i - stops[k].at) / (stops[k + 1].at - stops[k].at);
             };
-            palette[static_cast<std::size_t>(i)] =
+            palette[std::size_t(i)] =
                 qRgb(mix(stops[k].red, stops[k + 1].red), mix(stops[k].green, stops[k + 1].green),
                      mix(stops[k].blue, stops[k + 1].blue));
         }
@@ -73,9 +74,8 @@ OverlayHost::OverlayHost(QWidget* parent)
     label->setOwner(this);
     for (std::size_t step = 0; step < m_palette.size(); ++step) {
         const QRgb colour = m_palette[255 - step];
-        bar->paletteTable[step] = {static_cast<uchar>(qRed(colour)),
-                                   static_cast<uchar>(qGreen(colour)),
-                                   static_cast<uchar>(qBlue(colour))};
+        bar->paletteTable[step] = {uchar(qRed(colour)), uchar(qGreen(colour)),
+                                   uchar(qBlue(colour))};
     }
     bar->topTemperature = 50.0F;
     bar->bottomTemperature = 20.0F;
@@ -124,7 +124,7 @@ QPixmap OverlayHost::pictureForLabel(const QImage& picture) const
 void OverlayHost::render()
 {
     const auto entry = [this](int index) {
-        return m_palette[static_cast<std::size_t>(std::clamp(index, 0, 255))];
+        return m_palette[std::size_t(std::clamp(index, 0, 255))];
     };
     const int hot = 255 - overlay::paletteStep(bar->startValue);
     const int cold = 255 - overlay::paletteStep(bar->endValue);

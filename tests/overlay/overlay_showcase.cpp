@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 /// The two widgets of the overlay room side by side over a made-up picture, to be tried by hand or
 /// photographed:
 ///     overlay_showcase

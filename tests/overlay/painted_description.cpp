@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/overlay/painted_description.h"
 
 #include "tests/overlay/mouse.h"

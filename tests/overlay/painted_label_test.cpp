@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "overlay/my_label.h"
 #include "tests/overlay/mouse.h"
 #include "tests/overlay/painting_scene.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/overlay/painting_scene.h"
 
 #include <QCoreApplication>

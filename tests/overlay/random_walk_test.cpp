@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "overlay/my_label.h"
 #include "tests/overlay/mouse.h"
 #include "tests/overlay/overlay_host.h"
@@ -22,7 +23,7 @@ public:
 
     /// From 0 to before `count`. Not std::uniform_int_distribution, whose results differ between
     /// libraries.
-    int roll(int count) { return static_cast<int>(m_engine() % static_cast<unsigned>(count)); }
+    int roll(int count) { return int(m_engine() % unsigned(count)); }
 
 private:
     std::mt19937 m_engine;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "overlay/tool_painting.h"
 #include "tests/overlay/painting_scene.h"
 #include "tests/support/test_run.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "overlay/tool_rules.h"
 #include "tests/support/test_run.h"
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "overlay/tools.h"
 #include "tests/support/test_run.h"
 

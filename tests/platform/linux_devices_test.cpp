@@ -1,6 +1,8 @@
+// SPDX-License-Identifier: MIT
 #include "platform/device_tree_linux.h"
 #include "platform/mounted_volumes_linux.h"
 #include "platform/removable_drives.h"
+#include "tests/support/folder.h"
 #include "tests/support/test_run.h"
 
 #include <QDir>
@@ -13,17 +15,10 @@ class LinuxDevicesTest : public QObject
 
     QString m_sys;
 
-    void put(const QString& path, const QByteArray& text)
-    {
-        QDir().mkpath(QFileInfo(path).path());
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(text);
-    }
-
     void addDisk(const QString& device, const QString& number, const QByteArray& removable)
     {
-        put(m_sys + QStringLiteral("/devices/") + device + QStringLiteral("/removable"), removable);
+        testing::putFile(
+            m_sys + QStringLiteral("/devices/") + device + QStringLiteral("/removable"), removable);
         addNumber(device, number);
     }
 
@@ -118,11 +113,11 @@ private slots:
     void identityOfAUsbCamera()
     {
         const QString device = m_sys + QStringLiteral("/devices/pci0/usb1/1-4");
-        put(device + QStringLiteral("/idVendor"), "1d6b\n");
-        put(device + QStringLiteral("/idProduct"), "0102\n");
+        testing::putFile(device + QStringLiteral("/idVendor"), "1d6b\n");
+        testing::putFile(device + QStringLiteral("/idProduct"), "0102\n");
         QDir().mkpath(device + QStringLiteral("/1-4:1.0"));
         // Half an identity is none.
-        put(device + QStringLiteral("/1-4:1.0/idVendor"), "ffff\n");
+        testing::putFile(device + QStringLiteral("/1-4:1.0/idVendor"), "ffff\n");
         QDir().mkpath(m_sys + QStringLiteral("/video/video0"));
         QVERIFY(QFile::link(device + QStringLiteral("/1-4:1.0"),
                             m_sys + QStringLiteral("/video/video0/device")));

@@ -1,5 +1,7 @@
+// SPDX-License-Identifier: MIT
 #include "simulator/control_panel.h"
 #include "simulator/simulated_camera.h"
+#include "tests/support/parts.h"
 #include "tests/support/test_run.h"
 
 #include <QAbstractButton>
@@ -44,10 +46,7 @@ private:
     template<typename T>
     T& widget(const char* name) const
     {
-        auto* found = m_panel->findChild<T*>(QString::fromLatin1(name));
-        if (found == nullptr)
-            qFatal("no such widget: %s", name);
-        return *found;
+        return *testing::part<T>(m_panel.get(), name);
     }
     void click(const char* name) const
     {

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "simulator/imager_model.h"
 #include "tests/support/test_run.h"
 
@@ -106,7 +107,7 @@ void ImagerModelTest::grayTellsTheTemperatureAgain()
     const double halfStep = 150.0 / 219 / 2 + 0.001;
     for (int i = 0; i < 76800; ++i) {
         const double celsius = 118.6 - (235 - byteAt(picture.gray, i)) / 219.0 * 150.0;
-        QVERIFY(std::abs(celsius - double(field[size_t(i)])) <= halfStep);
+        QVERIFY(std::abs(celsius - double(field[std::size_t(i)])) <= halfStep);
     }
 }
 
@@ -144,9 +145,9 @@ void ImagerModelTest::frameShowsThePalette()
     const QImage image = simulator::falseColour(gray, table);
     QCOMPARE(image.size(), QSize(240, 320));
     for (int pair = 0; pair < 256; ++pair) {
-        const int red = (table[size_t(pair)] >> 11) * 255 / 31;
-        const int green = (table[size_t(pair)] >> 5 & 63) * 255 / 63;
-        const int blue = (table[size_t(pair)] & 31) * 255 / 31;
+        const int red = (table[std::size_t(pair)] >> 11) * 255 / 31;
+        const int green = (table[std::size_t(pair)] >> 5 & 63) * 255 / 63;
+        const int blue = (table[std::size_t(pair)] & 31) * 255 / 31;
         QCOMPARE(image.pixel(2 * pair % 240, 2 * pair / 240), qRgb(red, green, blue));
 
         const int y = byteAt(frame, 4 * pair);
@@ -163,13 +164,13 @@ void ImagerModelTest::palettesGrowBrighter()
 {
     QFETCH(int, palette);
     const auto& table = simulator::paletteTable(Palette(palette));
-    const auto brightness = [&table](size_t i) {
+    const auto brightness = [&table](std::size_t i) {
         return 3 * (table[i] >> 11) * 2 + 6 * (table[i] >> 5 & 63) + (table[i] & 31) * 2;
     };
     QVERIFY(brightness(255) > 550);
     QVERIFY(brightness(0) < 60);
     // Neighbours differ by little: no band that is not in the scene.
-    for (size_t i = 1; i < 256; ++i)
+    for (std::size_t i = 1; i < 256; ++i)
         QVERIFY(std::abs(brightness(i) - brightness(i - 1)) < 24);
 }
 

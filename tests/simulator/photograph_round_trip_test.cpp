@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/photograph/photograph.h"
 #include "simulator/photograph.h"
 #include "tests/support/test_run.h"

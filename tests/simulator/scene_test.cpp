@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "simulator/scene.h"
 #include "tests/support/test_run.h"
 
@@ -46,7 +47,7 @@ void SceneTest::hotSpotIsTheHottestPlace()
     for (const double hotSpot : {30.0, scene.usualHotSpot(), 150.0})
         for (const double seconds : {0.0, 0.7, 3.3, 61.4, 3600.0}) {
             const Field field = scene.field(seconds, hotSpot);
-            QCOMPARE(field.size(), size_t(76800));
+            QCOMPARE(field.size(), std::size_t(76800));
             const double hottest = double(*std::max_element(field.begin(), field.end()));
             QVERIFY2(std::abs(hottest - hotSpot) < 0.3,
                      qPrintable(QStringLiteral("%1 instead of %2").arg(hottest).arg(hotSpot)));
@@ -93,7 +94,7 @@ void SceneTest::sensorNoiseIsSmall()
     const Field one = Scene(kind, 1).field(5, 40);
     const Field other = Scene(kind, 2).field(5, 40);
     double squares = 0;
-    for (size_t i = 0; i < one.size(); ++i)
+    for (std::size_t i = 0; i < one.size(); ++i)
         squares += std::pow(double(one[i] - other[i]), 2);
     const double deviation = std::sqrt(squares / 76800);
     QVERIFY2(deviation > 0.02 && deviation < 0.12, qPrintable(QString::number(deviation)));

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "simulator/simulated_camera.h"
 #include "tests/simulator/recording_surface.h"
 #include "tests/support/test_run.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "simulator/photograph.h"
 #include "tests/support/test_run.h"
 
@@ -108,7 +109,7 @@ void SimulatedPhotographTest::modelZero()
     for (int i = 0; i < 76800; ++i) {
         const double ratio =
             double(grayMaximum - u8(file, 230454 + i)) / (grayMaximum - grayMinimum);
-        QVERIFY(std::abs(60.0 - ratio * 80.0 - double(field[size_t(i)])) <= halfStep);
+        QVERIFY(std::abs(60.0 - ratio * 80.0 - double(field[std::size_t(i)])) <= halfStep);
     }
 }
 
@@ -152,7 +153,7 @@ void SimulatedPhotographTest::rawVariant()
     for (int y = 0; y < 320; ++y)
         for (int x = 0; x < 240; ++x) {
             const double celsius = raw(4 * y / 5, 4 * x / 5) * 0.0625 - 273.15;
-            const double there = double(field[size_t(y) * 240 + size_t(x)]);
+            const double there = double(field[std::size_t(y) * 240 + std::size_t(x)]);
             // One pixel of the slope and half a step; the two spots fill up to four pixels.
             const bool isAtSpot = (std::abs(x - 30) < 2 && std::abs(y - 40) < 2) ||
                                   (std::abs(x - 200) < 2 && std::abs(y - 300) < 2);
@@ -200,7 +201,8 @@ void SimulatedPhotographTest::paletteIsKept()
         settings.palette = palette;
         const QByteArray file = simulator::photograph(slope(), settings);
         for (int i = 0; i < 256; ++i)
-            QCOMPARE(u16(file, 307254 + 2 * i), int(simulator::paletteTable(palette)[size_t(i)]));
+            QCOMPARE(u16(file, 307254 + 2 * i),
+                     int(simulator::paletteTable(palette)[std::size_t(i)]));
     }
 }
 

@@ -1,6 +1,11 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
+#include "tests/support/parts.h"
+
 #include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
 #include <QTimer>
 
 #include <functional>
@@ -33,5 +38,12 @@ private:
     QTimer m_timer;
     bool m_asked = false;
 };
+
+/// What a user does who writes a path into a file dialog's line and presses Return.
+inline void choose(QFileDialog& dialog, const QString& path)
+{
+    part<QLineEdit>(&dialog, "fileNameEdit")->setText(path);
+    static_cast<QDialog&>(dialog).accept();
+}
 
 } // namespace testing

@@ -1,16 +1,22 @@
+// SPDX-License-Identifier: MIT
 #include "tests/support/folder.h"
 
 #include <QDirIterator>
 
 namespace testing {
 
-QString Folder::write(const QString& name, const QByteArray& bytes) const
+void putFile(const QString& path, const QByteArray& bytes)
 {
-    const QString path = *this / name;
     QDir().mkpath(QFileInfo(path).path());
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
         qFatal("cannot write %s", qPrintable(path));
+}
+
+QString Folder::write(const QString& name, const QByteArray& bytes) const
+{
+    QString path = *this / name;
+    putFile(path, bytes);
     return path;
 }
 

@@ -1,9 +1,13 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <QDir>
 #include <QTemporaryDir>
 
 namespace testing {
+
+/// Writes a file, making its folder; the run ends when that fails.
+void putFile(const QString& path, const QByteArray& bytes);
 
 /// A folder that is gone after the test.
 class Folder

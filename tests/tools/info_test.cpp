@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/photograph/photograph_reader.h"
 #include "analysis/report/information.h"
 #include "tests/support/test_run.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/support/test_run.h"
 #include "tests/tools/photographs.h"
 #include "tests/tools/thermaphoto.h"

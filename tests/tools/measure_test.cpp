@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/photograph/file_buffer.h"
 #include "analysis/photograph/tool_statistics.h"
 #include "tests/analysis/photograph_writer.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/tools/thermaphoto.h"
 
 #include <QJsonDocument>

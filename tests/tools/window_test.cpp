@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/windows/analysis_widget.h"
 #include "config/configuration_record.h"
 #include "overlay/my_label.h"
@@ -62,10 +63,8 @@ public:
     QString save()
     {
         const QString target = *this / QStringLiteral("window.pdf");
-        testing::Answer<QFileDialog> file([&target](QFileDialog& dialog) {
-            dialog.findChild<QLineEdit*>("fileNameEdit")->setText(target);
-            static_cast<QDialog&>(dialog).accept();
-        });
+        testing::Answer<QFileDialog> file(
+            [&target](QFileDialog& dialog) { testing::choose(dialog, target); });
         testing::Answer<QMessageBox> message(
             [](QMessageBox& box) { box.button(QMessageBox::Ok)->click(); });
         window.findChild<QPushButton*>(QStringLiteral("pushButton"))->click();

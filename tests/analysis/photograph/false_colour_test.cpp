@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/photograph/false_colour.h"
 #include "tests/support/test_run.h"
 

@@ -1,8 +1,10 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/photograph/file_buffer.h"
 #include "analysis/photograph/layouts.h"
 #include "analysis/photograph/photograph_reader.h"
 #include "simulator/photograph.h"
 #include "simulator/simulated_disk.h"
+#include "tests/support/folder.h"
 #include "tests/support/test_run.h"
 
 #include <QSet>
@@ -73,12 +75,9 @@ private slots:
         simulator::PhotographSettings settings;
         settings.modelIndex = row;
         settings.machineId = layout().machineIds.back();
-        const QTemporaryDir folder;
-        const QString path = folder.filePath(QStringLiteral("a.bmp"));
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(simulator::photograph(field, settings));
-        file.close();
+        const testing::Folder folder;
+        const QString path =
+            folder.write(QStringLiteral("a.bmp"), simulator::photograph(field, settings));
 
         analysis::PhotographReader reader;
         QVERIFY(reader.read(path, std::nullopt).isGood());

@@ -1,6 +1,8 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/photograph/file_buffer.h"
 #include "analysis/photograph/photograph.h"
 #include "tests/analysis/photograph_writer.h"
+#include "tests/support/folder.h"
 #include "tests/support/test_run.h"
 
 #include <QFile>
@@ -576,7 +578,8 @@ private slots:
         const int gray = model == 1 ? 153657 : 230454;
         const int block = model == 1 ? 230969 : 307766;
         QVector<int> lengths{gray, gray + 76800, block, 307792, 406096, file.size()};
-        for (int border : QVector<int>(lengths))
+        const QVector<int> borders = lengths;
+        for (const int border : borders)
             lengths << border - 1 << border + 1;
         for (int i = 0; i <= 44; ++i)
             lengths << block + i;
@@ -680,10 +683,7 @@ private:
     static QString file(const QString& name, const QByteArray& bytes)
     {
         const QString path = testing::profile().home() + QLatin1Char('/') + name;
-        QFile out(path);
-        if (!out.open(QIODevice::WriteOnly))
-            qFatal("%s", qPrintable(path));
-        out.write(bytes);
+        testing::putFile(path, bytes);
         return path;
     }
 };

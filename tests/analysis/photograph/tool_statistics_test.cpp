@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/photograph/tool_statistics.h"
 #include "tests/analysis/photograph/placed_tools.h"
 #include "tests/analysis/photograph/plainly_measured.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/photograph/units.h"
 #include "analysis/report/information.h"
 #include "tests/support/test_run.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/report/information.h"
 #include "tests/support/test_run.h"
 

@@ -1,6 +1,8 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/report/report.h"
 #include "tests/analysis/pdf_reader.h"
 #include "tests/analysis/sample_report.h"
+#include "tests/support/folder.h"
 #include "tests/support/test_run.h"
 
 #include <csignal>
@@ -16,13 +18,6 @@ QByteArray fileBytes(const QString& path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void putFile(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
 }
 
 QStringList filesIn(const QString& folder)
@@ -76,7 +71,7 @@ private slots:
     void anExistingFileIsReplaced()
     {
         const QString path = m_folder->filePath("report.pdf");
-        putFile(path, QByteArray(5'000'000, 'x'));
+        testing::putFile(path, QByteArray(5'000'000, 'x'));
         QVERIFY(analysis::writeReport(testing::sampleReport("CH", 0, 4), path));
         QCOMPARE(testing::pdfInfo(path, "Pages"), QString("2"));
         QCOMPARE(filesIn(m_folder->path()), QStringList("report.pdf"));
@@ -112,7 +107,7 @@ private slots:
 
         const QString file = m_folder->filePath("file.pdf");
         const QString link = m_folder->filePath("link.pdf");
-        putFile(file, "older");
+        testing::putFile(file, "older");
         QVERIFY(QFile::link(file, link));
         QVERIFY(analysis::writeReport(testing::sampleReport("CH", 0, 4), link));
         QVERIFY(QFileInfo(link).isSymLink());
@@ -125,7 +120,7 @@ private slots:
         const Report report = testing::sampleReport("CH", 0, 4);
         const QString path = m_folder->filePath("report.pdf");
         const QByteArray old("an older report");
-        putFile(path, old);
+        testing::putFile(path, old);
         {
             const FullDisk full;
             QVERIFY(!analysis::writeReport(report, path));

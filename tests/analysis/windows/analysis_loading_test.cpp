@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/analysis/windows/analysis_window_test.h"
 
 using testing::flat;

@@ -1,32 +1,11 @@
+// SPDX-License-Identifier: MIT
 #include "tests/analysis/windows/analysis_window_test.h"
+#include "tests/support/paint_counter.h"
 
 #include <QSet>
 
 using testing::flat;
 using testing::Shot;
-
-namespace {
-
-/// Counts the paint events of a window and everything in it.
-class PaintCounter : public QObject
-{
-public:
-    explicit PaintCounter(QWidget* window) : m_window(window) { qApp->installEventFilter(this); }
-    int count = 0;
-
-    bool eventFilter(QObject* object, QEvent* event) override
-    {
-        auto* widget = qobject_cast<QWidget*>(object);
-        if (event->type() == QEvent::Paint && widget && widget->window() == m_window)
-            ++count;
-        return false;
-    }
-
-private:
-    QWidget* m_window;
-};
-
-} // namespace
 
 /// The picture in the analysis window: its colours, and that painting comes to rest.
 class AnalysisRenderingTest : public testing::AnalysisWindowTest
@@ -119,7 +98,7 @@ private slots:
         QVERIFY(load(flat(200)));
         show();
         QTest::mouseMove(&label(), at(30, 30));
-        PaintCounter paints(window.get());
+        testing::PaintCounter paints(*window, testing::PaintCounter::Of::WidgetAndParts);
         // Come to rest first: no paint in a whole round of events.
         QTRY_VERIFY([&paints] {
             paints.count = 0;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "analysis/windows/analysis_widget.h"
@@ -5,6 +6,8 @@
 #include "overlay/my_label.h"
 #include "resources/resources.h"
 #include "tests/analysis/photograph_writer.h"
+#include "tests/support/folder.h"
+#include "tests/support/parts.h"
 #include "tests/support/test_run.h"
 
 #include <QComboBox>
@@ -47,10 +50,7 @@ protected:
     template<typename T>
     T& child(const char* name) const
     {
-        auto* found = window->findChild<T*>(QLatin1String(name));
-        if (!found)
-            qFatal("no child named %s", name);
-        return *found;
+        return *part<T>(window.get(), name);
     }
     MyLabel& label() const { return child<MyLabel>("label"); }
     My_ColorSlider& bar() const { return child<My_ColorSlider>("widget"); }
@@ -80,10 +80,7 @@ protected:
     static QString file(const QString& name, const QByteArray& bytes)
     {
         const QString path = testing::profile().home() + QLatin1Char('/') + name;
-        QFile out(path);
-        if (!out.open(QIODevice::WriteOnly))
-            qFatal("%s", qPrintable(path));
-        out.write(bytes);
+        putFile(path, bytes);
         return path;
     }
     bool load(const Shot& shot)

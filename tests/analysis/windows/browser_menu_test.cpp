@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/export/photograph_export.h"
 #include "analysis/windows/analysis_widget.h"
 #include "analysis/windows/browser_menu.h"
@@ -7,6 +8,7 @@
 #include "platform/removable_drives.h"
 #include "tests/analysis/pdf_reader.h"
 #include "tests/analysis/photograph_writer.h"
+#include "tests/support/folder.h"
 #include "tests/support/test_run.h"
 
 #include <QContextMenuEvent>
@@ -67,9 +69,7 @@ class BrowserMenuTest : public QObject
     }
     void write(const QString& name, const QByteArray& bytes) const
     {
-        QFile out(photograph(name));
-        if (!out.open(QIODevice::WriteOnly) || out.write(bytes) != bytes.size())
-            qFatal("%s", qPrintable(name));
+        testing::putFile(photograph(name), bytes);
     }
     static QString name(int index)
     {

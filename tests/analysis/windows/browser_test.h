@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "analysis/windows/analysis_widget.h"
@@ -5,6 +6,8 @@
 #include "platform/removable_drives.h"
 #include "resources/resources.h"
 #include "tests/analysis/photograph_writer.h"
+#include "tests/support/folder.h"
+#include "tests/support/parts.h"
 #include "tests/support/test_run.h"
 
 #include <QListWidget>
@@ -36,19 +39,12 @@ protected:
         return root;
     }
 
-    static void write(const QString& path, const QByteArray& bytes)
-    {
-        QFile out(path);
-        if (!out.open(QIODevice::WriteOnly) || out.write(bytes) != bytes.size())
-            qFatal("%s", qPrintable(path));
-    }
-
     static void addPhotographs(const QString& root, const QStringList& names,
                                const Shot& shot = Shot())
     {
         const QByteArray bytes = photographBytes(shot);
         for (const QString& name : names)
-            write(root + QStringLiteral("DCIM_100/") + name, bytes);
+            putFile(root + QStringLiteral("DCIM_100/") + name, bytes);
     }
 
     void openWindow(QObject* owner = nullptr)
@@ -62,10 +58,7 @@ protected:
     template<typename T>
     T& child(const char* name) const
     {
-        auto* found = window->findChild<T*>(QLatin1String(name));
-        if (!found)
-            qFatal("no child named %s", name);
-        return *found;
+        return *testing::part<T>(window.get(), name);
     }
     QListWidget& driveList() const { return child<QListWidget>("listWidget"); }
     QTabWidget& tabs() const { return child<QTabWidget>("tabWidget"); }

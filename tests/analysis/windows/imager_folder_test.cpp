@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/analysis/windows/browser_test.h"
 
 #ifndef Q_OS_WIN
@@ -15,7 +16,7 @@ private slots:
         // Not even what the working directory may hold.
         const QString before = QDir::currentPath();
         QVERIFY(QDir::setCurrent(disks->path()));
-        write(QStringLiteral("a.bmp"), "x");
+        testing::putFile(QStringLiteral("a.bmp"), "x");
         openWindow();
         QVERIFY(QDir::setCurrent(before));
         QCOMPARE(driveList().count(), 0);
@@ -56,7 +57,7 @@ private slots:
         addPhotographs(root, {QStringLiteral("b.bmp"), QStringLiteral("a.bmp"),
                               QStringLiteral("C.BMP"), QStringLiteral("10.bmp")});
         for (const char* other : {"a.jpg", "bmp", "a.bmp.txt", "a.bmpx"})
-            write(folder + QLatin1String(other), "x");
+            testing::putFile(folder + QLatin1String(other), "x");
         QVERIFY(QDir().mkpath(folder + QStringLiteral("folder.bmp")));
         testing::LogRecorder log;
         openWindow();
@@ -116,7 +117,7 @@ private slots:
     {
         QFETCH(QString, folder);
         const QString root = addDrive(QStringLiteral("disk"), folder);
-        write(root + folder + QStringLiteral("/a.bmp"), "x");
+        testing::putFile(root + folder + QStringLiteral("/a.bmp"), "x");
         openWindow();
         QCOMPARE(window->imageFolder, root + QStringLiteral("DCIM_100"));
         QCOMPARE(window->modelIndex, -1);

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/analysis/windows/browser_test.h"
 
 #include <QLabel>
@@ -96,11 +97,11 @@ private slots:
         Shot other;
         other.machineId = 7;
         if (kind == QLatin1String("another machine"))
-            write(bad, photographBytes(other));
+            testing::putFile(bad, photographBytes(other));
         else if (kind == QLatin1String("empty"))
-            write(bad, {});
+            testing::putFile(bad, {});
         else if (kind == QLatin1String("cut"))
-            write(bad, photographBytes(Shot()).left(307766));
+            testing::putFile(bad, photographBytes(Shot()).left(307766));
         openWindow();
         window->list_item_doubleclicked(list()->item(1));
         QVERIFY(opened());
@@ -128,7 +129,7 @@ private slots:
 
     void theWindowMayGoWhileTheWarningIsUp()
     {
-        write(addDrive(QStringLiteral("disk")) + QStringLiteral("DCIM_100/a.bmp"), "x");
+        testing::putFile(addDrive(QStringLiteral("disk")) + QStringLiteral("DCIM_100/a.bmp"), "x");
         openWindow();
         const QRect place = list()->visualItemRect(list()->item(0));
         QTest::mouseClick(list()->viewport(), Qt::LeftButton, {}, place.center());

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "analysis/windows/analysis_widget.h"
 #include "config/configuration_record.h"
 #include "dialogs/dialogs.h"
@@ -6,6 +7,7 @@
 #include "tests/analysis/pdf_reader.h"
 #include "tests/analysis/photograph_writer.h"
 #include "tests/support/dialogs.h"
+#include "tests/support/folder.h"
 #include "tests/support/test_run.h"
 
 #include <QComboBox>
@@ -49,7 +51,7 @@ private slots:
         };
         shot.markers = {60, 80, 180, 240, 121, 161};
         const QString photograph = testing::profile().home() + "/IR_00007.bmp";
-        putFile(photograph, testing::photographBytes(shot));
+        testing::putFile(photograph, testing::photographBytes(shot));
         QVERIFY(m_window->set_Image_addr(photograph, 0));
     }
     void cleanup() { m_window.reset(); }
@@ -75,7 +77,7 @@ private slots:
             QCOMPARE(dialog.nameFilters(), QStringList("Items files(*.pdf)"));
             QCOMPARE(dialog.directory().absolutePath(), config::documentsPath());
             QCOMPARE(dialog.acceptMode(), QFileDialog::AcceptSave);
-            choose(dialog, "отчёт 报告.pdf");
+            testing::choose(dialog, "отчёт 报告.pdf");
         });
         Answer<QMessageBox> message([this](QMessageBox& box) {
             QCOMPARE(box.parentWidget(), m_window.get());
@@ -197,7 +199,7 @@ private slots:
         QVERIFY(QDir().mkpath(folder));
         Answer<QFileDialog> file([&](QFileDialog& dialog) {
             dialog.setDirectory(folder);
-            choose(dialog, "report.pdf");
+            testing::choose(dialog, "report.pdf");
             QVERIFY(QDir().rmdir(folder));
         });
         Answer<QMessageBox> message([](QMessageBox& box) { box.accept(); });
@@ -220,7 +222,8 @@ private slots:
 
     void theReportOpensThoughTheWindowHasEnded()
     {
-        Answer<QFileDialog> file([](QFileDialog& dialog) { choose(dialog, "отчёт 报告.pdf"); });
+        Answer<QFileDialog> file(
+            [](QFileDialog& dialog) { testing::choose(dialog, "отчёт 报告.pdf"); });
         const QPointer<Analysis_Widget> page = m_window.get();
         Answer<QMessageBox> message([this](QMessageBox&) { dialogs::end(m_window.release()); });
         click();
@@ -249,20 +252,7 @@ private slots:
     }
 
 private:
-    static void putFile(const QString& path, const QByteArray& bytes)
-    {
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
-
     static QString target() { return config::documentsPath() + "/отчёт 报告.pdf"; }
-
-    static void choose(QFileDialog& dialog, const QString& name)
-    {
-        dialog.findChild<QLineEdit*>("fileNameEdit")->setText(name);
-        static_cast<QDialog&>(dialog).accept();
-    }
 
     void click() { m_window->findChild<QPushButton*>("pushButton")->click(); }
 
@@ -291,7 +281,8 @@ private:
     bool save()
     {
         QFile::remove(target());
-        Answer<QFileDialog> file([](QFileDialog& dialog) { choose(dialog, "отчёт 报告.pdf"); });
+        Answer<QFileDialog> file(
+            [](QFileDialog& dialog) { testing::choose(dialog, "отчёт 报告.pdf"); });
         Answer<QMessageBox> message([](QMessageBox& box) { box.accept(); });
         click();
         return message.wasAsked();

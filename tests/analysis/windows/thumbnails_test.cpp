@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tests/analysis/windows/browser_test.h"
 
 using testing::photographBytes;
@@ -96,7 +97,7 @@ private slots:
         QByteArray bytes = photographBytes(Shot());
         testing::put(bytes, 18, 16000, 4);
         testing::put(bytes, 22, 16000, 4);
-        write(root + QStringLiteral("DCIM_100/a.bmp"), bytes);
+        testing::putFile(root + QStringLiteral("DCIM_100/a.bmp"), bytes);
         addPhotographs(root, {QStringLiteral("b.bmp")});
         openWindow();
         QTRY_VERIFY(!window->thumbnails.at(1).isNull());
@@ -107,9 +108,9 @@ private slots:
     {
         const QString root = addDrive(QStringLiteral("disk"));
         const QString folder = root + QStringLiteral("DCIM_100/");
-        write(folder + QStringLiteral("a.bmp"), "no picture");
-        write(folder + QStringLiteral("b.bmp"), {});
-        write(folder + QStringLiteral("c.bmp"), photographBytes(Shot()).left(3000));
+        testing::putFile(folder + QStringLiteral("a.bmp"), "no picture");
+        testing::putFile(folder + QStringLiteral("b.bmp"), {});
+        testing::putFile(folder + QStringLiteral("c.bmp"), photographBytes(Shot()).left(3000));
         QFile huge(folder + QStringLiteral("d.bmp"));
         QVERIFY(huge.open(QIODevice::WriteOnly));
         QVERIFY(huge.resize(Q_INT64_C(1) << 32));
