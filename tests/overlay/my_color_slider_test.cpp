@@ -192,7 +192,7 @@ private slots:
     {
         bar->setFocus();
         for (const int key : {Qt::Key_Up, Qt::Key_Down, Qt::Key_Space})
-            QTest::keyClick(bar, static_cast<Qt::Key>(key));
+            QTest::keyClick(bar, Qt::Key(key));
         QCOMPARE(bar->startValue, 0);
         QCOMPARE(bar->endValue, 255);
     }

@@ -217,7 +217,7 @@ private slots:
         draw(label, 4, onLabel(10, 10), onLabel(50, 50));
         label.setFocus(Qt::OtherFocusReason);
         for (const int key : {Qt::Key_Delete, Qt::Key_Space, Qt::Key_Return, Qt::Key_Left})
-            QTest::keyClick(&label, static_cast<Qt::Key>(key));
+            QTest::keyClick(&label, Qt::Key(key));
         QCOMPARE(label.rectList.size(), 1);
         QCOMPARE(label.currentType, QStringLiteral("R"));
     }

@@ -271,7 +271,7 @@ void EmbeddedResourcesTest::alarmIsAShortPlainRecording()
     int firstLoud = -1;
     int lastLoud = 0;
     for (int i = 0; i < samples; ++i) {
-        const int level = std::abs(int(static_cast<qint16>(littleEndian(wave, 44 + 2 * i, 2))));
+        const int level = std::abs(int(qint16(littleEndian(wave, 44 + 2 * i, 2))));
         peak = std::max(peak, level);
         if (level > 1000) {
             firstLoud = firstLoud < 0 ? i : firstLoud;
