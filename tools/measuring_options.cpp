@@ -27,6 +27,7 @@ std::optional<Unit> readUnit(CommandLine& line)
 std::vector<std::pair<const char*, std::optional<Unit>>> unitNames()
 {
     std::vector<std::pair<const char*, std::optional<Unit>>> names;
+    names.reserve(analysis::units.size());
     for (const analysis::UnitRow& row : analysis::units)
         names.emplace_back(row.letter, row.unit);
     return names;
