@@ -50,8 +50,10 @@ private slots:
     void listsRecordsInBothTabs();
     void refreshFollowsTheDisk();
     void refreshKeepsTheSelection();
+#ifndef Q_OS_WIN // where the library cannot set a folder's time of change
     void aNewRecordIsListedWithoutReadingTheFolder();
     void whatOthersChangeComesWithTheNextRecord();
+#endif
     void anotherFolder();
     void clickOnTheFirstTabDoesNothing();
     void doubleClickOpensTheFirstRecord();
@@ -59,7 +61,10 @@ private slots:
     void fiveThousandRecords();
 
 private:
-    QString path(const QString& name) const { return m_folder + QLatin1Char('/') + name; }
+    QString path(const QString& name) const
+    {
+        return m_folder + QLatin1Char('/') + name;
+    }
     void putRecord(const QString& name, const QByteArray& text,
                    const QMap<QString, QColor>& pictures) const
     {
@@ -125,6 +130,7 @@ void AlarmHistoryTest::refreshKeepsTheSelection()
     QCOMPARE(list->currentItem()->text(), first);
 }
 
+#ifndef Q_OS_WIN
 void AlarmHistoryTest::aNewRecordIsListedWithoutReadingTheFolder()
 {
     const Page page;
@@ -167,6 +173,7 @@ void AlarmHistoryTest::whatOthersChangeComesWithTheNextRecord()
     QVERIFY(page.rows("listWidget").contains(first));
     QVERIFY(!page.rows("listWidget").contains(gone));
 }
+#endif
 
 void AlarmHistoryTest::anotherFolder()
 {
