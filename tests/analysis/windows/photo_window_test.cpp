@@ -10,7 +10,6 @@
 #include <QScrollBar>
 #include <QTabBar>
 
-
 /// Stands in for the main window.
 class Owner : public QObject
 {
