@@ -298,12 +298,18 @@ private slots:
         const double ratio = bar->devicePixelRatioF();
         const auto darkestNear = [&](const QPointF& position) {
             int darkest = 255;
-            for (double dy = -1; dy <= 1; dy += 0.5 / ratio)
-                for (double dx = -1; dx <= 1; dx += 0.5 / ratio)
+            // A pixel to either side, in steps of half a device pixel.
+            const int steps = static_cast<int>(4 * ratio);
+            for (int row = 0; row <= steps; ++row) {
+                for (int column = 0; column <= steps; ++column) {
+                    const QPointF place =
+                        position + QPointF(column, row) / (2 * ratio) - QPointF(1, 1);
                     darkest = std::min(darkest, image
-                                                    .pixelColor(int((position.x() + dx) * ratio),
-                                                                int((position.y() + dy) * ratio))
+                                                    .pixelColor(static_cast<int>(place.x() * ratio),
+                                                                static_cast<int>(place.y() * ratio))
                                                     .lightness());
+                }
+            }
             return darkest;
         };
         for (const QPoint& tip : {bar->startMarker, bar->endMarker})
