@@ -10,9 +10,7 @@
 #include <sys/stat.h>
 
 using testing::anyPhotograph;
-using testing::Ended;
 using testing::Folder;
-using testing::thermaphoto;
 
 namespace {
 

@@ -217,15 +217,15 @@ void MeasureTest::everyKind()
     const int readCount = buffer.read(measured.photographPath);
     analysis::Photograph photograph;
     QVERIFY(analysis::read(buffer.bytes(), readCount, kind.settings.modelIndex, photograph));
-    overlay::Tools tools;
-    tools.pointList = {{"P0", 0, 0}, {"P1", 239, 319}, {"P2", 240, 320}};
-    tools.lineList = {{"L0", 3, 4, 200, 310}, {"L1", 239, 0, 0, 319}, {"L2", 7, 20, 7, 300}};
-    tools.rectList = {{"R0", 0, 0, 239, 319}};
-    tools.circleList = {
+    overlay::Tools placed;
+    placed.pointList = {{"P0", 0, 0}, {"P1", 239, 319}, {"P2", 240, 320}};
+    placed.lineList = {{"L0", 3, 4, 200, 310}, {"L1", 239, 0, 0, 319}, {"L2", 7, 20, 7, 300}};
+    placed.rectList = {{"R0", 0, 0, 239, 319}};
+    placed.circleList = {
         {"C0", 2, 2, 0, 0, 1}, {"C1", 120, 160, 0, 0, 1}, {"C2", 160, 240, 0, 0, 79}};
     const analysis::Conversion conversion = analysis::conversionFor(
         unitIndex, 0, photograph.parameters.unit, kind.settings.raw, analysis::unchanged);
-    const auto rows = toolRows(tools, photograph.temperatures, conversion);
+    const auto rows = toolRows(placed, photograph.temperatures, conversion);
 
     const QString unit = unitIndex == 1 ? QStringLiteral("F") : QStringLiteral("C");
     const QJsonObject object = measured.object({QStringLiteral("--unit"), unit});
