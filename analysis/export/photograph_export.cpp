@@ -71,7 +71,7 @@ std::vector<float> shownRows(const Photograph& photograph, Conversion conversion
     for (int y = 0; y < rows; ++y)
         for (int x = 0; x < columns; ++x)
             values.push_back(
-                shown(photograph.temperatures[std::size_t(temperatureIndex(x, y))], conversion));
+                shown(photograph.temperatures[temperatureIndex(x, y)], conversion));
     return values;
 }
 

@@ -63,7 +63,7 @@ void fillTemperatures(Photograph& photograph, ValueAt valueAt)
     for (int row = 0; row < rows; ++row) {
         for (int column = 0; column < columns; ++column) {
             const float value = valueAt(row, column);
-            photograph.temperatures[std::size_t(temperatureIndex(column, row))] = value;
+            photograph.temperatures[temperatureIndex(column, row)] = value;
             sum += double(value);
         }
     }

@@ -34,16 +34,16 @@ using Palette = std::array<Rgb, format::paletteEntries>;
 using Temperatures = std::array<float, format::grayBytes>;
 
 /// Where the temperature of pixel (x, y) stands. Inside the picture only.
-constexpr int temperatureIndex(int x, int y)
+constexpr std::size_t temperatureIndex(int x, int y)
 {
-    return x * format::rows + y;
+    return std::size_t(x * format::rows + y);
 }
 
 /// The temperature at (x, y), or of the nearest pixel inside for a position outside the picture.
 inline float nearestTemperature(const Temperatures& temperatures, int x, int y)
 {
-    return temperatures[std::size_t(temperatureIndex(std::clamp(x, 0, format::columns - 1),
-                                                     std::clamp(y, 0, format::rows - 1)))];
+    return temperatures[temperatureIndex(std::clamp(x, 0, format::columns - 1),
+                                         std::clamp(y, 0, format::rows - 1))];
 }
 
 /// The parameter block. Temperatures are tenths of a degree.

@@ -10,7 +10,7 @@
 namespace analysis {
 namespace {
 
-constexpr int radius = 15;
+constexpr int cornerRadius = 15;
 /// More than the largest screens show at once; about 24 MB.
 constexpr int mostKept = 256;
 /// Reading goes on for so long, in milliseconds, before other events have their turn.
@@ -21,24 +21,24 @@ const QPixmap& unread()
     static const QPixmap grey = [] {
         QPixmap plain(Thumbnails::size);
         plain.fill(QColor(238, 238, 238));
-        return Thumbnails::rounded(plain, Thumbnails::size, radius);
+        return Thumbnails::rounded(plain, Thumbnails::size, cornerRadius);
     }();
     return grey;
 }
 
 } // namespace
 
-QPixmap Thumbnails::rounded(const QPixmap& picture, const QSize& size, int radius)
+QPixmap Thumbnails::rounded(const QPixmap& picture, const QSize& shape, int radius)
 {
     if (picture.isNull())
         return picture;
-    const QPixmap scaled = picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    QPixmap rounded(size);
+    const QPixmap scaled = picture.scaled(shape, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    QPixmap rounded(shape);
     rounded.fill(Qt::transparent);
     QPainter painter(&rounded);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
     QPainterPath outline;
-    outline.addRoundedRect(QRect(QPoint(), size), radius, radius, Qt::AbsoluteSize);
+    outline.addRoundedRect(QRect(QPoint(), shape), radius, radius, Qt::AbsoluteSize);
     painter.setClipPath(outline);
     painter.drawPixmap(0, 0, scaled);
     return rounded;
@@ -92,7 +92,7 @@ void Thumbnails::readRequested()
 
 void Thumbnails::read(int index)
 {
-    m_pictures[index] = rounded(files::pictureInFile(m_paths.at(index)), size, radius);
+    m_pictures[index] = rounded(files::pictureInFile(m_paths.at(index)), size, cornerRadius);
     m_isRead[index] = true;
     m_kept.enqueue(index);
     if (m_kept.size() > mostKept) {

@@ -26,9 +26,9 @@ public:
     /// a list, also within the wider padding of the one under the mouse.
     static constexpr QSize size{132, 176};
 
-    /// Scaled to `size`, whatever the shape, with corners of this radius, in pixels. A null picture
+    /// Scaled to `shape`, its proportions not kept, with corners of this radius, in pixels. A null picture
     /// comes back as it is.
-    static QPixmap rounded(const QPixmap& picture, const QSize& size, int radius);
+    static QPixmap rounded(const QPixmap& picture, const QSize& shape, int radius);
 
     /// Keeps the thumbnails in `pictures`, which must outlive it: one for each photograph, null
     /// until it is read and again when it is not kept. `isInView` tells whether the user can see
