@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "overlay/tool_rules.h"
 
-#include "overlay/label_geometry.h"
-
-#include <algorithm>
 #include <cstdlib>
 
 namespace overlay {
@@ -20,13 +17,6 @@ bool between(int value, int end, int otherEnd)
 bool strictlyBetween(int value, int end, int otherEnd)
 {
     return std::min(end, otherEnd) < value && value < std::max(end, otherEnd);
-}
-
-template<typename Cornered>
-PixelBox boxOfCorners(const Cornered& tool)
-{
-    return {std::min(tool.x1, tool.x2), std::max(tool.x1, tool.x2), std::min(tool.y1, tool.y2),
-            std::max(tool.y1, tool.y2)};
 }
 
 template<typename Cornered>
@@ -60,8 +50,8 @@ bool hits(const LineTool& line, const Press& press)
 {
     if (!between(press.x, line.x1, line.x2) || !between(press.y, line.y1, line.y2))
         return false;
-    const std::optional<int> distance = truncatedDistance(line, press.x, press.y);
-    return distance && *distance <= lineReach;
+    const std::optional<double> squared = squaredDistance(line, press.x, press.y);
+    return squared && isWithin(lineReach, *squared);
 }
 
 bool hits(const RectTool& rect, const Press& press)
@@ -71,23 +61,7 @@ bool hits(const RectTool& rect, const Press& press)
 
 bool hits(const CircleTool& circle, const Press& press)
 {
-    return circle.radius >= truncatedDistance(circle.cx, circle.cy, press.x, press.y);
-}
-
-PixelBox boxOf(const LineTool& line)
-{
-    return boxOfCorners(line);
-}
-
-PixelBox boxOf(const RectTool& rect)
-{
-    return boxOfCorners(rect);
-}
-
-PixelBox boxOf(const CircleTool& circle)
-{
-    return {circle.cx - circle.radius, circle.cx + circle.radius, circle.cy - circle.radius,
-            circle.cy + circle.radius};
+    return covers(circle, press.x, press.y);
 }
 
 bool isUnfinished(const PointTool& point)
@@ -177,7 +151,7 @@ bool isInside(const CircleTool& circle)
 
 std::optional<int> draggedRadius(int cx, int cy, int x, int y)
 {
-    const int radius = truncatedDistance(cx, cy, x, y);
+    const int radius = int(std::sqrt(squaredDistance(cx, cy, x, y)));
     const bool fits =
         cx + radius < imageColumns && cx - radius > 0 && cy + radius < imageRows && cy - radius > 0;
     return fits ? std::optional<int>(radius) : std::nullopt;

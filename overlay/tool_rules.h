@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "overlay/label_geometry.h"
 #include "overlay/tools.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <optional>
@@ -14,18 +16,25 @@ namespace overlay {
 
 // Distances
 
-/// The Euclidean distance in whole pixels, toward zero.
-inline int truncatedDistance(int x1, int y1, int x2, int y2)
+/// The Euclidean distance, squared: whole, and below 2^53 exact.
+inline double squaredDistance(int x1, int y1, int x2, int y2)
 {
     const double dx = double(x2) - x1;
     const double dy = double(y2) - y1;
-    return int(std::sqrt(dx * dx + dy * dy));
+    return dx * dx + dy * dy;
 }
 
-/// The truncated distance of (x, y) from the infinite line through the tool's ends, measured to the
+/// Whether the distance, cut to whole pixels, is at most `most`. Without a root, because tables ask
+/// it of every pixel.
+inline bool isWithin(int most, double squaredDistance)
+{
+    return most >= 0 && squaredDistance < (most + 1.0) * (most + 1.0);
+}
+
+/// The squared distance of (x, y) from the infinite line through the tool's ends, measured to the
 /// foot of the perpendicular with each of its coordinates truncated toward the start. Nothing when
 /// the ends coincide: such a line has no direction.
-inline std::optional<int> truncatedDistance(const LineTool& line, int x, int y)
+inline std::optional<double> squaredDistance(const LineTool& line, int x, int y)
 {
     const double dx = double(line.x2) - line.x1;
     const double dy = double(line.y2) - line.y1;
@@ -35,7 +44,7 @@ inline std::optional<int> truncatedDistance(const LineTool& line, int x, int y)
     const double along = ((double(y) - line.y1) * dy + (double(x) - line.x1) * dx) / square;
     const int footX = line.x1 + int(dx * along);
     const int footY = line.y1 + int(dy * along);
-    return truncatedDistance(footX, footY, x, y);
+    return squaredDistance(footX, footY, x, y);
 }
 
 // What lies under the pointer
@@ -76,17 +85,45 @@ struct PixelBox
 };
 
 /// Outside its box a tool covers nothing. It may reach out of the picture.
-PixelBox boxOf(const LineTool& line);
-PixelBox boxOf(const RectTool& rect);
-PixelBox boxOf(const CircleTool& circle);
+template<typename Cornered>
+PixelBox boxOf(const Cornered& tool)
+{
+    return {std::min(tool.x1, tool.x2), std::max(tool.x1, tool.x2), std::min(tool.y1, tool.y2),
+            std::max(tool.y1, tool.y2)};
+}
+inline PixelBox boxOf(const CircleTool& circle)
+{
+    return {circle.cx - circle.radius, circle.cx + circle.radius, circle.cy - circle.radius,
+            circle.cy + circle.radius};
+}
+
+/// The part of the box that can hold covered pixels of column x. Those of a line lie less than
+/// 2 + √2 from it, because cutting moves the foot of the perpendicular by less than a pixel either
+/// way.
+template<typename Tool>
+PixelBox boxOfColumn(const Tool&, PixelBox box, int)
+{
+    return box;
+}
+inline PixelBox boxOfColumn(const LineTool& line, PixelBox box, int x)
+{
+    if (line.x1 == line.x2)
+        return box;
+    const double slope = (double(line.y2) - line.y1) / (double(line.x2) - line.x1);
+    const double middle = line.y1 + (double(x) - line.x1) * slope;
+    const double reach = 3.5 * std::sqrt(1.0 + slope * slope);
+    box.firstY = int(std::max<double>(box.firstY, std::floor(middle - reach)));
+    box.lastY = int(std::min<double>(box.lastY, std::ceil(middle + reach)));
+    return box;
+}
 
 /// Whether a pixel of the tool's box counts for its temperatures: less than two whole pixels from
 /// the line; anywhere in the rectangle; no more than `radius` whole pixels from the circle's
 /// centre.
 inline bool covers(const LineTool& line, int x, int y)
 {
-    const std::optional<int> distance = truncatedDistance(line, x, y);
-    return distance && *distance < 2;
+    const std::optional<double> squared = squaredDistance(line, x, y);
+    return squared && isWithin(1, *squared);
 }
 inline bool covers(const RectTool&, int, int)
 {
@@ -94,7 +131,22 @@ inline bool covers(const RectTool&, int, int)
 }
 inline bool covers(const CircleTool& circle, int x, int y)
 {
-    return truncatedDistance(circle.cx, circle.cy, x, y) <= circle.radius;
+    return isWithin(circle.radius, squaredDistance(circle.cx, circle.cy, x, y));
+}
+
+/// Calls visit(x, y) for every pixel inside the picture that a line, rectangle or circle covers:
+/// column after column from left to right, and down each.
+template<typename Tool, typename Visit>
+void forEachPixel(const Tool& tool, Visit visit)
+{
+    const PixelBox box = boxOf(tool);
+    for (int x = std::max(box.firstX, 0); x <= std::min(box.lastX, imageColumns - 1); ++x) {
+        const PixelBox column = boxOfColumn(tool, box, x);
+        const int last = std::min(column.lastY, imageRows - 1);
+        for (int y = std::max(column.firstY, 0); y <= last; ++y)
+            if (covers(tool, x, y))
+                visit(x, y);
+    }
 }
 
 // What the mouse makes of a tool

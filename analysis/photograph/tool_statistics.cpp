@@ -24,23 +24,18 @@ constexpr float highBeforeAll(overlay::ToolKind kind)
 template<typename Tool>
 AreaStatistics measured(const Tool& tool, const Temperatures& temperatures)
 {
-    const overlay::PixelBox box = overlay::boxOf(tool);
     float high = highBeforeAll(Tool::kind);
     float low = lowBeforeAll;
     float sum = 0.0F;
     int pixels = 0;
-    for (int x = std::max(box.firstX, 0); x <= std::min(box.lastX, columns - 1); ++x) {
-        for (int y = std::max(box.firstY, 0); y <= std::min(box.lastY, rows - 1); ++y) {
-            if (!overlay::covers(tool, x, y))
-                continue;
-            const float temperature = temperatures[temperatureIndex(x, y)];
-            // As comparisons, so that not-a-number changes neither.
-            high = temperature > high ? temperature : high;
-            low = temperature < low ? temperature : low;
-            sum += temperature;
-            ++pixels;
-        }
-    }
+    overlay::forEachPixel(tool, [&](int x, int y) {
+        const float temperature = temperatures[temperatureIndex(x, y)];
+        // As comparisons, so that not-a-number changes neither.
+        high = temperature > high ? temperature : high;
+        low = temperature < low ? temperature : low;
+        sum += temperature;
+        ++pixels;
+    });
     return {high, low, pixels > 0 ? sum / float(pixels) : 0.0F, pixels};
 }
 

@@ -26,8 +26,8 @@ public:
     /// a list, also within the wider padding of the one under the mouse.
     static constexpr QSize size{132, 176};
 
-    /// Scaled to `shape`, its proportions not kept, with corners of this radius, in pixels. A null picture
-    /// comes back as it is.
+    /// Scaled to `shape`, its proportions not kept, with corners of this radius, in pixels. A null
+    /// picture comes back as it is.
     static QPixmap rounded(const QPixmap& picture, const QSize& shape, int radius);
 
     /// Keeps the thumbnails in `pictures`, which must outlive it: one for each photograph, null

@@ -412,8 +412,8 @@ private:
                                     ? QString()
                                     : whyNoMounts + testing::MountedDisk::missing(Kind(kind));
         if (!missing.isEmpty())
-            QSKIP(
-                qPrintable(QStringLiteral("NOT TESTED: cannot mount this disk here: ") + missing));
+            QSKIP(qPrintable(QStringLiteral("NOT TESTED: cannot mount this disk here: ") + missing),
+                  "");
         m_disk = std::make_unique<testing::MountedDisk>(Kind(kind), megabytes);
         const bool direct = Kind(kind) == Kind::Folder || Kind(kind) == Kind::Faulty;
         if (!direct)

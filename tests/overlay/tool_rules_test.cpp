@@ -87,18 +87,18 @@ private slots:
     void aLineWithoutDirectionIsNotHit()
     {
         QVERIFY(!hits(line(10, 10, 10, 10), {10, 10}));
-        QVERIFY(!truncatedDistance(line(10, 10, 10, 10), 10, 10));
+        QVERIFY(!squaredDistance(line(10, 10, 10, 10), 10, 10));
     }
 
     /// The foot is cut off toward the start, so the two ends are not alike.
     void theFootIsCutOffTowardTheStart()
     {
         // (2, 0): along = 10/26, foot (trunc 1.92, 0) = (1, 0)
-        QCOMPARE(truncatedDistance(line(0, 0, 5, 1), 2, 0).value(), 1);
+        QCOMPARE(squaredDistance(line(0, 0, 5, 1), 2, 0).value(), 1.0);
         // (3, 3) from (0, 0)–(5, 1): along = 18/26, foot (3, 0)
-        QCOMPARE(truncatedDistance(line(0, 0, 5, 1), 3, 3).value(), 3);
-        // the same line from its other end: along = 8/26, foot (5 − 1, 1 − 0) = (4, 1), √5 → 2
-        QCOMPARE(truncatedDistance(line(5, 1, 0, 0), 3, 3).value(), 2);
+        QCOMPARE(squaredDistance(line(0, 0, 5, 1), 3, 3).value(), 9.0);
+        // the same line from its other end: along = 8/26, foot (5 − 1, 1 − 0) = (4, 1)
+        QCOMPARE(squaredDistance(line(5, 1, 0, 0), 3, 3).value(), 5.0);
     }
 
     void rectanglesAreHitStrictlyInside_data()
@@ -178,6 +178,7 @@ private slots:
     {
         QCOMPARE(draggedRadius(120, 160, 123, 164).value(), 5);
         QCOMPARE(draggedRadius(120, 160, 120, 160).value(), 0);
+        QCOMPARE(draggedRadius(120, 160, 122, 162).value(), 2); // 2.83, cut off
         QCOMPARE(draggedRadius(200, 160, 239, 160).value(), 39); // touches column 239
         QVERIFY(!draggedRadius(200, 160, 240, 160));
         QCOMPARE(draggedRadius(40, 160, 79, 160).value(), 39); // leaves column 0 free
