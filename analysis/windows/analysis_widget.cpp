@@ -11,7 +11,7 @@
 #include "dialogs/dialogs.h"
 #include "files/paths.h"
 
-#include "ui_analysis_widget.h"
+#include "windows/ui_analysis_widget.h"
 
 #include <QColorDialog>
 #include <QDebug>

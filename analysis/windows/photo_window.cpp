@@ -10,7 +10,7 @@
 #include "files/paths.h"
 #include "platform/removable_drives.h"
 
-#include "ui_photo_window.h"
+#include "windows/ui_photo_window.h"
 
 #include <QContextMenuEvent>
 #include <QDebug>
