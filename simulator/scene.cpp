@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "simulator/scene.h"
 
-#include <QtGlobal>
+#include <opencv2/imgproc.hpp>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <random>
 
@@ -12,14 +13,6 @@ namespace {
 
 /// How far a layer may be shifted.
 constexpr int margin = 18;
-constexpr int canvasColumns = fieldColumns + 2 * margin;
-constexpr int canvasRows = fieldRows + 2 * margin;
-constexpr int canvasSize = canvasColumns * canvasRows;
-
-constexpr std::size_t canvasIndex(int column, int row)
-{
-    return std::size_t(row) * canvasColumns + std::size_t(column);
-}
 
 /// Pixels over which the lens blurs an edge.
 constexpr double lensBlur = 2.4;
@@ -55,87 +48,66 @@ void addPlume(Field& field, double x, double y, double rise, double spread, doub
 
 } // namespace
 
-Scene::Layer::Layer()
-    : clear(std::size_t(canvasSize), 1.0F), own(std::size_t(canvasSize), 0.0F),
-      share(std::size_t(canvasSize), 0.0F)
+void Scene::Layer::paint(const Shape& distance, const Shape& own, const Shape& share)
 {
-}
-
-void Scene::Layer::paint(const Shape& distance, const Shape& ownTemperature, const Shape& hotShare)
-{
-    for (int row = 0; row < canvasRows; ++row)
-        for (int column = 0; column < canvasColumns; ++column) {
+    if (canvas.empty())
+        canvas = cv::Mat3f(fieldRows + 2 * margin, fieldColumns + 2 * margin, {1, 0, 0});
+    for (int row = 0; row < canvas.rows; ++row)
+        for (int column = 0; column < canvas.cols; ++column) {
             const double x = column - margin;
             const double y = row - margin;
             const double cover = std::clamp(0.5 - distance(x, y) / lensBlur, 0.0, 1.0);
             if (cover <= 0)
                 continue;
-            const double part = std::clamp(hotShare(x, y), 0.0, 1.0);
-            const auto at = canvasIndex(column, row);
-            const auto keep = float(1 - cover);
-            clear[at] *= keep;
-            own[at] = own[at] * keep + float(cover * (1 - part) * ownTemperature(x, y));
-            share[at] = share[at] * keep + float(cover * part);
+            const double part = std::clamp(share(x, y), 0.0, 1.0);
+            const cv::Vec3d painted(0, (1 - part) * own(x, y), part);
+            canvas(row, column) = (1 - cover) * cv::Vec3d(canvas(row, column)) + cover * painted;
         }
 }
 
 void Scene::Layer::compose(Field& field, double dx, double dy, float hotSpot) const
 {
-    const double left = std::clamp(margin - dx, 0.0, 2.0 * margin - 1);
-    const double top = std::clamp(margin - dy, 0.0, 2.0 * margin - 1);
-    const auto fx = float(left - std::floor(left));
-    const auto fy = float(top - std::floor(top));
-    const float w00 = (1 - fx) * (1 - fy);
-    const float w10 = fx * (1 - fy);
-    const float w01 = (1 - fx) * fy;
-    const float w11 = fx * fy;
-    const auto sample = [=](const float* at) {
-        return w00 * at[0] + w10 * at[1] + w01 * at[canvasColumns] + w11 * at[canvasColumns + 1];
-    };
-    for (int row = 0; row < fieldRows; ++row) {
-        const auto start = canvasIndex(int(left), row + int(top));
-        float* out = field.data() + std::size_t(row) * fieldColumns;
-        const float* clearRow = clear.data() + start;
-        const float* ownRow = own.data() + start;
-        const float* shareRow = share.data() + start;
-        for (int column = 0; column < fieldColumns; ++column)
-            out[column] = out[column] * sample(clearRow + column) + sample(ownRow + column) +
-                          hotSpot * sample(shareRow + column);
-    }
+    cv::Mat3f moved;
+    const cv::Point2d middle((fieldColumns - 1) / 2.0 + margin - dx,
+                             (fieldRows - 1) / 2.0 + margin - dy);
+    cv::getRectSubPix(canvas, {fieldColumns, fieldRows}, middle, moved);
+    std::transform(field.begin(), field.end(), moved.begin(), field.begin(),
+                   [hotSpot](float behind, const cv::Vec3f& layer) {
+                       return behind * layer[0] + layer[1] + hotSpot * layer[2];
+                   });
+}
+
+struct Scene::Row
+{
+    const char* title;
+    double usualHotSpot;
+    void (Scene::*build)();
+};
+
+const Scene::Row& Scene::rowOf(SceneKind kind)
+{
+    static constexpr std::array<Row, 4> rows{
+        {{"Warm cable joint in a switchboard", 68, &Scene::buildCableJoint},
+         {"Draughty window over a radiator", 46, &Scene::buildWindow},
+         {"Person", 36.4, &Scene::buildPerson},
+         {"Motor with a worn bearing", 84, &Scene::buildMotor}}};
+    return rows.at(std::size_t(kind));
 }
 
 Scene::Scene(SceneKind kind, unsigned seed) : m_kind(kind)
 {
-    switch (kind) {
-    case SceneKind::CableJoint:
-        buildCableJoint();
-        break;
-    case SceneKind::Window:
-        buildWindow();
-        break;
-    case SceneKind::Person:
-        buildPerson();
-        break;
-    case SceneKind::Motor:
-        buildMotor();
-        break;
-    }
+    (this->*rowOf(kind).build)();
     buildNoise(seed);
+}
+
+double Scene::usualHotSpot() const
+{
+    return rowOf(m_kind).usualHotSpot;
 }
 
 QString Scene::title(SceneKind kind)
 {
-    switch (kind) {
-    case SceneKind::CableJoint:
-        return QStringLiteral("Warm cable joint in a switchboard");
-    case SceneKind::Window:
-        return QStringLiteral("Draughty window over a radiator");
-    case SceneKind::Person:
-        return QStringLiteral("Person");
-    case SceneKind::Motor:
-        return QStringLiteral("Motor with a worn bearing");
-    }
-    return {};
+    return QString::fromLatin1(rowOf(kind).title);
 }
 
 void Scene::buildNoise(unsigned seed)
@@ -192,7 +164,7 @@ Field Scene::field(double seconds, double hotSpot) const
 
     Field field(std::size_t(fieldSize), 0.0F);
     m_background.compose(field, swayX, swayY, float(hotSpot));
-    if (m_kind == SceneKind::Person || m_kind == SceneKind::Motor)
+    if (!m_subject.canvas.empty())
         m_subject.compose(field, moveX, moveY, float(hotSpot));
     addMovingAir(field, seconds, hotSpot, moveX, moveY);
 

@@ -5,6 +5,8 @@
 
 #include <QString>
 
+#include <opencv2/core.hpp>
+
 #include <functional>
 #include <vector>
 
@@ -46,7 +48,7 @@ public:
 
     SceneKind kind() const { return m_kind; }
     /// The temperature this hot spot usually has, °C.
-    double usualHotSpot() const { return m_usualHotSpot; }
+    double usualHotSpot() const;
     /// What it shows, in English.
     static QString title(SceneKind kind);
 
@@ -55,11 +57,11 @@ public:
 
 private:
     /// A thing, or all that stands still, on a canvas larger than the picture, so that it can be
-    /// shifted: what it lets through from behind, its own temperature and its share in the hot
-    /// spot, weighted so that picture = behind × clear + own + hotSpot × share.
+    /// shifted. Three numbers for each pixel: what it lets through from behind, its own temperature
+    /// and its share in the hot spot, weighted so that
+    /// picture = behind × clear + own + hotSpot × share.
     struct Layer
     {
-        Layer();
         using Shape = std::function<double(double x, double y)>;
         /// Paints a shape over what is there. `distance` is the signed distance from its edge in
         /// pixels, negative inside; `own` in °C and `share` 0 … 1 belong to a point of the picture.
@@ -67,9 +69,7 @@ private:
         /// The layer moved by (dx, dy) pixels, over `field`.
         void compose(Field& field, double dx, double dy, float hotSpot) const;
 
-        std::vector<float> clear;
-        std::vector<float> own;
-        std::vector<float> share;
+        cv::Mat3f canvas; ///< empty before something is painted
     };
 
     void buildCableJoint();
@@ -77,10 +77,12 @@ private:
     void buildPerson();
     void buildMotor();
     void buildNoise(unsigned seed);
+
+    struct Row;
+    static const Row& rowOf(SceneKind kind);
     void addMovingAir(Field& field, double seconds, double hotSpot, double dx, double dy) const;
 
     SceneKind m_kind;
-    double m_usualHotSpot = 0;
     Layer m_background;
     Layer m_subject; ///< moves by itself; empty where nothing does
     std::vector<float> m_noise;
