@@ -73,48 +73,44 @@ void appendWord(QByteArray& frame, double value)
     frame.append(reinterpret_cast<const char*>(&word), sizeof word);
 }
 
+struct PaletteRow
+{
+    const char* title;
+    PaletteTable table;
+};
+
+const PaletteRow& rowOf(Palette palette)
+{
+    static const std::array<PaletteRow, 3> rows{
+        {{"Iron", interpolated({{0.00, 0, 0, 10},
+                                {0.14, 30, 0, 110},
+                                {0.32, 130, 0, 155},
+                                {0.50, 205, 45, 95},
+                                {0.66, 240, 105, 20},
+                                {0.82, 255, 180, 10},
+                                {0.93, 255, 235, 110},
+                                {1.00, 255, 255, 245}})},
+         {"Rainbow", interpolated({{0.00, 10, 0, 80},
+                                   {0.17, 0, 40, 230},
+                                   {0.36, 0, 200, 215},
+                                   {0.52, 25, 190, 40},
+                                   {0.68, 240, 230, 0},
+                                   {0.86, 240, 50, 0},
+                                   {1.00, 255, 225, 225}})},
+         {"White hot", interpolated({{0.0, 0, 0, 0}, {1.0, 255, 255, 255}})}}};
+    return rows.at(std::size_t(palette));
+}
+
 } // namespace
 
 const PaletteTable& paletteTable(Palette palette)
 {
-    static const PaletteTable iron = interpolated({{0.00, 0, 0, 10},
-                                                   {0.14, 30, 0, 110},
-                                                   {0.32, 130, 0, 155},
-                                                   {0.50, 205, 45, 95},
-                                                   {0.66, 240, 105, 20},
-                                                   {0.82, 255, 180, 10},
-                                                   {0.93, 255, 235, 110},
-                                                   {1.00, 255, 255, 245}});
-    static const PaletteTable rainbow = interpolated({{0.00, 10, 0, 80},
-                                                      {0.17, 0, 40, 230},
-                                                      {0.36, 0, 200, 215},
-                                                      {0.52, 25, 190, 40},
-                                                      {0.68, 240, 230, 0},
-                                                      {0.86, 240, 50, 0},
-                                                      {1.00, 255, 225, 225}});
-    static const PaletteTable whiteHot = interpolated({{0.0, 0, 0, 0}, {1.0, 255, 255, 255}});
-    switch (palette) {
-    case Palette::Iron:
-        return iron;
-    case Palette::Rainbow:
-        return rainbow;
-    case Palette::WhiteHot:
-        break;
-    }
-    return whiteHot;
+    return rowOf(palette).table;
 }
 
 QString paletteTitle(Palette palette)
 {
-    switch (palette) {
-    case Palette::Iron:
-        return QStringLiteral("Iron");
-    case Palette::Rainbow:
-        return QStringLiteral("Rainbow");
-    case Palette::WhiteHot:
-        return QStringLiteral("White hot");
-    }
-    return {};
+    return QString::fromLatin1(rowOf(palette).title);
 }
 
 GrayPicture grayPicture(const Field& field, quint8 grayMinimum, quint8 grayMaximum)
@@ -152,20 +148,13 @@ GrayPicture grayPicture(const Field& field, quint8 grayMinimum, quint8 grayMaxim
 
 QImage falseColour(const QByteArray& gray, const PaletteTable& palette)
 {
-    std::array<QRgb, 256> table{};
-    std::transform(palette.begin(), palette.end(), table.begin(),
-                   [](quint16 entry) { return colour(entry).rgb(); });
-    QImage image(fieldColumns, fieldRows, QImage::Format_RGB888);
-    for (int row = 0; row < fieldRows; ++row) {
-        uchar* out = image.scanLine(row);
-        for (int column = 0; column < fieldColumns; ++column) {
-            const QRgb rgb = table[quint8(gray[row * fieldColumns + column])];
-            *out++ = uchar(qRed(rgb));
-            *out++ = uchar(qGreen(rgb));
-            *out++ = uchar(qBlue(rgb));
-        }
-    }
-    return image;
+    QVector<QRgb> colours;
+    for (const quint16 entry : palette)
+        colours.append(colour(entry).rgb());
+    QImage indexed(reinterpret_cast<const uchar*>(gray.constData()), fieldColumns, fieldRows,
+                   fieldColumns, QImage::Format_Indexed8);
+    indexed.setColorTable(colours);
+    return indexed.convertToFormat(QImage::Format_RGB888);
 }
 
 QByteArray liveFrame(const QByteArray& gray, const PaletteTable& palette,

@@ -25,13 +25,12 @@ void put(QByteArray& file, int offset, T value)
     file.replace(offset, sizeof value, reinterpret_cast<const char*>(&littleEndian), sizeof value);
 }
 
-/// A bottom-up bitmap without colour masks: 24 bits a pixel (BGR) or 16 (five bits a channel). Both
-/// row lengths are multiples of four already.
+/// A bottom-up bitmap without colour masks: 24 bits a pixel (BGR) or 16 (five bits a channel). In
+/// both, rows end at multiples of four bytes, as in a QImage.
 QByteArray bitmap(const QImage& picture, int bitsPerPixel)
 {
-    const int rowBytes = format::columns * bitsPerPixel / 8;
-    const int pixelBytes = rowBytes * format::rows;
-    QByteArray file(bitmapHeaderBytes + pixelBytes, '\0');
+    const int pixelBytes = format::columns * format::rows * bitsPerPixel / 8;
+    QByteArray file(bitmapHeaderBytes, '\0');
     file.replace(0, 2, "BM");
     put<quint32>(file, 10, bitmapHeaderBytes);
     put<quint32>(file, 14, 40);
@@ -40,17 +39,11 @@ QByteArray bitmap(const QImage& picture, int bitsPerPixel)
     put<quint16>(file, 26, 1);
     put<quint16>(file, 28, quint16(bitsPerPixel));
     put<quint32>(file, 34, quint32(pixelBytes));
-    const QImage converted =
-        picture.convertToFormat(bitsPerPixel == 24 ? QImage::Format_BGR888 : QImage::Format_RGB555);
-    for (int row = 0; row < format::rows; ++row) {
-        char* out = file.data() + bitmapHeaderBytes + qptrdiff(format::rows - 1 - row) * rowBytes;
-        const uchar* line = converted.constScanLine(row);
-        if (bitsPerPixel == 24)
-            std::copy_n(line, rowBytes, out);
-        else
-            qToLittleEndian<quint16>(line, format::columns, out);
-    }
-    return file;
+    QImage pixels = picture.mirrored().convertToFormat(bitsPerPixel == 24 ? QImage::Format_BGR888
+                                                                          : QImage::Format_RGB555);
+    if (bitsPerPixel == 16)
+        qToLittleEndian<quint16>(pixels.constBits(), pixelBytes / 2, pixels.bits());
+    return file.append(reinterpret_cast<const char*>(pixels.constBits()), pixelBytes);
 }
 
 qint16 tenths(double degrees)
