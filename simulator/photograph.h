@@ -16,9 +16,9 @@ struct PhotographSettings
     bool fahrenheit =
         false;             ///< the scale of the parameter block; the raw image is in kelvin always
     quint32 machineId = 5; ///< 5 and 6 are known to the analysis, others are refused
+    Palette palette = Palette::Iron;
     double emissivity = 0.95;
     int firmware10 = 12; ///< version × 10; kept where the layout has it
-    Palette palette = Palette::Iron;
 };
 
 /// A photograph of a field as the bytes of its file: a bitmap that any viewer opens, then the

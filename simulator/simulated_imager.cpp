@@ -6,8 +6,10 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 namespace simulator {
+
 SimulatedImager::SimulatedImager(QObject* parent) : QObject(parent)
 {
     setScene(SceneKind::CableJoint);
@@ -123,28 +125,16 @@ QString SimulatedImager::takePhotograph()
 
 void SimulatedImager::takeSamplePhotographs()
 {
-    struct Sample
-    {
-        SceneKind scene;
-        Palette palette;
-        bool raw;
-        bool fahrenheit;
-        quint32 machineId;
-    };
-    constexpr std::array<Sample, 5> samples{
-        {{SceneKind::CableJoint, Palette::Iron, false, false, 5},
-         {SceneKind::Motor, Palette::Rainbow, true, false, 6},
-         {SceneKind::Window, Palette::Rainbow, false, false, 5},
-         {SceneKind::Person, Palette::Iron, true, false, 6},
-         {SceneKind::Motor, Palette::WhiteHot, false, true, 5}}};
+    using Sample = std::pair<SceneKind, PhotographSettings>;
+    const std::array<Sample, 5> samples{
+        {{SceneKind::CableJoint, {0, false, false, 5, Palette::Iron}},
+         {SceneKind::Motor, {0, true, false, 6, Palette::Rainbow}},
+         {SceneKind::Window, {0, false, false, 5, Palette::Rainbow}},
+         {SceneKind::Person, {0, true, false, 6, Palette::Iron}},
+         {SceneKind::Motor, {0, false, true, 5, Palette::WhiteHot}}}};
     QDateTime takenAt = QDateTime::currentDateTime().addSecs(-3600);
-    for (const Sample& sample : samples) {
-        PhotographSettings settings;
-        settings.palette = sample.palette;
-        settings.raw = sample.raw;
-        settings.fahrenheit = sample.fahrenheit;
-        settings.machineId = sample.machineId;
-        const Scene scene(sample.scene);
+    for (const auto& [kind, settings] : samples) {
+        const Scene scene(kind);
         const QString path =
             m_disk.store(photograph(scene.field(1, scene.usualHotSpot()), settings),
                          settings.modelIndex, takenAt);
