@@ -28,6 +28,23 @@ void selectAt(ToolEditing& tools, const Press& press, const std::function<void()
     });
 }
 
+template<typename Change>
+bool changeSelected(ToolEditing& tools, Change&& change)
+{
+    const std::optional<ToolKind> kind = selectedKind(tools);
+    bool isChanged = false;
+    if (!kind)
+        return false;
+    visitTool(tools, *kind, tools.selectedIndex, [&](auto& tool) {
+        if (isUnfinished(tool))
+            return;
+        const auto before = tool;
+        change(tool);
+        isChanged = !(tool == before);
+    });
+    return isChanged;
+}
+
 } // namespace
 
 void setMode(ToolEditing& tools, int mode)
@@ -75,6 +92,39 @@ void removeSelectedTool(ToolEditing& tools)
 {
     prune(tools);
     removeSelected(tools);
+}
+
+bool moveSelected(ToolEditing& tools, int dx, int dy)
+{
+    return changeSelected(tools, [&](auto& tool) { shift(tool, dx, dy); });
+}
+
+bool moveSelectedEnd(ToolEditing& tools, int dx, int dy)
+{
+    return changeSelected(tools, [&](auto& tool) { shiftEnd(tool, dx, dy); });
+}
+
+void selectNext(ToolEditing& tools, int step)
+{
+    QVector<std::pair<ToolKind, int>> finished;
+    int place = -1;
+    const std::optional<ToolKind> kind = selectedKind(tools);
+    forEachList(tools, [&](const auto& list) {
+        for (int index = 0; index < list.size(); ++index) {
+            if (isUnfinished(list.at(index)))
+                continue;
+            if (kind == kindOf(list) && index == tools.selectedIndex)
+                place = finished.size();
+            finished.append({kindOf(list), index});
+        }
+    });
+    const int count = finished.size();
+    if (count == 0 || step == 0)
+        return;
+    if (place < 0)
+        place = step > 0 ? -1 : count;
+    const int next = (place + step % count + 2 * count) % count;
+    select(tools, finished.at(next).first, finished.at(next).second);
 }
 
 } // namespace overlay

@@ -34,4 +34,14 @@ void dragTo(ToolEditing& tools, int x, int y);
 /// Unfinished tools go, and then the selected one.
 void removeSelectedTool(ToolEditing& tools);
 
+/// What the keyboard does to the selected tool: it moves, or its end alone, a circle's radius; see
+/// shift() and shiftEnd(). Returns whether it did: not at an edge, and not without a finished tool.
+bool moveSelected(ToolEditing& tools, int dx, int dy);
+bool moveSelectedEnd(ToolEditing& tools, int dx, int dy);
+
+/// Selects the finished tool that lies `step` places after the selected one in the order of the
+/// kinds and lists, and from the last goes on with the first. With nothing selected, a step forward
+/// begins at the first, a step back at the last. Without any finished tool nothing changes.
+void selectNext(ToolEditing& tools, int step);
+
 } // namespace overlay

@@ -38,6 +38,45 @@ bool isInside(int x, int y)
     return x >= 0 && x <= imageColumns && y >= 0 && y <= imageRows;
 }
 
+/// As much of a step as keeps what reaches from `first` to `last` between the limits. What lies
+/// beyond one of them does not move further out.
+int stepWithin(int step, int first, int last, int lowest, int highest)
+{
+    return std::clamp(step, std::min(0, lowest - first), std::max(0, highest - last));
+}
+
+int stepAcross(int step, int first, int last)
+{
+    return stepWithin(step, first, last, 0, imageColumns - 1);
+}
+
+int stepDown(int step, int first, int last)
+{
+    return stepWithin(step, first, last, 0, imageRows - 1);
+}
+
+template<typename Cornered>
+void shiftBothEnds(Cornered& tool, int dx, int dy)
+{
+    const PixelBox box = boxOf(tool);
+    const int across = stepAcross(dx, box.firstX, box.lastX);
+    const int down = stepDown(dy, box.firstY, box.lastY);
+    tool.x1 += across;
+    tool.x2 += across;
+    tool.y1 += down;
+    tool.y2 += down;
+}
+
+template<typename Cornered>
+void shiftSecondEnd(Cornered& tool, int dx, int dy)
+{
+    Cornered shifted = tool;
+    shifted.x2 += stepAcross(dx, tool.x2, tool.x2);
+    shifted.y2 += stepDown(dy, tool.y2, tool.y2);
+    if (!isUnfinished(shifted))
+        tool = shifted;
+}
+
 } // namespace
 
 bool hits(const PointTool& point, const Press& press)
@@ -155,6 +194,55 @@ std::optional<int> draggedRadius(int cx, int cy, int x, int y)
     const bool fits =
         cx + radius < imageColumns && cx - radius > 0 && cy + radius < imageRows && cy - radius > 0;
     return fits ? std::optional<int>(radius) : std::nullopt;
+}
+
+void shift(PointTool& point, int dx, int dy)
+{
+    place(point, point.x + stepAcross(dx, point.x, point.x),
+          point.y + stepDown(dy, point.y, point.y));
+}
+
+void shift(LineTool& line, int dx, int dy)
+{
+    shiftBothEnds(line, dx, dy);
+}
+
+void shift(RectTool& rect, int dx, int dy)
+{
+    shiftBothEnds(rect, dx, dy);
+}
+
+/// The limits of draggedRadius().
+void shift(CircleTool& circle, int dx, int dy)
+{
+    const PixelBox box = boxOf(circle);
+    const int across = stepWithin(dx, box.firstX, box.lastX, 1, imageColumns - 1);
+    const int down = stepWithin(dy, box.firstY, box.lastY, 1, imageRows - 1);
+    circle.cx += across;
+    circle.x2 += across;
+    circle.cy += down;
+    circle.y2 += down;
+}
+
+void shiftEnd(PointTool&, int, int) {}
+
+void shiftEnd(LineTool& line, int dx, int dy)
+{
+    shiftSecondEnd(line, dx, dy);
+}
+
+void shiftEnd(RectTool& rect, int dx, int dy)
+{
+    shiftSecondEnd(rect, dx, dy);
+}
+
+void shiftEnd(CircleTool& circle, int dx, int dy)
+{
+    const int room = std::min(
+        {circle.cx - 1, imageColumns - 1 - circle.cx, circle.cy - 1, imageRows - 1 - circle.cy});
+    const double radius =
+        std::clamp<double>(circle.radius + double(dx) + dy, 1, std::max(room, circle.radius));
+    setNumbers(circle, {circle.cx, circle.cy, int(radius)});
 }
 
 void setNumbers(PointTool& point, const ToolNumbers& numbers)

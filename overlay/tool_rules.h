@@ -198,6 +198,24 @@ bool isInside(const CircleTool& circle);
 /// picture. It may touch the last column and row but not the first.
 std::optional<int> draggedRadius(int cx, int cy, int x, int y);
 
+// What the keyboard makes of a finished tool
+
+/// The whole tool moves by as much of the step as the picture has room for: positions 0 … 239 and
+/// 0 … 319, circles as far as they can be dragged. One that the mouse has left on 240 or 320 stays
+/// there until a step leads back.
+void shift(PointTool& point, int dx, int dy);
+void shift(LineTool& line, int dx, int dy);
+void shift(RectTool& rect, int dx, int dy);
+void shift(CircleTool& circle, int dx, int dy);
+
+/// The end alone moves, within the same limits, but never onto the start. A circle's radius grows
+/// with a step to the right or down, shrinks with one to the left or up, and is at least 1. A point
+/// has no second end.
+void shiftEnd(PointTool& point, int dx, int dy);
+void shiftEnd(LineTool& line, int dx, int dy);
+void shiftEnd(RectTool& rect, int dx, int dy);
+void shiftEnd(CircleTool& circle, int dx, int dy);
+
 // What files keep of a tool
 
 /// As many as the row of its kind says: a position, both ends, both corners; centre and radius.
