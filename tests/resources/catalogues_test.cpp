@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/resources/embedded_files.h"
 #include "tests/support/test_run.h"
+#include "tests/support/translation.h"
 
 #include <QColorDialog>
 #include <QFileInfo>
@@ -8,32 +9,10 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSet>
-#include <QTranslator>
 #include <QXmlStreamReader>
 
 using testing::addRows;
 using testing::catalogues;
-
-namespace {
-
-/// A translator that is installed while it lives.
-class Installed : public QTranslator
-{
-public:
-    explicit Installed(const QString& path) : m_loaded(load(path))
-    {
-        QCoreApplication::installTranslator(this);
-    }
-    ~Installed() override { QCoreApplication::removeTranslator(this); }
-    Installed(const Installed&) = delete;
-    Installed& operator=(const Installed&) = delete;
-    bool loaded() const { return m_loaded; }
-
-private:
-    bool m_loaded;
-};
-
-} // namespace
 
 /// The texts of the languages, ours and Qt's.
 class CataloguesTest : public QObject
@@ -45,8 +24,8 @@ private slots:
     void catalogueLoads()
     {
         QFETCH(QString, path);
-        const Installed translator(path);
-        QVERIFY(translator.loaded());
+        const testing::Translation translator(path);
+        QVERIFY(translator.isLoaded());
     }
 
     void catalogueHoldsWhatItsSourceSays_data()
@@ -56,9 +35,9 @@ private slots:
     void catalogueHoldsWhatItsSourceSays()
     {
         QFETCH(QString, path);
-        const Installed translator(path);
+        const testing::Translation translator(path);
         const QString name = QFileInfo(path).completeBaseName();
-        const QByteArray xml = testing::contents(CATALOGUE_SOURCES "/" + name + ".ts");
+        const QByteArray xml = testing::fileBytes(CATALOGUE_SOURCES "/" + name + ".ts");
         QXmlStreamReader source(xml);
         QByteArray context;
         QByteArray text;
@@ -133,7 +112,7 @@ private slots:
         QFETCH(QString, cancel);
         QFETCH(QString, yes);
         QFETCH(QString, colours);
-        const Installed translator(path);
+        const testing::Translation translator(path);
         const QMessageBox box(QMessageBox::Question, "", "",
                               QMessageBox::Ok | QMessageBox::Cancel | QMessageBox::Yes);
         QCOMPARE(box.button(QMessageBox::Ok)->text(), ok);

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "config/language.h"
+#include "tests/support/folder.h"
 
-#include <QFile>
 #include <QtTest>
 
 /// The files in the program, and what their tests share.
@@ -39,13 +39,6 @@ inline void addRows(const QStringList& paths)
     QTest::addColumn<QString>("path");
     for (const QString& path : paths)
         QTest::newRow(qUtf8Printable(path)) << path;
-}
-
-/// Empty where there is no such file.
-inline QByteArray contents(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 } // namespace testing

@@ -12,7 +12,7 @@
 
 using testing::addRows;
 using testing::catalogues;
-using testing::contents;
+using testing::fileBytes;
 using testing::icons;
 using testing::sounds;
 
@@ -42,7 +42,7 @@ private slots:
     void exists()
     {
         QFETCH(QString, path);
-        QVERIFY(!contents(path).isEmpty());
+        QVERIFY(!fileBytes(path).isEmpty());
     }
 
     void staysMissing_data()
@@ -93,7 +93,7 @@ private slots:
     void alarmIsAShortPlainRecording()
     {
         QFETCH(QString, path);
-        const QByteArray wave = contents(path);
+        const QByteArray wave = fileBytes(path);
         QVERIFY(wave.size() > 44);
         QCOMPARE(wave.left(4), QByteArray("RIFF"));
         QCOMPARE(littleEndian(wave, 4, 4), quint32(wave.size() - 8));
@@ -127,7 +127,7 @@ private slots:
     {
         QSet<QByteArray> recordings;
         for (const QString& path : sounds)
-            recordings.insert(contents(path));
+            recordings.insert(fileBytes(path));
         QCOMPARE(recordings.size(), sounds.size());
     }
 };

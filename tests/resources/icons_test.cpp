@@ -9,7 +9,7 @@
 #include <cstdlib>
 
 using testing::addRows;
-using testing::contents;
+using testing::fileBytes;
 using testing::icons;
 
 /// The pictures on buttons and in menus, and the strip of the palette.
@@ -61,7 +61,7 @@ private slots:
     {
         QHash<QByteArray, QString> seen;
         for (const QString& path : icons) {
-            const QByteArray bytes = contents(path);
+            const QByteArray bytes = fileBytes(path);
             QVERIFY2(!seen.contains(bytes), qPrintable(path + " is " + seen.value(bytes)));
             seen.insert(bytes, path);
         }

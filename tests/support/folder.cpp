@@ -13,6 +13,12 @@ void putFile(const QString& path, const QByteArray& bytes)
         qFatal("cannot write %s", qPrintable(path));
 }
 
+QByteArray fileBytes(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
 QString Folder::write(const QString& name, const QByteArray& bytes) const
 {
     QString path = *this / name;
@@ -22,8 +28,7 @@ QString Folder::write(const QString& name, const QByteArray& bytes) const
 
 QByteArray Folder::read(const QString& name) const
 {
-    QFile file(*this / name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return fileBytes(*this / name);
 }
 
 QStringList Folder::files() const

@@ -9,6 +9,9 @@ namespace testing {
 /// Writes a file, making its folder; the run ends when that fails.
 void putFile(const QString& path, const QByteArray& bytes);
 
+/// All that a file holds; empty where it cannot be read.
+QByteArray fileBytes(const QString& path);
+
 /// A folder that is gone after the test.
 class Folder
 {

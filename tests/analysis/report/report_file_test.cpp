@@ -11,14 +11,9 @@
 #include <sys/stat.h>
 
 using analysis::Report;
+using testing::fileBytes;
 
 namespace {
-
-QByteArray fileBytes(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 QStringList filesIn(const QString& folder)
 {
