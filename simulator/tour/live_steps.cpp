@@ -16,6 +16,7 @@
 #include <QPushButton>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTest>
 
 namespace tour {
 namespace {
@@ -26,217 +27,175 @@ camer_window& page(Walk& walk)
     return *walk.window().liveWindow();
 }
 
-/// The widgets of the live page that the walk uses, by their names in the form.
-struct Form
+/// A widget of the live page, by its name in the form.
+template<typename T>
+T& part(Walk& walk, const char* objectName)
 {
-    explicit Form(Walk& walk)
-        : picture(find<QLabel>(page(walk), "label_17")),
-          readOut(find<QLabel>(page(walk), "label_6")),
-          enableAlarm(find<QCheckBox>(page(walk), "checkBox")),
-          keepRecords(find<QCheckBox>(page(walk), "checkBox_3")),
-          stopAlarm(find<QPushButton>(page(walk), "pushButton_2")),
-          records(find<QListWidget>(page(walk), "listWidget")),
-          tabs(find<QTabWidget>(page(walk), "tabWidget").tabBar()),
-          history(find<QListWidget>(page(walk), "listWidget_2")),
-          pictures(find<QListWidget>(page(walk), "listWidget_3")),
-          recordPicture(find<QLabel>(page(walk), "label_18")),
-          recordMaximum(find<QLabel>(page(walk), "label_12")),
-          recordThreshold(find<QLabel>(page(walk), "label_14"))
-    {
-    }
-
-    QLabel& picture;
-    QLabel& readOut;
-    QCheckBox& enableAlarm;
-    QCheckBox& keepRecords;
-    QPushButton& stopAlarm;
-    QListWidget& records;
-    QTabBar* tabs;
-    QListWidget& history;
-    QListWidget& pictures;
-    QLabel& recordPicture;
-    QLabel& recordMaximum;
-    QLabel& recordThreshold;
-};
-
-bool clickRow(Walk& walk, QListWidget& list, int row)
-{
-    return walk.clickItem(list.viewport(), list.visualItemRect(list.item(row)));
+    return find<T>(page(walk), objectName);
 }
 
-bool awaitMovingPicture(Walk& walk)
+QLabel& readOut(Walk& walk)
+{
+    return part<QLabel>(walk, "label_6");
+}
+
+void clickRow(Walk& walk, QListWidget& list, int row)
+{
+    walk.click(*list.viewport(), list.visualItemRect(list.item(row)));
+}
+
+void awaitMovingPicture(Walk& walk)
 {
     const QImage before = page(walk).currentPixmap.toImage();
-    return walk.await(QStringLiteral("the live picture moves"), [&] {
+    walk.await("the live picture moves", [&] {
         const QPixmap& now = page(walk).currentPixmap;
         return !now.isNull() && now.toImage() != before;
     });
 }
 
-bool waitForAnImager(Walk& walk)
+void awaitColour(Walk& walk, const char* what, const char* colour)
 {
-    return walk.await(QStringLiteral("the main window is on the screen"), [&] {
-        return walk.window().isActiveWindow();
-    }) && walk.shoot(QStringLiteral("waiting"));
+    walk.await(what, [&] { return readOut(walk).styleSheet().contains(QLatin1String(colour)); });
 }
 
-bool plugTheCameraIn(Walk& walk)
+void plugTheCameraIn(Walk& walk)
 {
     walk.imager().setCameraPlugged(true);
-    return walk.awaitMode(device_poll::liveMode, QStringLiteral("live mode starts by itself")) &&
-           awaitMovingPicture(walk) &&
-           walk.await(QStringLiteral("the camera counts as running"),
-                      [&] { return page(walk).cameraRunning; }) &&
-           walk.shoot(QStringLiteral("live"));
+    walk.awaitMode(device_poll::liveMode);
+    awaitMovingPicture(walk);
+    walk.await("the camera counts as running", [&] { return page(walk).cameraRunning; });
+    walk.shoot("live");
 }
 
-bool useThePanel(Walk& walk)
+void useThePanel(Walk& walk)
 {
-    simulator::ControlPanel& panel = walk.panel();
-    panel.showBeside(walk.window());
+    walk.panel().showBeside(walk.window());
     walk.imager().setScene(simulator::SceneKind::Motor);
-    const bool isShot = walk.await(QStringLiteral("the read-out shows the motor's bearing"), [&] {
-        return Form(walk).readOut.text().toDouble() > 80;
-    }) && walk.shoot(QStringLiteral("simulator-panel"));
-    panel.hide();
+    walk.await("the read-out shows the motor's bearing",
+               [&] { return readOut(walk).text().toDouble() > 80; });
+    walk.shoot("simulator-panel");
+    walk.panel().hide();
     walk.imager().setScene(simulator::SceneKind::CableJoint);
-    return isShot;
 }
 
-bool fillTheScreen(Walk& walk)
+void fillTheScreenAndLeaveIt(Walk& walk)
 {
-    return walk.doubleClick(&Form(walk).picture) &&
-           walk.await(QStringLiteral("the live page fills the screen"),
-                      [&] { return page(walk).isFullScreen() && page(walk).isActiveWindow(); }) &&
-           awaitMovingPicture(walk) && walk.shoot(QStringLiteral("full-screen"));
+    walk.doubleClick(part<QLabel>(walk, "label_17"));
+    walk.await("the live page fills the screen",
+               [&] { return page(walk).isFullScreen() && page(walk).isActiveWindow(); });
+    awaitMovingPicture(walk);
+    walk.shoot("full-screen");
+
+    QTest::keyClick(&page(walk), Qt::Key_Escape);
+    walk.await("the live page is back in the main window",
+               [&] { return page(walk).window() == &walk.window() && page(walk).isVisible(); });
+    awaitMovingPicture(walk);
+    walk.shoot("back-from-full-screen");
 }
 
-bool leaveTheFullScreen(Walk& walk)
+void openTheMenus(Walk& walk)
 {
-    return walk.press(&page(walk), Qt::Key_Escape) &&
-           walk.await(
-               QStringLiteral("the live page is back in the main window"),
-               [&] { return page(walk).window() == &walk.window() && page(walk).isVisible(); }) &&
-           awaitMovingPicture(walk) && walk.shoot(QStringLiteral("back-from-full-screen"));
+    walk.openMenu(0);
+    walk.shoot("file-menu");
+    QTest::keyClick(walk.window().menuBar()->actions().at(0)->menu(), Qt::Key_Escape);
+    walk.openMenu(1);
+    walk.shoot("help-menu");
+    walk.chooseEntry(1, 0);
 }
 
-bool openTheMenus(Walk& walk)
+void raiseTheAlarm(Walk& walk)
 {
-    return walk.openMenu(0) && walk.shoot(QStringLiteral("file-menu")) &&
-           walk.press(walk.window().menuBar()->actions().at(0)->menu(), Qt::Key_Escape) &&
-           walk.openMenu(1) && walk.shoot(QStringLiteral("help-menu")) && walk.chooseEntry(1, 0);
-}
-
-bool raiseTheAlarm(Walk& walk)
-{
-    const Form form(walk);
-    const auto readOutIs = [&form](const char* colour) {
-        return form.readOut.styleSheet().contains(QLatin1String(colour));
-    };
-    const auto records = [] {
-        return live::recordNames(config::folderPath());
-    };
-    if (!walk.click(&form.enableAlarm) || !walk.click(&form.keepRecords) ||
-        !walk.await(QStringLiteral("alarm and alarm files are switched on"),
-                    [&] { return page(walk).alarmEnabled && page(walk).alarmFilesEnabled; }))
-        return false;
+    walk.click(part<QCheckBox>(walk, "checkBox"));
+    walk.click(part<QCheckBox>(walk, "checkBox_3"));
+    walk.await("alarm and alarm files are switched on",
+               [&] { return page(walk).alarmEnabled && page(walk).alarmFilesEnabled; });
     walk.imager().heatPastThreshold();
-    return walk.await(QStringLiteral("the read-out blinks: yellow on red"),
-                      [&] { return readOutIs("background-color: rgb(255, 0, 0)"); }) &&
-           walk.shoot(QStringLiteral("alarm")) &&
-           walk.await(QStringLiteral("the read-out blinks: red on white"),
-                      [&] { return readOutIs("color: rgb(255, 0, 0)"); }) &&
-           walk.await(QStringLiteral("one record is kept"),
-                      [&] { return records().size() == 1; }) &&
-           walk.await(QStringLiteral("the record is listed"),
-                      [&] {
-                          return form.records.count() == 1 &&
-                                 form.records.item(0)->text() == records().value(0);
-                      }) &&
-           walk.shoot(QStringLiteral("alarm-record"));
+    awaitColour(walk, "the read-out blinks: yellow on red", "background-color: rgb(255, 0, 0)");
+    walk.shoot("alarm");
+    awaitColour(walk, "the read-out blinks: red on white", "color: rgb(255, 0, 0)");
+    walk.await("one record is kept and listed", [&] {
+        const QStringList kept = live::recordNames(config::folderPath());
+        const auto& listed = part<QListWidget>(walk, "listWidget");
+        return kept.size() == 1 && listed.count() == 1 && listed.item(0)->text() == kept.first();
+    });
+    walk.shoot("alarm-record");
 }
 
-bool stopTheAlarm(Walk& walk)
+void stopTheAlarm(Walk& walk)
 {
-    const Form form(walk);
-    if (!walk.click(&form.stopAlarm) || !walk.await(QStringLiteral("the alarm is silent"),
-                                                    [&] { return page(walk).alarmSilenced; }))
-        return false;
+    walk.click(part<QPushButton>(walk, "pushButton_2"));
+    walk.await("the alarm is silent", [&] { return page(walk).alarmSilenced; });
     walk.imager().coolBelowThreshold();
-    return walk.await(QStringLiteral("the read-out is green again"),
-                      [&] {
-                          return form.readOut.styleSheet().contains(
-                              QStringLiteral("rgb(80, 180, 50)"));
-                      }) &&
-           walk.click(&form.enableAlarm) && walk.shoot(QStringLiteral("alarm-over"));
+    awaitColour(walk, "the read-out is green again", "rgb(80, 180, 50)");
+    walk.click(part<QCheckBox>(walk, "checkBox"));
+    walk.shoot("alarm-over");
 }
 
-bool lookBack(Walk& walk)
+void lookBackAtTheRecord(Walk& walk)
 {
-    const Form form(walk);
-    return walk.clickItem(form.tabs, form.tabs->tabRect(1)) &&
-           walk.await(QStringLiteral("the history tab opens"),
-                      [&] { return form.tabs->currentIndex() == 1; }) &&
-           clickRow(walk, form.history, 0) &&
-           walk.await(QStringLiteral("the record's seven pictures are listed"),
-                      [&] { return form.pictures.count() == live::recordPictures; }) &&
-           clickRow(walk, form.pictures, 0) &&
-           walk.await(QStringLiteral("the record's picture and read-outs are shown"),
-                      [&] {
-                          const QPixmap* shown = form.recordPicture.pixmap();
-                          return shown != nullptr && !shown->isNull() &&
-                                 form.recordMaximum.text().toDouble() >=
-                                     form.recordThreshold.text().toDouble();
-                      }) &&
-           walk.shoot(QStringLiteral("alarm-history")) &&
-           walk.clickItem(form.tabs, form.tabs->tabRect(0)) &&
-           walk.await(QStringLiteral("the live tab is back"),
-                      [&] { return form.tabs->currentIndex() == 0; });
+    QTabBar& tabs = *part<QTabWidget>(walk, "tabWidget").tabBar();
+    auto& pictures = part<QListWidget>(walk, "listWidget_3");
+    walk.click(tabs, tabs.tabRect(1));
+    walk.await("the history tab opens", [&] { return tabs.currentIndex() == 1; });
+    clickRow(walk, part<QListWidget>(walk, "listWidget_2"), 0);
+    walk.await("the record's seven pictures are listed",
+               [&] { return pictures.count() == live::recordPictures; });
+    clickRow(walk, pictures, 0);
+    walk.await("the record's picture and read-outs are shown", [&] {
+        const QPixmap* shown = part<QLabel>(walk, "label_18").pixmap();
+        return shown != nullptr && !shown->isNull() &&
+               part<QLabel>(walk, "label_12").text().toDouble() >=
+                   part<QLabel>(walk, "label_14").text().toDouble();
+    });
+    walk.shoot("alarm-history");
+    walk.click(tabs, tabs.tabRect(0));
+    walk.await("the live tab is back", [&] { return tabs.currentIndex() == 0; });
 }
 
-bool disconnectAndConnect(Walk& walk)
+void disconnectAndConnect(Walk& walk)
 {
-    return walk.openMenu(0) && walk.chooseEntry(0, 1) &&
-           walk.awaitMode(device_poll::noMode,
-                          QStringLiteral("the program lets go of the imager")) &&
-           walk.shoot(QStringLiteral("disconnected")) && walk.openMenu(0) &&
-           walk.chooseEntry(0, 0) &&
-           walk.awaitMode(device_poll::liveMode, QStringLiteral("live mode is back")) &&
-           awaitMovingPicture(walk) && walk.shoot(QStringLiteral("connected-again"));
+    walk.openMenu(0);
+    walk.chooseEntry(0, 1);
+    walk.awaitMode(device_poll::noMode);
+    walk.shoot("disconnected");
+    walk.openMenu(0);
+    walk.chooseEntry(0, 0);
+    walk.awaitMode(device_poll::liveMode);
+    awaitMovingPicture(walk);
+    walk.shoot("connected-again");
 }
 
-bool openTheSettings(Walk& walk)
+void openTheSettings(Walk& walk)
 {
-    if (!walk.openMenu(0) || !walk.chooseEntry(0, 2) ||
-        !walk.await(QStringLiteral("the settings are on the screen"),
-                    [&] { return walk.window().settingsDialog()->isActiveWindow(); }))
-        return false;
-    QComboBox& language = find<QComboBox>(*walk.window().settingsDialog(), "comboBox");
-    return walk.shoot(QStringLiteral("settings")) && walk.click(&language) &&
-           walk.await(QStringLiteral("the languages are offered"),
-                      [&] { return language.view()->isVisible(); }) &&
-           walk.shoot(QStringLiteral("settings-languages")) &&
-           walk.press(language.view(), Qt::Key_Escape) &&
-           walk.await(QStringLiteral("the list closes"),
-                      [&] { return !language.view()->isVisible(); }) &&
-           walk.window().settingsDialog()->close();
+    walk.openMenu(0);
+    walk.chooseEntry(0, 2);
+    walk.await("the settings are on the screen",
+               [&] { return walk.window().settingsDialog()->isActiveWindow(); });
+    walk.shoot("settings");
+    auto& language = find<QComboBox>(*walk.window().settingsDialog(), "comboBox");
+    walk.click(language);
+    walk.await("the languages are offered", [&] { return language.view()->isVisible(); });
+    walk.shoot("settings-languages");
+    QTest::keyClick(language.view(), Qt::Key_Escape);
+    walk.await("the list closes", [&] { return !language.view()->isVisible(); });
+    walk.window().settingsDialog()->close();
 }
 
 } // namespace
 
-std::vector<Step> liveSteps()
+void takeLiveSteps(Walk& walk)
 {
-    return {{"wait for an imager", waitForAnImager},
-            {"plug the camera in", plugTheCameraIn},
-            {"use the simulator's panel", useThePanel},
-            {"fill the screen", fillTheScreen},
-            {"leave the full screen", leaveTheFullScreen},
-            {"open the menus", openTheMenus},
-            {"raise the alarm", raiseTheAlarm},
-            {"stop the alarm", stopTheAlarm},
-            {"look back at the record", lookBack},
-            {"disconnect and connect", disconnectAndConnect},
-            {"open the settings", openTheSettings}};
+    walk.await("the main window is on the screen", [&] { return walk.window().isActiveWindow(); });
+    walk.shoot("waiting");
+    plugTheCameraIn(walk);
+    useThePanel(walk);
+    fillTheScreenAndLeaveIt(walk);
+    openTheMenus(walk);
+    raiseTheAlarm(walk);
+    stopTheAlarm(walk);
+    lookBackAtTheRecord(walk);
+    disconnectAndConnect(walk);
+    openTheSettings(walk);
 }
 
 } // namespace tour

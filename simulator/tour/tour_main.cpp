@@ -14,6 +14,7 @@
 #include <QTemporaryDir>
 
 #include <cstdio>
+#include <exception>
 
 namespace {
 
@@ -30,15 +31,13 @@ void moveInto(const QTemporaryDir& home)
 int walkThrough(const QString& language, const QString& folder)
 {
     tour::Walk walk(language, folder);
-    for (const auto& chapter : {tour::liveSteps(), tour::diskSteps()})
-        for (const tour::Step& step : chapter) {
-            if (step.take(walk))
-                continue;
-            std::fprintf(stderr, "%s: step \"%s\" failed, waiting in vain until %s\n",
-                         qPrintable(language), step.name, qPrintable(walk.lastWait()));
-            walk.shoot(QStringLiteral("failed"));
-            return 1;
-        }
+    try {
+        tour::takeLiveSteps(walk);
+        tour::takeDiskSteps(walk);
+    } catch (const std::exception& missing) {
+        std::fprintf(stderr, "%s: waited in vain until %s\n", qPrintable(language), missing.what());
+        return 1;
+    }
     return 0;
 }
 

@@ -9,12 +9,15 @@
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QPixmap>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QStyleOptionButton>
 #include <QTest>
 #include <QTimer>
 
 #include <cstdio>
+#include <exception>
+#include <stdexcept>
 #include <utility>
 
 namespace tour {
@@ -42,115 +45,94 @@ Walk::Walk(QString language, QString folder)
     m_window.show();
 }
 
-bool Walk::await(const QString& what, const std::function<bool()>& condition, int milliseconds)
+void Walk::await(const char* what, const std::function<bool()>& condition)
 {
-    m_lastWait = what;
-    return QTest::qWaitFor(condition, milliseconds);
+    constexpr int patience = 15000; // ms
+    if (QTest::qWaitFor(condition, patience))
+        return;
+    shoot("failed");
+    throw std::runtime_error(what);
 }
 
-bool Walk::awaitMode(int mode, const QString& what)
+void Walk::awaitMode(int mode)
 {
-    return await(what, [this, mode] { return m_window.mode() == mode; });
+    await("the program changes its mode", [this, mode] { return m_window.mode() == mode; });
 }
 
-bool Walk::click(QWidget* widget)
+void Walk::click(QWidget& widget, const QRect& entry)
 {
-    if (!await(QStringLiteral("%1 can be clicked").arg(widget->objectName()), [widget] {
-            return widget->isVisible() && widget->isEnabled() && !widget->visibleRegion().isEmpty();
-        }))
-        return false;
-    QTest::mouseClick(widget, Qt::LeftButton, Qt::NoModifier, target(*widget));
-    return true;
+    const auto place = [&] {
+        return entry.isNull() ? target(widget) : entry.center();
+    };
+    await(qPrintable(QStringLiteral("%1 can be clicked").arg(widget.objectName())), [&] {
+        return widget.isVisible() && widget.isEnabled() && widget.visibleRegion().contains(place());
+    });
+    QTest::mouseClick(&widget, Qt::LeftButton, Qt::NoModifier, place());
 }
 
-bool Walk::doubleClick(QWidget* widget)
+void Walk::doubleClick(QWidget& widget, const QRect& entry)
 {
-    if (!click(widget))
-        return false;
-    QTest::mouseDClick(widget, Qt::LeftButton, Qt::NoModifier, target(*widget));
-    return true;
+    click(widget, entry);
+    QTest::mouseDClick(&widget, Qt::LeftButton, Qt::NoModifier,
+                       entry.isNull() ? target(widget) : entry.center());
 }
 
-bool Walk::clickItem(QWidget* viewport, const QRect& item)
-{
-    if (!await(QStringLiteral("an entry of a list is in view"),
-               [&] { return viewport->isVisible() && viewport->rect().contains(item.center()); }))
-        return false;
-    QTest::mouseClick(viewport, Qt::LeftButton, Qt::NoModifier, item.center());
-    return true;
-}
-
-bool Walk::doubleClickItem(QWidget* viewport, const QRect& item)
-{
-    QTest::mouseDClick(viewport, Qt::LeftButton, Qt::NoModifier, item.center());
-    return true;
-}
-
-bool Walk::drag(QWidget* widget, QPoint from, QPoint to)
+void Walk::drag(QWidget& widget, QPoint from, QPoint to)
 {
     constexpr int steps = 12;
-    QTest::mousePress(widget, Qt::LeftButton, Qt::NoModifier, from);
+    QTest::mousePress(&widget, Qt::LeftButton, Qt::NoModifier, from);
     for (int step = 1; step <= steps; ++step) {
         const QPoint place = from + (to - from) * step / steps;
         // Not QTest::mouseMove, which moves the pointer without a button held down.
-        QMouseEvent move(QEvent::MouseMove, place, widget->mapToGlobal(place), Qt::NoButton,
+        QMouseEvent move(QEvent::MouseMove, place, widget.mapToGlobal(place), Qt::NoButton,
                          Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(widget, &move);
+        QCoreApplication::sendEvent(&widget, &move);
         QCoreApplication::processEvents();
     }
-    QTest::mouseRelease(widget, Qt::LeftButton, Qt::NoModifier, to);
-    return true;
+    QTest::mouseRelease(&widget, Qt::LeftButton, Qt::NoModifier, to);
 }
 
-bool Walk::press(QWidget* widget, Qt::Key key)
-{
-    QTest::keyClick(widget, key);
-    return true;
-}
-
-bool Walk::openMenu(int menu)
+void Walk::openMenu(int menu)
 {
     QMenuBar* bar = m_window.menuBar();
     QAction* action = bar->actions().at(menu);
-    QTest::mouseClick(bar, Qt::LeftButton, Qt::NoModifier, bar->actionGeometry(action).center());
-    return await(QStringLiteral("the menu opens"),
-                 [action] { return action->menu()->isVisible(); });
+    click(*bar, bar->actionGeometry(action));
+    await("the menu opens", [action] { return action->menu()->isVisible(); });
 }
 
-bool Walk::chooseEntry(int menu, int entry)
+void Walk::chooseEntry(int menu, int entry)
 {
     QMenu* opened = m_window.menuBar()->actions().at(menu)->menu();
     QAction* action = opened->actions().at(entry);
-    if (!await(QStringLiteral("the menu entry %1 is enabled").arg(action->text()),
-               [=] { return opened->isVisible() && action->isEnabled(); }))
-        return false;
-    QTest::mouseClick(opened, Qt::LeftButton, Qt::NoModifier,
-                      opened->actionGeometry(action).center());
-    return await(QStringLiteral("the menu closes"), [opened] { return !opened->isVisible(); });
+    await("the menu's entry is enabled", [action] { return action->isEnabled(); });
+    click(*opened, opened->actionGeometry(action));
+    await("the menu closes", [opened] { return !opened->isVisible(); });
 }
 
-bool Walk::answerDialogs(const QString& what, const std::function<bool()>& open,
-                         const std::vector<std::function<bool(QDialog&)>>& answers)
+void Walk::answerDialogs(const std::function<void()>& open,
+                         const std::vector<std::function<void(QDialog&)>>& answers)
 {
     std::size_t answered = 0;
     bool isAnswering = false;
-    bool isGood = true;
+    std::exception_ptr failure; // not through Qt's event loop
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, [&] {
         auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         if (isAnswering || dialog == nullptr || !dialog->isVisible())
             return;
-        isAnswering = true;
-        isGood = isGood && answered < answers.size() && answers[answered](*dialog);
-        ++answered;
-        if (!isGood)
+        const QScopedValueRollback<bool> answering(isAnswering, true);
+        try {
+            answers.at(answered++)(*dialog);
+        } catch (...) {
+            failure = std::current_exception();
             dialog->reject();
-        isAnswering = false;
+        }
     });
     timer.start(glance);
-    const bool isDone = open() && isGood && answered == answers.size();
-    m_lastWait = what;
-    return isDone;
+    open();
+    if (failure)
+        std::rethrow_exception(failure);
+    await("every dialog came", [&] { return answered == answers.size(); });
 }
 
 QString Walk::pathOf(const QString& name) const
@@ -158,7 +140,7 @@ QString Walk::pathOf(const QString& name) const
     return QStringLiteral("%1/%2-%3").arg(m_folder, m_language, name);
 }
 
-bool Walk::shoot(const QString& name)
+void Walk::shoot(const char* name)
 {
     QTest::qWait(glance);
     QRect shown;
@@ -167,16 +149,15 @@ bool Walk::shoot(const QString& name)
             shown |= widget->frameGeometry();
     QScreen* screen = QGuiApplication::primaryScreen();
     shown &= screen->geometry();
-    const QString path =
-        pathOf(QStringLiteral("%1-%2.png").arg(++m_pictures, 2, 10, QLatin1Char('0')).arg(name));
-    m_lastWait = QStringLiteral("%1 is written").arg(path);
+    const QString path = pathOf(QStringLiteral("%1-%2.png")
+                                    .arg(++m_pictures, 2, 10, QLatin1Char('0'))
+                                    .arg(QLatin1String(name)));
     const QPixmap picture =
         screen->grabWindow(0, shown.x(), shown.y(), shown.width(), shown.height());
     if (picture.isNull() || !picture.save(path))
-        return false;
+        throw std::runtime_error(qPrintable(path + QStringLiteral(" is written")));
     std::puts(qPrintable(path));
     std::fflush(stdout);
-    return true;
 }
 
 } // namespace tour

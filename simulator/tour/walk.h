@@ -6,6 +6,7 @@
 #include "simulator/simulated_imager.h"
 
 #include <QDialog>
+#include <QRect>
 #include <QString>
 
 #include <functional>
@@ -15,8 +16,8 @@
 /// mouse and keys, and pictures of what is on the screen.
 namespace tour {
 
-/// The program, the imager, and what a person does with them. A step chains these calls with && and
-/// so ends at the first that does not succeed; lastWait() then says what was missing.
+/// The program, the imager, and what a person does with them. Where something does not come about
+/// in time a call throws std::runtime_error, which says what was awaited, after a picture "failed".
 class Walk
 {
 public:
@@ -27,46 +28,39 @@ public:
     simulator::SimulatedImager& imager() { return m_imager; }
     simulator::ControlPanel& panel() { return m_panel; }
 
-    /// Lets the program run until the condition holds; false when it does not within the time.
-    /// `what` names it: "the live picture moves".
-    bool await(const QString& what, const std::function<bool()>& condition,
-               int milliseconds = 15000);
+    /// Lets the program run until the condition holds, which `what` names: "the live picture
+    /// moves".
+    void await(const char* what, const std::function<bool()>& condition);
     /// Waits until the main window is in one of the modes of device_poll.
-    bool awaitMode(int mode, const QString& what);
-    /// What was awaited last.
-    QString lastWait() const { return m_lastWait; }
+    void awaitMode(int mode);
 
-    /// Waits until the widget is on the screen, then clicks into its middle (a tick box: its box).
-    bool click(QWidget* widget);
-    bool doubleClick(QWidget* widget);
-    /// Clicks into the middle of one of the entries that a viewport or a tab bar shows.
-    bool clickItem(QWidget* viewport, const QRect& item);
-    bool doubleClickItem(QWidget* viewport, const QRect& item);
+    /// Clicks into the middle of a widget (a tick box: its box), or of one of the entries it shows,
+    /// as soon as that is on the screen.
+    void click(QWidget& widget, const QRect& entry = {});
+    void doubleClick(QWidget& widget, const QRect& entry = {});
     /// Presses the left button at `from`, moves in steps to `to`, lets go.
-    bool drag(QWidget* widget, QPoint from, QPoint to);
-    bool press(QWidget* widget, Qt::Key key);
+    void drag(QWidget& widget, QPoint from, QPoint to);
     /// Opens a menu of the main window's menu bar by a click, and leaves it open.
-    bool openMenu(int menu);
+    void openMenu(int menu);
     /// Clicks on an entry of an open menu; it must be enabled.
-    bool chooseEntry(int menu, int entry);
+    void chooseEntry(int menu, int entry);
 
     /// Does what opens modal dialogs and returns only when they are gone; answers them in turn as
-    /// they come up. False when an answer does not succeed or a dialog does not come.
-    bool answerDialogs(const QString& what, const std::function<bool()>& open,
-                       const std::vector<std::function<bool(QDialog&)>>& answers);
+    /// they come up.
+    void answerDialogs(const std::function<void()>& open,
+                       const std::vector<std::function<void(QDialog&)>>& answers);
 
     /// Where a file of this tour goes: "FOLDER/EN-NAME".
     QString pathOf(const QString& name) const;
 
     /// Keeps a picture of all windows as they are on the screen, "EN-03-full-screen.png", and
     /// prints its path.
-    bool shoot(const QString& name);
+    void shoot(const char* name);
 
 private:
     QString m_language;
     QString m_folder;
     int m_pictures = 0;
-    QString m_lastWait;
     simulator::SimulatedImager m_imager;
     MainWindow m_window;
     simulator::ControlPanel m_panel;
@@ -83,16 +77,10 @@ T& find(const QObject& parent, const char* objectName)
     return *found;
 }
 
-struct Step
-{
-    const char* name; ///< what a person would say they do
-    bool (*take)(Walk& walk);
-};
-
 /// The live view and the main window around it: waiting, camera, full screen, menus, alarm and its
 /// records, connecting again, settings. Ends in live mode.
-std::vector<Step> liveSteps();
+void takeLiveSteps(Walk& walk);
 /// The imager as a disk; from live mode and back to it.
-std::vector<Step> diskSteps();
+void takeDiskSteps(Walk& walk);
 
 } // namespace tour
