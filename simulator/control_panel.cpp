@@ -57,9 +57,9 @@ ControlPanel::ControlPanel(SimulatedImager& imager, QWidget* parent)
     m_ui->setupUi(this);
     for (const SceneKind kind :
          {SceneKind::CableJoint, SceneKind::Window, SceneKind::Person, SceneKind::Motor})
-        m_ui->sceneCombo->addItem(Scene::title(kind), int(kind));
+        m_ui->sceneCombo->insertItem(int(kind), Scene::title(kind));
     for (const Palette palette : {Palette::Iron, Palette::Rainbow, Palette::WhiteHot})
-        m_ui->paletteCombo->addItem(paletteTitle(palette), int(palette));
+        m_ui->paletteCombo->insertItem(int(palette), paletteTitle(palette));
     for (const FileLayout& layout : fileLayouts)
         m_ui->layoutCombo->addItem(layout.title);
     m_ui->unitCombo->addItems({QStringLiteral("°C"), QStringLiteral("°F")});
@@ -82,48 +82,40 @@ void ControlPanel::followImager()
 
 /// A user's change reaches the imager, whose answer then fills the fields; that answer must not
 /// come back as another change.
+template<typename Value>
+auto ControlPanel::user(void (SimulatedImager::*setter)(Value))
+{
+    return [this, setter](auto value) {
+        if (!m_isShowing)
+            (m_imager.*setter)(Value(value));
+    };
+}
+
 void ControlPanel::passOnChanges()
 {
-    const auto user = [this](auto action) {
-        return [this, action](auto... value) {
-            if (!m_isShowing)
-                action(value...);
-        };
-    };
-    connect(m_ui->cameraBox, &QCheckBox::toggled, this,
-            user([this](bool plugged) { m_imager.setCameraPlugged(plugged); }));
-    connect(m_ui->diskBox, &QCheckBox::toggled, this,
-            user([this](bool plugged) { m_imager.setDiskPlugged(plugged); }));
+    connect(m_ui->cameraBox, &QCheckBox::toggled, this, user(&SimulatedImager::setCameraPlugged));
+    connect(m_ui->diskBox, &QCheckBox::toggled, this, user(&SimulatedImager::setDiskPlugged));
     connect(m_ui->errorButton, &QPushButton::clicked, &m_imager,
             &SimulatedImager::reportCameraError);
 
     const auto indexChanged = QOverload<int>::of(&QComboBox::currentIndexChanged);
     const auto intChanged = QOverload<int>::of(&QSpinBox::valueChanged);
     const auto doubleChanged = QOverload<double>::of(&QDoubleSpinBox::valueChanged);
-    connect(m_ui->sceneCombo, indexChanged, this, user([this](int) {
-                m_imager.setScene(SceneKind(m_ui->sceneCombo->currentData().toInt()));
-            }));
-    connect(m_ui->paletteCombo, indexChanged, this, user([this](int) {
-                m_imager.setPalette(Palette(m_ui->paletteCombo->currentData().toInt()));
-            }));
-    connect(m_ui->hotSpotSlider, &QSlider::valueChanged, this,
-            user([this](int celsius) { m_imager.setHotSpot(celsius); }));
-    connect(m_ui->hotSpotSpin, doubleChanged, this,
-            user([this](double celsius) { m_imager.setHotSpot(celsius); }));
+    connect(m_ui->sceneCombo, indexChanged, this, user(&SimulatedImager::setScene));
+    connect(m_ui->paletteCombo, indexChanged, this, user(&SimulatedImager::setPalette));
+    connect(m_ui->hotSpotSlider, &QSlider::valueChanged, this, user(&SimulatedImager::setHotSpot));
+    connect(m_ui->hotSpotSpin, doubleChanged, this, user(&SimulatedImager::setHotSpot));
     connect(m_ui->heatButton, &QPushButton::clicked, &m_imager,
             &SimulatedImager::heatPastThreshold);
     connect(m_ui->coolButton, &QPushButton::clicked, &m_imager,
             &SimulatedImager::coolBelowThreshold);
-    connect(m_ui->thresholdSpin, doubleChanged, this,
-            user([this](double celsius) { m_imager.setThreshold(celsius); }));
-    connect(m_ui->emissivitySpin, doubleChanged, this,
-            user([this](double emissivity) { m_imager.setEmissivity(emissivity); }));
-    connect(m_ui->frameRateSpin, intChanged, this,
-            user([this](int framesPerSecond) { m_imager.setFrameRate(framesPerSecond); }));
+    connect(m_ui->thresholdSpin, doubleChanged, this, user(&SimulatedImager::setThreshold));
+    connect(m_ui->emissivitySpin, doubleChanged, this, user(&SimulatedImager::setEmissivity));
+    connect(m_ui->frameRateSpin, intChanged, this, user(&SimulatedImager::setFrameRate));
 
     for (QComboBox* combo : {m_ui->layoutCombo, m_ui->unitCombo})
-        connect(combo, indexChanged, this, user([this](int) { applyPhotographSettings(); }));
-    connect(m_ui->machineSpin, intChanged, this, user([this](int) { applyPhotographSettings(); }));
+        connect(combo, indexChanged, this, &ControlPanel::applyPhotographSettings);
+    connect(m_ui->machineSpin, intChanged, this, &ControlPanel::applyPhotographSettings);
     connect(m_ui->photographButton, &QPushButton::clicked, this, &ControlPanel::takePhotograph);
 }
 
@@ -156,8 +148,8 @@ void ControlPanel::showSettings()
     m_ui->diskBox->setChecked(m_imager.isDiskPlugged());
     m_ui->errorButton->setEnabled(m_imager.isCameraPlugged());
 
-    m_ui->sceneCombo->setCurrentIndex(m_ui->sceneCombo->findData(int(m_imager.scene())));
-    m_ui->paletteCombo->setCurrentIndex(m_ui->paletteCombo->findData(int(m_imager.palette())));
+    m_ui->sceneCombo->setCurrentIndex(int(m_imager.scene()));
+    m_ui->paletteCombo->setCurrentIndex(int(m_imager.palette()));
     m_ui->hotSpotSlider->setValue(int(std::lround(m_imager.hotSpot())));
     m_ui->hotSpotSpin->setValue(m_imager.hotSpot());
     showReachedHotSpot();
@@ -182,6 +174,8 @@ void ControlPanel::showReachedHotSpot()
 
 void ControlPanel::applyPhotographSettings()
 {
+    if (m_isShowing)
+        return;
     PhotographSettings settings = m_imager.photographSettings();
     const FileLayout& layout = fileLayouts.at(std::size_t(m_ui->layoutCombo->currentIndex()));
     settings.modelIndex = layout.modelIndex;

@@ -31,6 +31,8 @@ public:
 
 private:
     void followImager();
+    template<typename Value>
+    auto user(void (SimulatedImager::*setter)(Value));
     void passOnChanges();
     void showSettings();
     void showReachedHotSpot();
