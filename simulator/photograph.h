@@ -13,9 +13,8 @@ struct PhotographSettings
     int modelIndex = 0; ///< which of analysis::format::layouts
     /// With the raw image at its end, the file then has analysis::format::rawFileBytes.
     bool raw = false;
-    bool fahrenheit =
-        false;             ///< the scale of the parameter block; the raw image is in kelvin always
-    quint32 machineId = 5; ///< 5 and 6 are known to the analysis, others are refused
+    bool fahrenheit = false; ///< of the parameter block; the raw image is in kelvin always
+    quint32 machineId = 5;   ///< 5 and 6 are known to the analysis, others are refused
     Palette palette = Palette::Iron;
     double emissivity = 0.95;
     int firmware10 = 12; ///< version × 10; kept where the layout has it

@@ -25,32 +25,17 @@ Drives& drives()
     return instance;
 }
 
-} // namespace
-
-QString SimulatedDisk::photographFolderName(int modelIndex)
+QString folderOf(int modelIndex)
 {
     return QString::fromLatin1(analysis::format::layoutOf(modelIndex).folder);
 }
 
-SimulatedDisk::SimulatedDisk(Content content, QObject* parent)
-    : QObject(parent), m_root(m_temporary.path() + QStringLiteral("/IMAGER/")), m_isTemporary(true)
-{
-    QDir outside(m_temporary.path());
-    outside.mkdir(QStringLiteral("out"));
-    if (content == Content::ImagerFolders)
-        outside.mkpath(QStringLiteral("out/") + photographFolderName(0));
-    enterDriveList();
-}
+} // namespace
 
-SimulatedDisk::SimulatedDisk(const QString& folder, QObject* parent)
-    : QObject(parent),
-      m_root(folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/'))
+SimulatedDisk::SimulatedDisk(QObject* parent)
+    : QObject(parent), m_root(m_temporary.path() + QStringLiteral("/IMAGER/"))
 {
-    enterDriveList();
-}
-
-void SimulatedDisk::enterDriveList()
-{
+    QDir(m_temporary.path()).mkpath(QStringLiteral("out/") + folderOf(0));
     ++drives().disks;
     platform::setDriveProvider([] { return drives().pluggedRoots; });
 }
@@ -66,8 +51,7 @@ void SimulatedDisk::plug()
 {
     if (m_plugged)
         return;
-    if (m_isTemporary)
-        QDir(m_temporary.path()).rename(QStringLiteral("out"), QStringLiteral("IMAGER"));
+    QDir(m_temporary.path()).rename(QStringLiteral("out"), QStringLiteral("IMAGER"));
     m_plugged = true;
     drives().pluggedRoots.append(m_root);
     emit pluggedChanged(true);
@@ -77,8 +61,7 @@ void SimulatedDisk::unplug()
 {
     if (!m_plugged)
         return;
-    if (m_isTemporary)
-        QDir(m_temporary.path()).rename(QStringLiteral("IMAGER"), QStringLiteral("out"));
+    QDir(m_temporary.path()).rename(QStringLiteral("IMAGER"), QStringLiteral("out"));
     m_plugged = false;
     drives().pluggedRoots.removeOne(m_root);
     emit pluggedChanged(false);
@@ -86,7 +69,7 @@ void SimulatedDisk::unplug()
 
 QString SimulatedDisk::store(const QByteArray& photograph, int modelIndex, const QDateTime& takenAt)
 {
-    const QString folder = m_root + photographFolderName(modelIndex);
+    const QString folder = m_root + folderOf(modelIndex);
     if (!m_plugged || !QDir().mkpath(folder))
         return {};
     const QString name =

@@ -7,8 +7,8 @@
 
 namespace simulator {
 
-/// A removable disk without hardware: an ordinary folder that platform::removableDrives() names
-/// while the disk is plugged in.
+/// A removable disk without hardware: a folder that platform::removableDrives() names while the
+/// disk is plugged in.
 ///
 /// As long as any such disk exists, plugged in or not, the drive list holds the plugged ones and
 /// nothing else, in the order of their plugging in; when the last one is destroyed, the system
@@ -18,18 +18,9 @@ class SimulatedDisk : public QObject
     Q_OBJECT
 
 public:
-    /// Names of the folders in which the imager keeps its photographs, per model index.
-    static QString photographFolderName(int modelIndex);
-
-    enum class Content
-    {
-        ImagerFolders, ///< an empty "DCIM_100"
-        Nothing        ///< a plain USB stick
-    };
-    /// A disk of its own in a temporary folder, which goes with the object. Unplugged.
-    explicit SimulatedDisk(Content content = Content::ImagerFolders, QObject* parent = nullptr);
-    /// A disk that is the given folder, whatever it holds; nothing is made in it. Unplugged.
-    explicit SimulatedDisk(const QString& folder, QObject* parent = nullptr);
+    /// A disk of its own in a temporary folder, which goes with the object. It holds an empty
+    /// "DCIM_100". Unplugged.
+    explicit SimulatedDisk(QObject* parent = nullptr);
     ~SimulatedDisk() override;
 
     /// The drive's root as the drive list names it, ending in "/". Always the same.
@@ -37,9 +28,8 @@ public:
 
     bool isPlugged() const { return m_plugged; }
     void plug();
-    /// Takes the disk out of the drive list. The files of a temporary disk become unreachable, as
-    /// with a real one, until it is plugged in again; the given folder of the other constructor is
-    /// left as it is.
+    /// Takes the disk out of the drive list. Its files become unreachable, as with a real one,
+    /// until it is plugged in again.
     void unplug();
 
     /// Stores a photograph under the name an imager gives it ("20260318_101502.bmp"; a taken name
@@ -52,11 +42,8 @@ signals:
     void pluggedChanged(bool plugged);
 
 private:
-    void enterDriveList();
-
     QTemporaryDir m_temporary;
     QString m_root;
-    bool m_isTemporary = false;
     bool m_plugged = false;
 };
 

@@ -18,12 +18,10 @@ class SimulatedDiskTest : public QObject
 private slots:
     void isADriveWhilePlugged();
     void filesGoWithTheDisk();
-    void aGivenFolderStaysAsItIs();
     void severalDisksInOrder();
     void theSystemAnswersAgain();
     void photographsAreNamedByTime();
     void nothingIsStoredWhileOut();
-    void aPlainStickHoldsNothing();
 };
 
 void SimulatedDiskTest::isADriveWhilePlugged()
@@ -59,26 +57,10 @@ void SimulatedDiskTest::filesGoWithTheDisk()
     QVERIFY(QFile::exists(path));
 }
 
-void SimulatedDiskTest::aGivenFolderStaysAsItIs()
-{
-    const QTemporaryDir folder;
-    {
-        SimulatedDisk disk(folder.path());
-        QCOMPARE(disk.root(), folder.path() + QLatin1Char('/'));
-        disk.plug();
-        QCOMPARE(removableDrives(), QStringList{disk.root()});
-        QVERIFY(QDir(folder.path()).isEmpty());
-        const QString path = disk.store("photograph", 0);
-        disk.unplug();
-        QVERIFY(QFile::exists(path));
-    }
-    QVERIFY(QFile::exists(folder.path() + QStringLiteral("/DCIM_100")));
-}
-
 void SimulatedDiskTest::severalDisksInOrder()
 {
     SimulatedDisk imager;
-    SimulatedDisk stick(SimulatedDisk::Content::Nothing);
+    SimulatedDisk stick;
     stick.plug();
     imager.plug();
     QCOMPARE(removableDrives(), QStringList({stick.root(), imager.root()}));
@@ -123,14 +105,6 @@ void SimulatedDiskTest::nothingIsStoredWhileOut()
     QVERIFY(!QFile::exists(disk.root()));
     disk.plug();
     QVERIFY(QDir(disk.root() + "DCIM_100").isEmpty());
-}
-
-void SimulatedDiskTest::aPlainStickHoldsNothing()
-{
-    SimulatedDisk stick(SimulatedDisk::Content::Nothing);
-    stick.plug();
-    QVERIFY(QDir(stick.root()).exists());
-    QVERIFY(QDir(stick.root()).isEmpty());
 }
 
 int main(int argc, char** argv)

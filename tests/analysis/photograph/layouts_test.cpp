@@ -7,6 +7,7 @@
 #include "tests/support/folder.h"
 #include "tests/support/test_run.h"
 
+#include <QFileInfo>
 #include <QSet>
 
 namespace format = analysis::format;
@@ -98,8 +99,10 @@ private slots:
     void theSimulatedDiskHasTheFolderOfEach()
     {
         QFETCH(int, row);
-        QCOMPARE(simulator::SimulatedDisk::photographFolderName(row),
-                 QString::fromLatin1(layout().folder));
+        simulator::SimulatedDisk disk;
+        disk.plug();
+        QCOMPARE(QFileInfo(disk.store("photograph", row)).path(),
+                 disk.root() + QString::fromLatin1(layout().folder));
     }
 };
 
