@@ -71,6 +71,18 @@ void addMountedVolumes(const Seeds& seeds)
               "42 22 8:17 / /media/user/two rw - vfat /dev/sdb1 rw\n");
 }
 
+void addToolFiles(const Seeds& seeds)
+{
+    seeds.add("tool_file_fuzz", QStringLiteral("by-hand"),
+              R"({"points": [[7, 9], [240, 320]], "lines": [[10, 300, 200, 20]]})");
+    seeds.add("tool_file_fuzz", QStringLiteral("whole"),
+              R"({"version": 1, "points": [[1, 2]], "lines": [[1, 2, 3, 4]],
+                  "rectangles": [[9, 8, 7, 6], [0, 0, 240, 320]], "circles": [[120, 160, 5]],
+                  "names": ["P3", "L0", "R1", "R2", "C7"],
+                  "colours": {"L0": "#0000ff", "C7": "#80123456"}})");
+    seeds.add("tool_file_fuzz", QStringLiteral("outside"), R"({"circles": [[1, 2, 3]]})");
+}
+
 QByteArray word(int value)
 {
     QByteArray bytes(2, '\0');
@@ -192,6 +204,7 @@ int main(int argc, char** argv)
     const Seeds seeds{QString::fromLocal8Bit(argv[1])};
     addConfigurationRecords(seeds);
     addMountedVolumes(seeds);
+    addToolFiles(seeds);
     addLiveFrames(seeds);
     addAlarmRecords(seeds);
     addPhotographs(seeds);

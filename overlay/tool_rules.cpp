@@ -245,6 +245,26 @@ void shiftEnd(CircleTool& circle, int dx, int dy)
     setNumbers(circle, {circle.cx, circle.cy, int(radius)});
 }
 
+ToolNumbers numbersOf(const PointTool& point)
+{
+    return {point.x, point.y};
+}
+
+ToolNumbers numbersOf(const LineTool& line)
+{
+    return {line.x1, line.y1, line.x2, line.y2};
+}
+
+ToolNumbers numbersOf(const RectTool& rect)
+{
+    return {rect.x1, rect.y1, rect.x2, rect.y2};
+}
+
+ToolNumbers numbersOf(const CircleTool& circle)
+{
+    return {circle.cx, circle.cy, circle.radius};
+}
+
 void setNumbers(PointTool& point, const ToolNumbers& numbers)
 {
     place(point, numbers[0], numbers[1]);

@@ -221,6 +221,11 @@ void shiftEnd(CircleTool& circle, int dx, int dy);
 /// As many as the row of its kind says: a position, both ends, both corners; centre and radius.
 using ToolNumbers = std::array<int, 4>;
 
+ToolNumbers numbersOf(const PointTool& point);
+ToolNumbers numbersOf(const LineTool& line);
+ToolNumbers numbersOf(const RectTool& rect);
+ToolNumbers numbersOf(const CircleTool& circle);
+
 /// Any numbers are taken; ask isInside() and isUnfinished() what has become of the tool.
 void setNumbers(PointTool& point, const ToolNumbers& numbers);
 void setNumbers(LineTool& line, const ToolNumbers& numbers);

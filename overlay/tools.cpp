@@ -21,6 +21,32 @@ int lowestFreeNumber(const QVector<Tool>& list)
     return number;
 }
 
+/// Both lists in number order, those of `more` with the numbers that are free.
+/// `follow` is an index in `list`, and becomes the same tool's.
+template<typename Tool>
+void mergeInto(QVector<Tool>& list, const QVector<Tool>& more, int& follow)
+{
+    QVector<Tool> merged;
+    merged.reserve(list.size() + more.size());
+    const int followed = follow;
+    int taken = 0;
+    int number = 0;
+    const auto take = [&] {
+        if (taken == followed)
+            follow = merged.size();
+        merged.append(list.at(taken++));
+    };
+    for (Tool tool : more) {
+        for (; taken < list.size() && numberIn(list.at(taken).name, Tool::kind) <= number; take())
+            number = std::max(number, numberIn(list.at(taken).name, Tool::kind).value_or(-1) + 1);
+        tool.name = nameOf(Tool::kind, number++);
+        merged.append(tool);
+    }
+    while (taken < list.size())
+        take();
+    list = merged;
+}
+
 } // namespace
 
 bool operator==(const Tools& left, const Tools& right)
@@ -87,11 +113,33 @@ int insertNew(Tools& tools, ToolKind kind, const QColor& colour)
         const int number = lowestFreeNumber(list);
         index = std::min(number, list.size());
         typename std::decay_t<decltype(list)>::value_type tool;
-        tool.name = QLatin1Char(rowOf(kind).letter) + QString::number(number);
+        tool.name = nameOf(kind, number);
         tool.colour = colour;
         list.insert(index, tool);
     });
     return index;
+}
+
+void add(Tools& tools, const Tools& more)
+{
+    const std::optional<ToolKind> selected = selectedKind(tools);
+    forEachList(tools, [&](auto& list) {
+        using List = std::decay_t<decltype(list)>;
+        int none = -1;
+        mergeInto(list, std::get<const List&>(listsOf(more)),
+                  selected == kindOf(list) ? tools.selectedIndex : none);
+    });
+}
+
+std::optional<int> numberIn(const QString& name, ToolKind kind)
+{
+    const int number = name.midRef(1).toInt(); // 0 for no number
+    return number >= 0 && name == nameOf(kind, number) ? std::optional<int>(number) : std::nullopt;
+}
+
+QString nameOf(ToolKind kind, int number)
+{
+    return QLatin1Char(rowOf(kind).letter) + QString::number(number);
 }
 
 void removeSelected(Tools& tools)

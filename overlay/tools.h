@@ -202,6 +202,17 @@ void prune(Tools& tools);
 /// belongs. Returns its index.
 int insertNew(Tools& tools, ToolKind kind, const QColor& colour);
 
+/// Adds tools, each with the lowest free number of its kind, where that belongs. The selection
+/// stays on its tool.
+void add(Tools& tools, const Tools& more);
+
+/// The number in a tool's name, which is the kind's letter and this number without needless zeros;
+/// nothing for any other text.
+std::optional<int> numberIn(const QString& name, ToolKind kind);
+
+/// "P0" for the first point.
+QString nameOf(ToolKind kind, int number);
+
 /// Removes the selected tool if there is one. The selection stays, on the tool that moves up.
 void removeSelected(Tools& tools);
 

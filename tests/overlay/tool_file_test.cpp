@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: MIT
+#include "overlay/tool_editing.h"
 #include "overlay/tool_file.h"
 #include "tests/support/test_run.h"
 
+#include <random>
+
+using overlay::ToolKind;
 using overlay::Tools;
 using overlay::toolsFromJson;
+using overlay::toolsToJson;
 
 /// Files of tools hold what the window can hold.
 class ToolFileTest : public QObject
@@ -12,10 +17,16 @@ class ToolFileTest : public QObject
 
 private slots:
     void taken();
+    void whatItSaysTakesThePlaceOfWhatWasThere();
+    void namesAndColours();
     void whatTheWindowHolds_data();
     void whatTheWindowHolds();
     void wrongTools_data();
     void wrongTools();
+    void written();
+    void writtenAndReadItIsTheSame();
+    void whatNoFileCanHoldIsLeftOut();
+    void namesThatAreNoneAreNumbersAgain();
 };
 
 void ToolFileTest::taken()
@@ -30,6 +41,34 @@ void ToolFileTest::taken()
     expected.lineList = {{"L0", 10, 300, 200, 20}};
     expected.rectList = {{"R0", 100, 99, 30, 60}};
     expected.circleList = {{"C0", 150, 200, 190, 200, 40}};
+    QVERIFY(tools == expected);
+}
+
+void ToolFileTest::whatItSaysTakesThePlaceOfWhatWasThere()
+{
+    Tools tools;
+    tools.pointList = {{"P0", 1, 1}};
+    select(tools, ToolKind::Point, 0);
+    const Tools before = tools;
+    QVERIFY(!toolsFromJson(R"({"points": [[5, 6]], "lines": [[1, 2, 1, 2]]})", tools).isEmpty());
+    QVERIFY(tools == before);
+    QCOMPARE(toolsFromJson(R"({"points": [[5, 6]]})", tools), QString());
+    Tools expected;
+    expected.pointList = {{"P0", 5, 6}};
+    QVERIFY(tools == expected);
+}
+
+void ToolFileTest::namesAndColours()
+{
+    Tools tools;
+    QCOMPARE(toolsFromJson(R"({"version": 1, "points": [[7, 9], [120, 160]],
+                               "circles": [[150, 200, 40]], "names": ["P0", "P3", "C12"],
+                               "colours": {"P3": "#0a0B0c", "C12": "#80ffffff"}})",
+                           tools),
+             QString());
+    Tools expected;
+    expected.pointList = {{"P0", 7, 9}, {"P3", 120, 160, 9, QColor(10, 11, 12)}};
+    expected.circleList = {{"C12", 150, 200, 190, 200, 40, QColor(255, 255, 255, 128)}};
     QVERIFY(tools == expected);
 }
 
@@ -90,6 +129,28 @@ void ToolFileTest::wrongTools_data()
     row("over the left edge", R"({"circles": [[50, 160, 50]]})", "not wholly inside");
     row("over the right edge", R"({"circles": [[189, 160, 51]]})", "not wholly inside");
     row("over the upper edge", R"({"circles": [[120, 50, 50]]})", "not wholly inside");
+    row("a later version", R"({"version": 2, "ovals": []})", "\"version\" is not 1");
+    row("a version in words", R"({"version": "1"})", "\"version\" is not 1");
+    row("no list of names", R"({"names": "P0", "points": [[1, 2]]})",
+        "\"names\" is not a list of 1");
+    row("too few names", R"({"names": ["P0"], "points": [[1, 2], [3, 4]]})",
+        "a list of 2, one for");
+    row("too many names", R"({"names": ["P0", "P1"], "points": [[1, 2]]})", "\"names\"");
+    row("a foreign name", R"({"names": ["L0"], "points": [[1, 2]]})", "\"names\", number 1");
+    row("a name of no text", R"({"names": [0], "points": [[1, 2]]})", "\"names\", number 1");
+    row("a negative name", R"({"names": ["P-1"], "points": [[1, 2]]})", "\"names\", number 1");
+    row("needless zeros", R"({"names": ["P01"], "points": [[1, 2]]})", "\"names\", number 1");
+    row("a number too long", R"({"names": ["P9999999999"], "points": [[1, 2]]})", "number 1");
+    row("a name twice", R"({"names": ["P1", "P1"], "points": [[1, 2], [3, 4]]})",
+        "\"names\", number 2 is not \"P\" with a number above the one before");
+    row("no order", R"({"names": ["P2", "P1"], "points": [[1, 2], [3, 4]]})", "number 2");
+    row("no object of colours", R"({"colours": []})", "\"colours\" is not an object");
+    row("a colour's name", R"({"colours": {"P0": "red"}, "points": [[1, 2]]})",
+        "\"colours\", \"P0\" is not \"#rrggbb\"");
+    row("a short colour", R"({"colours": {"P0": "#fff"}, "points": [[1, 2]]})", "#rrggbb");
+    row("a number as colour", R"({"colours": {"P0": 255}, "points": [[1, 2]]})", "#rrggbb");
+    row("a colour of none", R"({"colours": {"P1": "#0000ff"}, "points": [[1, 2]]})",
+        "\"colours\": there is no \"P1\"");
     row("over the lower edge", R"({"circles": [[120, 270, 50]]})", "not wholly inside");
 }
 
@@ -101,6 +162,97 @@ void ToolFileTest::wrongTools()
     Tools tools;
     const QByteArray told = toolsFromJson(file, tools).toUtf8();
     QVERIFY2(told.contains(complaint), told.constData());
+}
+
+/// To the byte: other programs, and people, read it too.
+void ToolFileTest::written()
+{
+    Tools tools;
+    QCOMPARE(toolsToJson(tools), QByteArray("{\n    \"version\": 1\n}\n"));
+    tools.pointList = {{"P0", 7, 9}, {"P1", 240, 320, 9, QColor(0, 0, 255)}};
+    tools.circleList = {{"C0", 120, 160, 123, 164, 5, QColor(1, 2, 3, 4)}};
+    QCOMPARE(toolsToJson(tools), QByteArray(R"({
+    "version": 1,
+    "points": [[7, 9], [240, 320]],
+    "circles": [[120, 160, 5]],
+    "colours": {"P1": "#0000ff", "C0": "#04010203"}
+}
+)"));
+    tools.pointList[1].name = QStringLiteral("P4");
+    tools.lineList = {{"L0", 1, 2, 3, 4}};
+    tools.rectList = {{"R0", 9, 8, 7, 6}};
+    QCOMPARE(toolsToJson(tools), QByteArray(R"({
+    "version": 1,
+    "points": [[7, 9], [240, 320]],
+    "lines": [[1, 2, 3, 4]],
+    "rectangles": [[9, 8, 7, 6]],
+    "circles": [[120, 160, 5]],
+    "names": ["P0", "P4", "L0", "R0", "C0"],
+    "colours": {"P4": "#0000ff", "C0": "#04010203"}
+}
+)"));
+}
+
+void ToolFileTest::writtenAndReadItIsTheSame()
+{
+    std::mt19937 random(15);
+    const auto upTo = [&](unsigned count) {
+        return int(random() % count);
+    };
+    for (int round = 0; round < 500; ++round) {
+        overlay::ToolEditing hand;
+        for (int gestures = upTo(40); gestures > 0; --gestures) {
+            setMode(hand, 2 + upTo(4));
+            press(hand, {upTo(241), upTo(321)}, [] {});
+            dragTo(hand, upTo(241), upTo(321));
+            hand.selectedIndex = upTo(4);
+            if (upTo(3) == 0)
+                removeSelectedTool(hand);
+            if (upTo(3) == 0)
+                hand.toolColor = QColor(upTo(256), upTo(256), upTo(256), 128 + upTo(128));
+        }
+        setMode(hand, 1);
+        const QByteArray bytes = toolsToJson(hand);
+        Tools read;
+        QCOMPARE(toolsFromJson(bytes, read), QString());
+        QCOMPARE(toolsToJson(read), bytes);
+        QVERIFY(read.pointList == hand.pointList && read.lineList == hand.lineList &&
+                read.rectList == hand.rectList);
+        // Which way a circle was dragged is not kept.
+        for (overlay::CircleTool& circle : hand.circleList)
+            setNumbers(circle, numbersOf(circle));
+        QVERIFY(read.circleList == hand.circleList);
+    }
+}
+
+void ToolFileTest::whatNoFileCanHoldIsLeftOut()
+{
+    Tools tools;
+    tools.pointList = {{"P0", 1, 2}, {"P1", 241, 2}, {"P2", -1, -1}, {"P3", 3, 4, 9, QColor()}};
+    tools.lineList = {{"L0", 5, 5, 5, 5}};
+    tools.circleList = {{"C0", 5, 5, 50, 5, 45}};
+    QVERIFY(wrongWith(tools).contains("\"points\", number 2 is outside the picture"));
+    Tools read;
+    QCOMPARE(toolsFromJson(toolsToJson(tools), read), QString());
+    Tools expected;
+    expected.pointList = {{"P0", 1, 2}, {"P3", 3, 4}};
+    QVERIFY(read == expected);
+    QCOMPARE(wrongWith(read), QString());
+}
+
+void ToolFileTest::namesThatAreNoneAreNumbersAgain()
+{
+    Tools tools;
+    tools.pointList = {{"the left bearing", 1, 2}, {"P7", 3, 4}};
+    tools.lineList = {{"L2", 1, 2, 3, 4}, {"L1", 5, 6, 7, 8}};
+    tools.rectList = {{"R2", 1, 2, 3, 4}};
+    Tools read;
+    QCOMPARE(toolsFromJson(toolsToJson(tools), read), QString());
+    Tools expected;
+    expected.pointList = {{"P0", 1, 2}, {"P1", 3, 4}};
+    expected.lineList = {{"L0", 1, 2, 3, 4}, {"L1", 5, 6, 7, 8}};
+    expected.rectList = {{"R2", 1, 2, 3, 4}};
+    QVERIFY(read == expected);
 }
 
 int main(int argc, char** argv)

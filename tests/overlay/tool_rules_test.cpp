@@ -178,7 +178,7 @@ private slots:
     {
         QCOMPARE(draggedRadius(120, 160, 123, 164).value(), 5);
         QCOMPARE(draggedRadius(120, 160, 120, 160).value(), 0);
-        QCOMPARE(draggedRadius(120, 160, 122, 162).value(), 2); // 2.83, cut off
+        QCOMPARE(draggedRadius(120, 160, 122, 162).value(), 2);  // 2.83, cut off
         QCOMPARE(draggedRadius(200, 160, 239, 160).value(), 39); // touches column 239
         QVERIFY(!draggedRadius(200, 160, 240, 160));
         QCOMPARE(draggedRadius(40, 160, 79, 160).value(), 39); // leaves column 0 free

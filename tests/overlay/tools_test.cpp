@@ -244,6 +244,39 @@ private slots:
         QCOMPARE(visited(ToolKind::Rect, -1), QString());
         QCOMPARE(visited(ToolKind::Circle, 0), QStringLiteral("C0"));
     }
+
+    void addedToolsTakeTheFreeNumbers()
+    {
+        Tools tools = pointsNamed({"P1", "P2", "P5"});
+        select(tools, ToolKind::Point, 2);
+        Tools more = pointsNamed({"P0", "P2", "P9", "P10"});
+        more.lineList = {line(4, 4, 8, 8)};
+        for (PointTool& point : more.pointList)
+            point.colour = Qt::blue;
+        add(tools, more);
+        QStringList names;
+        QStringList added;
+        for (const PointTool& point : tools.pointList)
+            (point.colour == QColor(Qt::blue) ? added : names).append(point.name);
+        QCOMPARE(names, QStringList({"P1", "P2", "P5"}));
+        QCOMPARE(added, QStringList({"P0", "P3", "P4", "P6"}));
+        QCOMPARE(tools.pointList.at(5).name, QStringLiteral("P5"));
+        QCOMPARE(tools.selectedIndex, 5);
+        QVERIFY((tools.lineList == QVector<LineTool>{line(4, 4, 8, 8)}));
+    }
+
+    void addedToNothingTheyAreNumberedFromZero()
+    {
+        Tools tools;
+        add(tools, someOfEach());
+        Tools expected = someOfEach();
+        for (int i = 0; i < 3; ++i)
+            expected.lineList[i].name = QStringLiteral("L%1").arg(i);
+        expected.circleList[1].name = QStringLiteral("C1");
+        QVERIFY(tools == expected);
+        add(tools, {});
+        QVERIFY(tools == expected);
+    }
 };
 
 int main(int argc, char** argv)
