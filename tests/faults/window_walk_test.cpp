@@ -26,6 +26,7 @@
 #include <QPointer>
 #include <QTabWidget>
 #include <QTableWidget>
+#include <QToolTip>
 
 #include <random>
 
@@ -151,6 +152,7 @@ private:
             m_window->settingsDialog()->close();
         }
         QCOMPARE(m_window->mode(), -1);
+        QToolTip::hideText(); // would go by itself, ten seconds later
         tidyUp();
     }
 
