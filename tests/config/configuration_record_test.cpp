@@ -7,8 +7,7 @@
 #include <QFile>
 
 #ifndef Q_OS_WIN
-#include <csignal>
-#include <sys/resource.h>
+#include "tests/support/full_disk.h"
 #endif
 
 namespace {
@@ -38,28 +37,6 @@ QByteArray asThisSystemStoresThem(const QByteArray& bytes)
 {
     return testing::onWindows() ? asWindowsStoresThem(bytes) : bytes;
 }
-
-#ifndef Q_OS_WIN
-/// While it lives, no file of this process grows beyond `bytes`.
-class FullDisk
-{
-public:
-    explicit FullDisk(int bytes)
-    {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        rlimit full = m_before;
-        full.rlim_cur = rlim_t(bytes);
-        setrlimit(RLIMIT_FSIZE, &full);
-    }
-    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &m_before); }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-
-private:
-    rlimit m_before{};
-};
-#endif
 
 void putFile(const QByteArray& bytes)
 {
@@ -132,7 +109,7 @@ private slots:
     {
         QFETCH(int, room);
         {
-            const FullDisk full(room);
+            const testing::FullDisk full(room);
             config::create(QStringLiteral("EN"));
         }
         QVERIFY(!config::exists());
