@@ -87,4 +87,10 @@ std::vector<ToolCells> shownTools(const QTableWidget& table)
     return rows;
 }
 
+int rowOfSelection(const overlay::Tools& tools)
+{
+    const int place = overlay::selectedPlace(tools);
+    return place >= 0 ? place : overlay::countOf(tools);
+}
+
 } // namespace analysis

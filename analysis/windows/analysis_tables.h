@@ -18,5 +18,7 @@ void prepareToolTable(QTableWidget& table);
 /// Replaces all rows; none is selected then.
 void showTools(QTableWidget& table, const std::vector<ToolRow>& rows);
 std::vector<ToolCells> shownTools(const QTableWidget& table);
+/// Of the selected tool; one past the last row when none is selected. All tools must be placed.
+int rowOfSelection(const overlay::Tools& tools);
 
 } // namespace analysis

@@ -7,10 +7,10 @@
 #include "analysis/report/report.h"
 #include "analysis/report/report_overlay.h"
 #include "analysis/windows/analysis_tables.h"
+#include "analysis/windows/tool_commands.h"
 #include "config/configuration_record.h"
 #include "dialogs/dialogs.h"
 #include "files/paths.h"
-
 #include "windows/ui_analysis_widget.h"
 
 #include <QColorDialog>
@@ -50,6 +50,7 @@ Analysis_Widget::Analysis_Widget(QWidget* parent)
     configurationField = config::read().language;
     prepareInformationTable(*ui->tableWidget_2);
     prepareToolTable(*ui->tableWidget);
+    m_commands = std::make_unique<ToolCommands>(*this, *ui);
 }
 
 Analysis_Widget::~Analysis_Widget() = default;
@@ -265,20 +266,12 @@ void Analysis_Widget::on_pushButton_4_clicked()
     setFocus(currentTool);
 }
 
-/// Of the tool that would be deleted next; one past the last row when none would be. All tools of
-/// the label must be placed.
-int Analysis_Widget::rowOfSelection() const
-{
-    const int place = overlay::selectedPlace(*ui->label);
-    return place >= 0 ? place : overlay::countOf(*ui->label);
-}
-
 /// The label says nothing of a deletion. Its selection stays where it is, on the tool that moved
 /// up, which a second click deletes: the table marks that one.
 void Analysis_Widget::on_pushButton_3_clicked()
 {
     ui->label->deleteSelected();
-    selectedRow = rowOfSelection();
+    selectedRow = rowOfSelection(*ui->label);
     updat_Tool_Temp();
     if (ui->label->currentType.startsWith(QLatin1Char('n'))) {
         ui->label->setFocus(Qt::OtherFocusReason);
@@ -329,13 +322,10 @@ Report Analysis_Widget::report()
 
 void Analysis_Widget::on_tableWidget_itemClicked(QTableWidgetItem* item)
 {
-    const auto nameAt = [this](int row) {
-        return ui->tableWidget->item(row, 0)->text();
-    };
-    const QString kind = nameAt(item->row()).left(1);
+    const QString kind = ui->tableWidget->item(item->row(), 0)->text().left(1);
     int index = 0;
     for (int row = 0; row < item->row(); ++row) {
-        if (nameAt(row).startsWith(kind))
+        if (ui->tableWidget->item(row, 0)->text().startsWith(kind))
             ++index;
     }
     ui->label->currentType = kind;

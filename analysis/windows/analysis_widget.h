@@ -18,7 +18,8 @@ class QTableWidgetItem;
 
 namespace analysis {
 struct Report;
-}
+class ToolCommands;
+} // namespace analysis
 
 namespace Ui {
 class Analysis_Widget;
@@ -46,6 +47,9 @@ public:
     /// message is shown. A short or missing file is not noticed; what it lacks is taken from the
     /// photograph before, or zero.
     bool set_Image_addr(const QString& imagePath, int modelIndex);
+
+    /// What keyboard and context menus do here.
+    analysis::ToolCommands& commands() { return *m_commands; }
 
     int displayUnitState = -1; ///< 0 since the first load; steers the unit conversion
     int currentTool = 0;       ///< an overlay::ToolMode, 0 for none yet
@@ -91,7 +95,6 @@ protected:
 
 private:
     void selectTool(overlay::ToolMode mode);
-    int rowOfSelection() const;
     void takePalette();
     void fillInformation();
     void showScale();
@@ -100,6 +103,7 @@ private:
     analysis::Report report();
 
     const std::unique_ptr<Ui::Analysis_Widget> ui;
+    std::unique_ptr<analysis::ToolCommands> m_commands;
     bool m_mapped = false; ///< falseColourMatrix is of the current gray image and palette
     QSize m_shownSize;     ///< the label's size for which falseColourImage was scaled and set
 };

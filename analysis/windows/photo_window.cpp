@@ -4,12 +4,12 @@
 #include "analysis/windows/analysis_widget.h"
 #include "analysis/windows/browser_menu.h"
 #include "analysis/windows/photograph_views.h"
+#include "analysis/windows/tool_commands.h"
 #include "config/configuration_record.h"
 #include "config/language.h"
 #include "dialogs/dialogs.h"
 #include "files/paths.h"
 #include "platform/removable_drives.h"
-
 #include "windows/ui_photo_window.h"
 
 #include <QContextMenuEvent>
@@ -202,8 +202,9 @@ void photo_window::table_item_doubleclicked(QTableWidgetItem* item)
 
 void photo_window::open(const QString& name)
 {
+    m_asked = pathOf(name);
     auto analysis = std::make_unique<Analysis_Widget>();
-    if (!analysis->set_Image_addr(pathOf(name), modelIndex)) {
+    if (!analysis->set_Image_addr(m_asked, modelIndex)) {
         dialogs::open(new QMessageBox(QMessageBox::Information, tr("警告"),
                                       tr("该图片解析失败，请确认型号是否正确!"), QMessageBox::Ok,
                                       window()),
@@ -216,7 +217,23 @@ void photo_window::open(const QString& name)
         ui->verticalLayout_5->removeWidget(previous);
         dialogs::end(previous);
     }
-    ui->verticalLayout_5->addWidget(analysis.release());
+    connect(&analysis->commands(), &ToolCommands::stepRequested, this, &photo_window::step,
+            Qt::QueuedConnection);
+    ui->verticalLayout_5->addWidget(analysis.get());
+    analysis.release()->setFocus(-1); // so that its keys are at hand
+}
+
+/// At the ends, and when another folder is listed meanwhile, nothing happens.
+void photo_window::step(int count)
+{
+    for (int index = 0; index < fileNames.size(); ++index) {
+        if (pathOf(fileNames.at(index)) != m_asked)
+            continue;
+        const int next = index + count;
+        if (next >= 0 && next < fileNames.size())
+            open(fileNames.at(next));
+        return;
+    }
 }
 
 // --- the context menu --------------------------------------------------------------------------

@@ -63,6 +63,7 @@ private:
     void widenTabs();
     void showView(QAbstractItemView* view, int pictureColumn);
     void open(const QString& name);
+    void step(int count);
     QStringList chosenNames() const;
     void showMenu(const QPoint& place);
     bool isInView(int index) const;
@@ -73,4 +74,5 @@ private:
     QAbstractItemView* m_view = nullptr; ///< the list or table shown, a child
     int m_pictureColumn = 0;             ///< of m_view
     analysis::Thumbnails m_thumbnails;
+    QString m_asked; ///< the path of the photograph asked for last, whether or not it opened
 };

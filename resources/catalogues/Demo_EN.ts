@@ -340,6 +340,29 @@
     </message>
 </context>
 <context>
+    <name>analysis::ToolCommands</name>
+    <message>
+        <source>删除所选工具</source>
+        <translation>Delete the selected tool</translation>
+    </message>
+    <message>
+        <source>撤销</source>
+        <translation>Undo</translation>
+    </message>
+    <message>
+        <source>重做</source>
+        <translation>Redo</translation>
+    </message>
+    <message>
+        <source>上一张照片</source>
+        <translation>Previous photograph</translation>
+    </message>
+    <message>
+        <source>下一张照片</source>
+        <translation>Next photograph</translation>
+    </message>
+</context>
+<context>
     <name>camer_window</name>
     <message>
         <source>Therma Desk</source>

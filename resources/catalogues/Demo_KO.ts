@@ -336,6 +336,29 @@
     </message>
 </context>
 <context>
+    <name>analysis::ToolCommands</name>
+    <message>
+        <source>删除所选工具</source>
+        <translation>선택한 도구 삭제</translation>
+    </message>
+    <message>
+        <source>撤销</source>
+        <translation>실행 취소</translation>
+    </message>
+    <message>
+        <source>重做</source>
+        <translation>다시 실행</translation>
+    </message>
+    <message>
+        <source>上一张照片</source>
+        <translation>이전 사진</translation>
+    </message>
+    <message>
+        <source>下一张照片</source>
+        <translation>다음 사진</translation>
+    </message>
+</context>
+<context>
     <name>camer_window</name>
     <message>
         <source>Therma Desk</source>

@@ -344,6 +344,29 @@
     </message>
 </context>
 <context>
+    <name>analysis::ToolCommands</name>
+    <message>
+        <source>删除所选工具</source>
+        <translation>Удалить выбранный инструмент</translation>
+    </message>
+    <message>
+        <source>撤销</source>
+        <translation>Отменить</translation>
+    </message>
+    <message>
+        <source>重做</source>
+        <translation>Повторить</translation>
+    </message>
+    <message>
+        <source>上一张照片</source>
+        <translation>Предыдущий снимок</translation>
+    </message>
+    <message>
+        <source>下一张照片</source>
+        <translation>Следующий снимок</translation>
+    </message>
+</context>
+<context>
     <name>camer_window</name>
     <message>
         <source>Therma Desk</source>

@@ -1,0 +1,248 @@
+// SPDX-License-Identifier: MIT
+#include "analysis/windows/tool_commands.h"
+
+#include "analysis/windows/analysis_tables.h"
+#include "analysis/windows/analysis_widget.h"
+#include "analysis/windows/picture_keys.h"
+
+#include "ui_analysis_widget.h"
+
+#include <QMouseEvent>
+
+namespace analysis {
+
+using overlay::ToolEditing;
+
+ToolCommands::ToolCommands(Analysis_Widget& window, const Ui::Analysis_Widget& form)
+    : m_window(window), m_form(form), m_keys(std::make_unique<PictureKeys>(*this, form))
+{
+    addOwnEntries();
+    m_history.restart(state());
+    m_told = state();
+    // After the window, which has heard of each of these before.
+    connect(form.label, &MyLabel::updat_Tool, this, &ToolCommands::record);
+    for (const QPushButton* button : {form.pushButton_3, form.pushButton_4})
+        connect(button, &QPushButton::clicked, this, &ToolCommands::record);
+    connect(form.tableWidget, &QTableWidget::itemClicked, this, &ToolCommands::record);
+
+    form.label->installEventFilter(this);
+    for (QWidget* widget : {static_cast<QWidget*>(form.label), //
+                            static_cast<QWidget*>(form.tableWidget)})
+        widget->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(form.label, &QWidget::customContextMenuRequested, this, &ToolCommands::showPictureMenu);
+    connect(form.tableWidget, &QWidget::customContextMenuRequested, this,
+            &ToolCommands::showTableMenu);
+}
+
+ToolCommands::~ToolCommands() = default;
+
+void ToolCommands::addOwnEntries()
+{
+    add({Group::Tool,
+         tr("删除所选工具"),
+         [this] { change([](ToolEditing& tools) { overlay::removeSelectedTool(tools); }); },
+         {QKeySequence(Qt::Key_Delete)},
+         Focus::PictureOrTable,
+         Menus::Both,
+         [this] {
+             return hasSelection();
+         }});
+    add({Group::History,
+         tr("撤销"),
+         [this] { goTo(m_history.undo()); },
+         {QKeySequence(Qt::CTRL + Qt::Key_Z)},
+         Focus::Window,
+         Menus::Both,
+         [this] {
+             return m_history.canUndo();
+         }});
+    add({Group::History,
+         tr("重做"),
+         [this] { goTo(m_history.redo()); },
+         {QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_Z), QKeySequence(Qt::CTRL + Qt::Key_Y)},
+         Focus::Window,
+         Menus::Both,
+         [this] {
+             return m_history.canRedo();
+         }});
+    add({Group::Photographs,
+         tr("上一张照片"),
+         [this] { emit stepRequested(-1); },
+         {QKeySequence(Qt::CTRL + Qt::Key_PageUp)},
+         Focus::Window,
+         Menus::Picture});
+    add({Group::Photographs,
+         tr("下一张照片"),
+         [this] { emit stepRequested(1); },
+         {QKeySequence(Qt::CTRL + Qt::Key_PageDown)},
+         Focus::Window,
+         Menus::Picture});
+}
+
+QAction* ToolCommands::add(const Entry& entry)
+{
+    auto* action = new QAction(entry.text, this);
+    action->setShortcuts(entry.shortcuts);
+    connect(action, &QAction::triggered, this, [this, entry] {
+        // A shortcut pressed in the table means the row that is marked there.
+        if (entry.group == Group::Tool && !m_menu && m_window.focusWidget() == m_form.tableWidget)
+            takeMarkedRow();
+        record();
+        entry.run();
+    });
+    listen(action, entry.focus);
+    m_entries.push_back({entry, action});
+    return action;
+}
+
+void ToolCommands::listen(QAction* action, Focus focus)
+{
+    action->setShortcutContext(focus == Focus::Window ? Qt::WidgetWithChildrenShortcut
+                                                      : Qt::WidgetShortcut);
+    if (focus == Focus::Window)
+        m_window.addAction(action);
+    if (focus == Focus::Table || focus == Focus::PictureOrTable)
+        m_form.tableWidget->addAction(action);
+    if (focus == Focus::Picture || focus == Focus::PictureOrTable) {
+        for (QWidget* widget : pictureWidgets(m_form))
+            widget->addAction(action);
+    }
+}
+
+// --- tools and history -------------------------------------------------------------------------
+
+overlay::ToolsState ToolCommands::state() const
+{
+    return overlay::stateOf(*m_form.label);
+}
+
+bool ToolCommands::hasTools() const
+{
+    return overlay::countOf(state().tools) > 0;
+}
+
+bool ToolCommands::hasSelection() const
+{
+    return overlay::selectedPlace(state().tools) >= 0;
+}
+
+void ToolCommands::change(const std::function<void(ToolEditing&)>& editing)
+{
+    record();
+    edit(editing);
+    record();
+}
+
+void ToolCommands::edit(const std::function<void(ToolEditing&)>& editing)
+{
+    if (m_isHeld)
+        return;
+    editing(*m_form.label);
+    // In a mode that places tools, one stands prepared again.
+    overlay::restore(*m_form.label, state());
+    show();
+}
+
+void ToolCommands::goTo(const overlay::ToolsState& state)
+{
+    if (m_isHeld)
+        return;
+    overlay::restore(*m_form.label, state);
+    show();
+    tell();
+}
+
+/// As after a release of the mouse.
+void ToolCommands::show()
+{
+    m_form.label->update();
+    m_window.selectedRow = rowOfSelection(state().tools);
+    m_window.updat_Tool_Temp();
+}
+
+void ToolCommands::record()
+{
+    if (m_isHeld)
+        return; // the gesture is not over
+    m_history.record(state());
+    tell();
+}
+
+void ToolCommands::tell()
+{
+    overlay::ToolsState now = state();
+    if (now == m_told)
+        return;
+    m_told = std::move(now);
+    emit changed();
+}
+
+bool ToolCommands::eventFilter(QObject* watched, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+        record();
+        [[fallthrough]];
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseMove:
+        m_isHeld = static_cast<QMouseEvent*>(event)->buttons() != Qt::NoButton;
+        break;
+    default:
+        break;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+// --- the context menus -------------------------------------------------------------------------
+
+void ToolCommands::showPictureMenu(const QPoint& place)
+{
+    if (m_form.label->toolMode == int(overlay::ToolMode::Select))
+        popUp(Menus::Picture, m_form.label->mapToGlobal(place));
+}
+
+void ToolCommands::showTableMenu(const QPoint& place)
+{
+    takeMarkedRow();
+    popUp(Menus::Table, m_form.tableWidget->viewport()->mapToGlobal(place));
+}
+
+/// The menu is not waited for, so the window can go while it is open.
+void ToolCommands::popUp(Menus menus, const QPoint& globalPlace)
+{
+    m_isHeld = false; // the release of the button that opens it goes to the menu
+    record();
+    m_menu = new QMenu(&m_window);
+    m_menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (int group = int(Group::Tool); group <= int(Group::Photographs); ++group) {
+        m_menu->addSeparator(); // at the ends, and one after the other, they do not show
+        for (const Hung& hung : m_entries) {
+            if (int(hung.entry.group) != group ||
+                (hung.entry.menus != menus && hung.entry.menus != Menus::Both))
+                continue;
+            hung.action->setEnabled(!hung.entry.isPossible || hung.entry.isPossible());
+            m_menu->addAction(hung.action);
+        }
+    }
+    // What is possible changes without a word; shortcuts are asked again each time.
+    connect(m_menu, &QMenu::aboutToHide, this, [this] {
+        for (const Hung& hung : m_entries)
+            hung.action->setEnabled(true);
+    });
+    m_menu->popup(globalPlace);
+}
+
+/// The keyboard moves the mark in the table without selecting the tool, and so does a right click.
+void ToolCommands::takeMarkedRow()
+{
+    const QModelIndexList rows = m_form.tableWidget->selectionModel()->selectedRows();
+    if (rows.isEmpty())
+        return;
+    edit([&](ToolEditing& tools) {
+        tools.currentType = QStringLiteral("null");
+        overlay::selectNext(tools, rows.first().row() + 1);
+    });
+}
+
+} // namespace analysis

@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "overlay/tool_history.h"
+
+#include <QKeySequence>
+#include <QMenu>
+#include <QPointer>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+class Analysis_Widget;
+
+namespace Ui {
+class Analysis_Widget;
+}
+
+namespace analysis {
+
+class PictureKeys;
+
+/// What can be done in an analysis window beside its own buttons: undo and redo, and the entries of
+/// two context menus, with their shortcuts. Whoever offers more hangs it in here.
+///
+/// Stands beside the window and changes the tools of its label. While a mouse button is held on the
+/// picture, no command changes them. GUI thread only.
+class ToolCommands : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Each is a group of its own in the menus, in this order.
+    enum class Group
+    {
+        Tool, ///< the selected tool
+        History,
+        Copies,       ///< pictures, temperatures and tables, copied or saved
+        Measurements, ///< all tools, copied or saved
+        Keeping,      ///< what happens by itself
+        Photographs   ///< other photographs
+    };
+    enum class Menus
+    {
+        Both,
+        Picture,
+        Table
+    };
+    /// Where the focus has to be for an entry's shortcuts. Those of the picture are also those of
+    /// the five buttons that choose a tool: one of them has the focus while tools are drawn.
+    enum class Focus
+    {
+        Window,
+        Picture,
+        Table,
+        PictureOrTable
+    };
+    struct Entry
+    {
+        Group group;
+        QString text;
+        std::function<void()> run; ///< also by shortcut when the entry is not possible
+        QList<QKeySequence> shortcuts = {};
+        Focus focus = Focus::Window;
+        Menus menus = Menus::Both;
+        std::function<bool()> isPossible =
+            {}; ///< asked when a menu opens; always, if there is none
+    };
+
+    /// The form is the window's, set up already. Both must outlive the commands.
+    ToolCommands(Analysis_Widget& window, const Ui::Analysis_Widget& form);
+    ~ToolCommands() override;
+
+    /// Adds an entry at the end of its group. The action belongs to the commands; it may be made
+    /// checkable.
+    QAction* add(const Entry& entry);
+
+    Analysis_Widget& window() const { return m_window; }
+    /// The finished tools, the selection and the colour of new tools, as they are now.
+    overlay::ToolsState state() const;
+    bool hasTools() const;
+    bool hasSelection() const;
+    /// While it is true, nothing changes the tools but the mouse.
+    bool isHeld() const { return m_isHeld; }
+
+    /// Changes tools or selection and shows them; one step to undo.
+    void change(const std::function<void(overlay::ToolEditing&)>& edit);
+    /// The same, but a step only when record() is called, or before the next command.
+    void edit(const std::function<void(overlay::ToolEditing&)>& edit);
+    /// Makes a step of what is other than after the last one.
+    void record();
+
+    /// Opens the picture's menu in select mode; in the other modes a press places a tool. The place
+    /// is in the label's pixels.
+    void showPictureMenu(const QPoint& place);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+signals:
+    /// Tools, selection or colour are other than they were told before.
+    void changed();
+    /// The photograph so many places further in the folder is to be opened in place of this one,
+    /// whose window may end with it: to be connected queued.
+    void stepRequested(int step);
+
+private:
+    struct Hung
+    {
+        Entry entry;
+        QAction* action;
+    };
+
+    void addOwnEntries();
+    void listen(QAction* action, Focus focus);
+    void goTo(const overlay::ToolsState& state);
+    void show();
+    void tell();
+    void showTableMenu(const QPoint& place);
+    void popUp(Menus menus, const QPoint& globalPlace);
+    void takeMarkedRow();
+
+    Analysis_Widget& m_window;
+    const Ui::Analysis_Widget& m_form;
+    const std::unique_ptr<PictureKeys> m_keys;
+    std::vector<Hung> m_entries;
+    overlay::ToolHistory m_history;
+    overlay::ToolsState m_told;
+    QPointer<QMenu> m_menu; ///< while one is open, and until what it triggered is done
+    bool m_isHeld = false;
+};
+
+} // namespace analysis
