@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "analysis/windows/tool_commands.h"
-#include "tests/analysis/windows/analysis_window_test.h"
+#include "tests/analysis/windows/tool_keys_test.h"
 
 #include <QMenu>
 
@@ -8,7 +8,7 @@ using testing::flat;
 using testing::placedPoint;
 
 /// Undo and redo, keys and context menus of the analysis window.
-class ToolCommandsTest : public testing::AnalysisWindowTest
+class ToolCommandsTest : public testing::ToolKeysTest
 {
     Q_OBJECT
 
@@ -32,48 +32,25 @@ private slots:
         click("pushButton_2");
         QCOMPARE(names(), QString());
 
-        key(Qt::Key_Z, Qt::ControlModifier);
+        undo();
         QCOMPARE(names(), QStringLiteral("P0 L0 R0 C0"));
         QCOMPARE(label().pointList.first().x, 80);
-        key(Qt::Key_Z, Qt::ControlModifier);
+        undo();
         QCOMPARE(label().pointList.first().x, 50);
         for (const char* left : {"P0 L0 R0", "P0 L0", "P0", "", ""}) {
-            key(Qt::Key_Z, Qt::ControlModifier);
+            undo();
             QCOMPARE(names(), QString::fromLatin1(left));
         }
         for (const char* there : {"P0", "P0 L0", "P0 L0 R0", "P0 L0 R0 C0"}) {
-            key(Qt::Key_Y, Qt::ControlModifier);
+            redo();
             QCOMPARE(names(), QString::fromLatin1(there));
         }
         key(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
         QCOMPARE(label().pointList.first().x, 80);
         key(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
         QCOMPARE(names(), QString());
-        key(Qt::Key_Y, Qt::ControlModifier);
+        redo();
         QCOMPARE(names(), QString());
-    }
-
-private:
-    void begin()
-    {
-        QVERIFY(load(flat(100)));
-        show();
-        QApplication::setActiveWindow(window.get());
-        window->setFocus(-1);
-        QTRY_VERIFY(label().hasFocus());
-    }
-    /// Pressed where the focus is, as a hand does.
-    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const
-    {
-        QTest::keyClick(window->focusWidget(), key, modifiers);
-    }
-    /// As the table lists them.
-    QString names() const
-    {
-        QStringList names;
-        for (int row = 0; row < tools().rowCount(); ++row)
-            names.append(toolRow(row).first());
-        return names.join(QLatin1Char(' '));
     }
 };
 
