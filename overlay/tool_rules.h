@@ -221,6 +221,7 @@ void shiftEnd(CircleTool& circle, int dx, int dy);
 /// As many as the row of its kind says: a position, both ends, both corners; centre and radius.
 using ToolNumbers = std::array<int, 4>;
 
+/// What setNumbers() makes the same tool of again; those that its kind has not are 0.
 ToolNumbers numbersOf(const PointTool& point);
 ToolNumbers numbersOf(const LineTool& line);
 ToolNumbers numbersOf(const RectTool& rect);
