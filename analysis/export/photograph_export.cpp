@@ -2,11 +2,11 @@
 #include "analysis/export/photograph_export.h"
 
 #include "analysis/export/npy.h"
+#include "analysis/export/picture_export.h"
 #include "analysis/export/tiff.h"
 #include "analysis/photograph/false_colour.h"
 #include "files/paths.h"
 
-#include <QBuffer>
 #include <QFileInfo>
 
 using files::Outcome;
@@ -17,26 +17,14 @@ namespace {
 
 using namespace format;
 
-QByteArray pngOf(const Photograph& photograph, int startValue, int endValue)
-{
-    QBuffer buffer;
-    falseColourPicture(photograph, startValue, endValue).save(&buffer, "png");
-    return buffer.data();
-}
-
 QByteArray exported(const PhotographReader& reader, const ExportOptions& options)
 {
     const Photograph& photograph = reader.photograph();
     if (options.format == ExportFormat::Png)
-        return pngOf(photograph, options.startValue, options.endValue);
+        return pngOf(falseColourPicture(photograph, options.startValue, options.endValue));
 
     const ShownUnit unit = shownUnit(options.unit, photograph.parameters.unit, reader.isRaw());
-    const std::vector<float> values = shownRows(photograph, unit.conversion);
-    if (options.format == ExportFormat::Npy)
-        return npyOf(values);
-    if (options.format == ExportFormat::Tiff)
-        return tiffOf(values, unit, photograph.parameters);
-    return csvOf(values, unit, options.csv);
+    return temperatureFile(photograph, unit, options.format, options.csv);
 }
 
 } // namespace
@@ -70,9 +58,19 @@ std::vector<float> shownRows(const Photograph& photograph, Conversion conversion
     values.reserve(photograph.temperatures.size());
     for (int y = 0; y < rows; ++y)
         for (int x = 0; x < columns; ++x)
-            values.push_back(
-                shown(photograph.temperatures[temperatureIndex(x, y)], conversion));
+            values.push_back(shown(photograph.temperatures[temperatureIndex(x, y)], conversion));
     return values;
+}
+
+QByteArray temperatureFile(const Photograph& photograph, const ShownUnit& unit, ExportFormat format,
+                           const CsvOptions& csv)
+{
+    const std::vector<float> values = shownRows(photograph, unit.conversion);
+    if (format == ExportFormat::Npy)
+        return npyOf(values);
+    if (format == ExportFormat::Tiff)
+        return tiffOf(values, unit, photograph.parameters);
+    return csvOf(values, unit, csv);
 }
 
 Outcome PhotographExporter::run(const QString& photographPath, const QString& targetPath)

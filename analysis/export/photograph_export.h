@@ -47,6 +47,10 @@ struct ExportOptions
 /// precision number that the cursor read-out of the analysis window rounds to one decimal.
 std::vector<float> shownRows(const Photograph& photograph, Conversion conversion);
 
+/// The bytes of a file with the temperatures as seen; `format` is not Png.
+QByteArray temperatureFile(const Photograph& photograph, const ShownUnit& unit, ExportFormat format,
+                           const CsvOptions& csv = {});
+
 /// Writes photographs as files, one after another, all with the same options. A few megabytes; one
 /// for each thread.
 class PhotographExporter

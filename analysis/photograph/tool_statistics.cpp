@@ -90,6 +90,19 @@ QString kindCaption(overlay::ToolKind kind)
     return QCoreApplication::translate("Analysis_Widget", captions[std::size_t(kind)]);
 }
 
+ToolCells toolCaptions()
+{
+    static constexpr std::array<const char*, std::tuple_size_v<ToolCells>> captions{
+        QT_TRANSLATE_NOOP("Analysis_Widget", "名称"), QT_TRANSLATE_NOOP("Analysis_Widget", "类型"),
+        QT_TRANSLATE_NOOP("Analysis_Widget", "高"), QT_TRANSLATE_NOOP("Analysis_Widget", "低"),
+        QT_TRANSLATE_NOOP("Analysis_Widget", "平均")};
+    ToolCells texts;
+    std::transform(captions.begin(), captions.end(), texts.begin(), [](const char* caption) {
+        return QCoreApplication::translate("Analysis_Widget", caption);
+    });
+    return texts;
+}
+
 ToolCells toolCells(const ToolRow& row)
 {
     return {row.name, kindCaption(row.kind), row.high, row.low, row.average};

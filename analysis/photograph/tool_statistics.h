@@ -54,4 +54,7 @@ QString kindCaption(overlay::ToolKind kind);
 using ToolCells = std::array<QString, 5>;
 ToolCells toolCells(const ToolRow& row);
 
+/// What stands above these texts, translated in the context of the analysis window.
+ToolCells toolCaptions();
+
 } // namespace analysis

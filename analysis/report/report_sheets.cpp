@@ -103,11 +103,6 @@ constexpr std::array<Field, 10> fields{{
      3000},
 }};
 
-constexpr std::array<const char*, std::tuple_size_v<ToolCells>> toolHeader{
-    QT_TRANSLATE_NOOP("Analysis_Widget", "名称"), QT_TRANSLATE_NOOP("Analysis_Widget", "类型"),
-    QT_TRANSLATE_NOOP("Analysis_Widget", "高"), QT_TRANSLATE_NOOP("Analysis_Widget", "低"),
-    QT_TRANSLATE_NOOP("Analysis_Widget", "平均")};
-
 QString translated(const char* text)
 {
     return QCoreApplication::translate(context, text);
@@ -172,8 +167,7 @@ private:
         heading(translated(QT_TRANSLATE_NOOP("Analysis_Widget", "测温信息")) +
                 QStringLiteral("(%1)").arg(
                     signOf(unitAt(m_report.unitIndex).value_or(Unit::Fahrenheit))));
-        ToolCells header;
-        std::transform(toolHeader.begin(), toolHeader.end(), header.begin(), translated);
+        const ToolCells header = toolCaptions();
         const Edges edges = columns(header);
         row(headerBaseline, header, edges, QFont::Bold);
         int baseline = headerBaseline;

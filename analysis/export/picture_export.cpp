@@ -1,0 +1,227 @@
+// SPDX-License-Identifier: MIT
+#include "analysis/export/picture_export.h"
+
+#include "analysis/photograph/false_colour.h"
+#include "analysis/report/report_font.h"
+#include "overlay/colour_bar_scale.h"
+#include "overlay/tool_painting.h"
+
+#include <QBuffer>
+#include <QCoreApplication>
+#include <QFontMetrics>
+#include <QPainter>
+
+#include <algorithm>
+#include <array>
+
+using overlay::Geometry;
+
+namespace analysis {
+namespace {
+
+// Extents at a scale of 1, in pixels.
+constexpr int textSize = 9;
+constexpr int gap = 6;
+constexpr int stripWidth = 14;
+constexpr int markerWidth = 8;
+constexpr int markerHalfHeight = 5;
+constexpr int barMargin = 16; ///< above the strip, where the unit stands, and below it
+constexpr int rowHeight = 14;
+
+/// The widest temperature that the bar has room for.
+const QLatin1String widestTemperature("-8888.8");
+
+/// The one pixel more makes margins, without which a conversion to the sheet rounds differently.
+Geometry geometryAt(int scale)
+{
+    const int width = overlay::imageColumns * scale;
+    const int height = overlay::imageRows * scale;
+    return {width + 1, width, height, height};
+}
+
+QString headingOf(const ShownPicture& shown)
+{
+    return QCoreApplication::translate("Analysis_Widget", "测温信息") +
+           QStringLiteral("(%1)").arg(signOf(shown.unit));
+}
+
+/// One picture on its way to the sheet.
+class Composition
+{
+public:
+    Composition(const ShownPicture& shown, const PictureOptions& options)
+        : m_shown(shown), m_scale(std::clamp(options.scale, 1, PictureOptions::largestScale)),
+          m_picture(pictureWithTools(shown, geometryAt(m_scale))),
+          m_font(reportFont(textSize * m_scale, QFont::Normal, shown.language)),
+          m_boldFont(reportFont(textSize * m_scale, QFont::Bold, shown.language)),
+          m_hasColourBar(options.hasColourBar),
+          m_hasValues(options.hasValues && !shown.measured.empty())
+    {
+    }
+
+    QImage paint() const
+    {
+        QSize size = m_picture.size();
+        if (m_hasColourBar)
+            size.rwidth() += barWidth();
+        if (m_hasValues)
+            size = {std::max(size.width(), columnEdges().back() + at(gap)),
+                    size.height() + at(rowHeight) * (int(m_shown.measured.size()) + 2) + at(gap)};
+        QImage sheet(size, QImage::Format_RGB32);
+        sheet.fill(Qt::white);
+        QPainter painter(&sheet);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.drawImage(0, 0, m_picture);
+        if (m_hasColourBar)
+            paintColourBar(painter);
+        if (m_hasValues)
+            paintValues(painter);
+        return sheet;
+    }
+
+private:
+    int at(int extent) const { return extent * m_scale; }
+
+    int barWidth() const
+    {
+        return at(2 * gap + stripWidth + markerWidth + gap) +
+               QFontMetrics(m_font).horizontalAdvance(widestTemperature);
+    }
+
+    QRect stripPlace() const
+    {
+        return {m_picture.width() + at(gap), at(barMargin), at(stripWidth),
+                m_picture.height() - 2 * at(barMargin)};
+    }
+
+    void paintColourBar(QPainter& painter) const
+    {
+        const QRect strip = stripPlace();
+        painter.drawImage(strip, m_shown.colourStrip);
+        painter.setFont(m_font);
+        painter.setPen(Qt::black);
+        const int left = strip.left() + strip.width() + at(markerWidth + gap);
+        const auto text = [&](int middle, const QString& words) {
+            painter.drawText(
+                QRect(left, middle - at(rowHeight) / 2, m_picture.width(), at(rowHeight)),
+                Qt::AlignLeft | Qt::AlignVCenter, words);
+        };
+        text(strip.top() / 2 - m_scale, signOf(m_shown.unit));
+        const auto temperatures =
+            overlay::scaleTemperatures(m_shown.topTemperature, m_shown.bottomTemperature);
+        for (std::size_t k = 0; k < temperatures.size(); ++k)
+            text(strip.top() + strip.height() * int(k) / (overlay::scaleLabels - 1),
+                 oneDecimal(double(temperatures[k])));
+        for (const int value : {m_shown.startValue, m_shown.endValue})
+            paintMarker(painter, overlay::paletteStep(value));
+    }
+
+    /// A triangle that points at its step of the strip and has its colour.
+    void paintMarker(QPainter& painter, int step) const
+    {
+        const QRect strip = stripPlace();
+        const QPoint tip(strip.left() + strip.width(),
+                         strip.top() + strip.height() * step / (overlay::paletteSteps - 1));
+        painter.setBrush(m_shown.colourStrip.pixelColor(0, step));
+        painter.drawPolygon(QPolygon({tip, tip + QPoint(at(markerWidth), -at(markerHalfHeight)),
+                                      tip + QPoint(at(markerWidth), at(markerHalfHeight))}));
+    }
+
+    /// Where each column's texts start, and at last where a further column's would.
+    std::array<int, std::tuple_size_v<ToolCells> + 1> columnEdges() const
+    {
+        std::array<int, std::tuple_size_v<ToolCells> + 1> edges{at(gap)};
+        for (std::size_t column = 0; column + 1 < edges.size(); ++column) {
+            int width = QFontMetrics(m_boldFont).horizontalAdvance(m_captions[column]);
+            for (const ToolCells& row : m_shown.measured)
+                width = std::max(width, QFontMetrics(m_font).horizontalAdvance(row[column]));
+            edges[column + 1] = edges[column] + width + at(2 * gap);
+        }
+        return edges;
+    }
+
+    void paintValues(QPainter& painter) const
+    {
+        const auto edges = columnEdges();
+        int top = m_picture.height() + at(gap) / 2;
+        const auto row = [&](const ToolCells& cells, const QFont& font) {
+            painter.setFont(font);
+            for (std::size_t column = 0; column < cells.size(); ++column)
+                painter.drawText(
+                    QRect(edges[column], top, edges[column + 1] - edges[column], at(rowHeight)),
+                    Qt::AlignLeft | Qt::AlignVCenter, cells[column]);
+            painter.drawLine(edges.front(), top + at(rowHeight), edges.back() - at(gap),
+                             top + at(rowHeight));
+            top += at(rowHeight);
+        };
+        painter.setPen(Qt::black);
+        painter.setFont(m_boldFont);
+        painter.drawText(QRect(edges.front(), top, painter.window().width(), at(rowHeight)),
+                         Qt::AlignLeft | Qt::AlignVCenter, headingOf(m_shown));
+        top += at(rowHeight);
+        row(m_captions, m_boldFont);
+        for (const ToolCells& cells : m_shown.measured)
+            row(cells, m_font);
+    }
+
+    const ShownPicture& m_shown;
+    const int m_scale;
+    const QImage m_picture;
+    const QFont m_font;
+    const QFont m_boldFont;
+    const ToolCells m_captions = toolCaptions();
+    const bool m_hasColourBar;
+    const bool m_hasValues;
+};
+
+} // namespace
+
+ShownPicture shownPicture(const Photograph& photograph, const ShownUnit& unit,
+                          const overlay::Tools& tools, int startValue, int endValue)
+{
+    ShownPicture shown;
+    shown.falseColours = falseColourPicture(photograph, startValue, endValue);
+    shown.tools = tools;
+    shown.spots = photograph;
+    shown.colourStrip = colourStrip(photograph.palette);
+    shown.startValue = startValue;
+    shown.endValue = endValue;
+    shown.topTemperature = shownTenths(photograph.parameters.maximum10, unit.conversion);
+    shown.bottomTemperature = shownTenths(photograph.parameters.minimum10, unit.conversion);
+    shown.unit = unit.unit;
+    for (const ToolRow& row : toolRows(tools, photograph.temperatures, unit.conversion))
+        shown.measured.push_back(toolCells(row));
+    return shown;
+}
+
+/// Where the picture lies on the label is how the label centres it.
+QImage pictureWithTools(const ShownPicture& shown, const Geometry& geometry)
+{
+    const QSize size(geometry.imageWidth, geometry.imageHeight);
+    if (size.isEmpty())
+        return {};
+    QImage picture =
+        shown.falseColours.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+            .convertToFormat(QImage::Format_RGB32);
+    overlay::Sheet sheet;
+    sheet.geometry = geometry;
+    QPainter painter(&picture);
+    painter.drawImage(geometry.imageWidth / 2 - geometry.labelWidth / 2,
+                      geometry.imageHeight / 2 - geometry.labelHeight / 2,
+                      overlay::paintedTools(shown.tools, shown.spots, sheet));
+    return picture;
+}
+
+QImage exportedPicture(const ShownPicture& shown, const PictureOptions& options)
+{
+    return Composition(shown, options).paint();
+}
+
+QByteArray pngOf(const QImage& picture)
+{
+    QBuffer buffer;
+    picture.save(&buffer, "png");
+    return buffer.data();
+}
+
+} // namespace analysis

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#include "analysis/export/tool_table_text.h"
+
+namespace analysis {
+
+QString tabSeparated(const std::vector<ToolCells>& rows)
+{
+    QString text;
+    for (const ToolCells& row : rows) {
+        for (const QString& cell : row) {
+            if (&cell != &row.front())
+                text += QLatin1Char('\t');
+            text += cell.simplified();
+        }
+        text += QLatin1Char('\n');
+    }
+    return text;
+}
+
+QString htmlTable(const std::vector<ToolCells>& rows, bool header)
+{
+    // Mail programs and word processors would take any other encoding for granted.
+    QString html = QStringLiteral("<meta charset=\"utf-8\"><table border=\"1\">\n");
+    for (const ToolCells& row : rows) {
+        const bool isHeader = header && &row == &rows.front();
+        const QString cellForm =
+            isHeader ? QStringLiteral("<th>%1</th>") : QStringLiteral("<td>%1</td>");
+        html += QStringLiteral("<tr>");
+        for (const QString& cell : row)
+            html += cellForm.arg(cell.simplified().toHtmlEscaped());
+        html += QStringLiteral("</tr>\n");
+    }
+    return html + QStringLiteral("</table>\n");
+}
+
+} // namespace analysis
