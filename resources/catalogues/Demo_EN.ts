@@ -196,6 +196,77 @@
     </message>
 </context>
 <context>
+    <name>CoordinatesDialog</name>
+    <message>
+        <source>起点 X:</source>
+        <translation>Start X:</translation>
+    </message>
+    <message>
+        <source>起点 Y:</source>
+        <translation>Start Y:</translation>
+    </message>
+    <message>
+        <source>终点 X:</source>
+        <translation>End X:</translation>
+    </message>
+    <message>
+        <source>终点 Y:</source>
+        <translation>End Y:</translation>
+    </message>
+    <message>
+        <source>第一角 X:</source>
+        <translation>First corner X:</translation>
+    </message>
+    <message>
+        <source>第一角 Y:</source>
+        <translation>First corner Y:</translation>
+    </message>
+    <message>
+        <source>对角 X:</source>
+        <translation>Opposite corner X:</translation>
+    </message>
+    <message>
+        <source>对角 Y:</source>
+        <translation>Opposite corner Y:</translation>
+    </message>
+    <message>
+        <source>圆心 X:</source>
+        <translation>Centre X:</translation>
+    </message>
+    <message>
+        <source>圆心 Y:</source>
+        <translation>Centre Y:</translation>
+    </message>
+    <message>
+        <source>半径:</source>
+        <translation>Radius:</translation>
+    </message>
+    <message>
+        <source>坐标</source>
+        <translation>Coordinates</translation>
+    </message>
+    <message>
+        <source>坐标 - %1</source>
+        <translation>Coordinates - %1</translation>
+    </message>
+    <message>
+        <source>类型:</source>
+        <translation>Type:</translation>
+    </message>
+    <message>
+        <source>这些数值不能构成图像内的工具。</source>
+        <translation>These numbers make no tool inside the picture.</translation>
+    </message>
+    <message>
+        <source>类型</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>%1 … %2</source>
+        <translation>%1 … %2</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Therma Desk</source>
@@ -262,6 +333,41 @@
     <message>
         <source>色标，最高 %1，最低 %2</source>
         <translation>Colour bar, highest %1, lowest %2</translation>
+    </message>
+</context>
+<context>
+    <name>PictureDialog</name>
+    <message>
+        <source>色标和温度</source>
+        <translation>Colour bar with temperatures</translation>
+    </message>
+    <message>
+        <source>测量值</source>
+        <translation>Measured values</translation>
+    </message>
+    <message>
+        <source>保存图片</source>
+        <translation>Save picture</translation>
+    </message>
+    <message>
+        <source>%1 倍</source>
+        <translation>%1×</translation>
+    </message>
+    <message>
+        <source>保存...</source>
+        <translation>Save...</translation>
+    </message>
+    <message>
+        <source>放大:</source>
+        <translation>Scale:</translation>
+    </message>
+    <message>
+        <source>大小:</source>
+        <translation>Size:</translation>
+    </message>
+    <message>
+        <source>%1 × %2 像素</source>
+        <translation>%1 × %2 pixels</translation>
     </message>
 </context>
 <context>
@@ -337,6 +443,27 @@
     <message>
         <source>%1：%2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ViewExport</name>
+    <message>
+        <source>保存图片</source>
+        <translation>Save picture</translation>
+    </message>
+    <message>
+        <source>保存温度</source>
+        <translation>Save temperatures</translation>
+    </message>
+    <message>
+        <source>警告</source>
+        <translation>Warning</translation>
+    </message>
+    <message>
+        <source>文件“%1”未能写入，原有文件保持不变。
+%2</source>
+        <translation>The file “%1” could not be written; a file that was there stays as it was.
+%2</translation>
     </message>
 </context>
 <context>

@@ -196,6 +196,77 @@
     </message>
 </context>
 <context>
+    <name>CoordinatesDialog</name>
+    <message>
+        <source>起点 X:</source>
+        <translation>시작점 X:</translation>
+    </message>
+    <message>
+        <source>起点 Y:</source>
+        <translation>시작점 Y:</translation>
+    </message>
+    <message>
+        <source>终点 X:</source>
+        <translation>끝점 X:</translation>
+    </message>
+    <message>
+        <source>终点 Y:</source>
+        <translation>끝점 Y:</translation>
+    </message>
+    <message>
+        <source>第一角 X:</source>
+        <translation>첫째 모서리 X:</translation>
+    </message>
+    <message>
+        <source>第一角 Y:</source>
+        <translation>첫째 모서리 Y:</translation>
+    </message>
+    <message>
+        <source>对角 X:</source>
+        <translation>반대 모서리 X:</translation>
+    </message>
+    <message>
+        <source>对角 Y:</source>
+        <translation>반대 모서리 Y:</translation>
+    </message>
+    <message>
+        <source>圆心 X:</source>
+        <translation>중심 X:</translation>
+    </message>
+    <message>
+        <source>圆心 Y:</source>
+        <translation>중심 Y:</translation>
+    </message>
+    <message>
+        <source>半径:</source>
+        <translation>반지름:</translation>
+    </message>
+    <message>
+        <source>坐标</source>
+        <translation>좌표</translation>
+    </message>
+    <message>
+        <source>坐标 - %1</source>
+        <translation>좌표 - %1</translation>
+    </message>
+    <message>
+        <source>类型:</source>
+        <translation>유형:</translation>
+    </message>
+    <message>
+        <source>这些数值不能构成图像内的工具。</source>
+        <translation>이 값으로는 이미지 안에 도구를 만들 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>类型</source>
+        <translation>유형</translation>
+    </message>
+    <message>
+        <source>%1 … %2</source>
+        <translation>%1 … %2</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Therma Desk</source>
@@ -262,6 +333,41 @@
     <message>
         <source>色标，最高 %1，最低 %2</source>
         <translation>색상 막대, 최고 %1, 최저 %2</translation>
+    </message>
+</context>
+<context>
+    <name>PictureDialog</name>
+    <message>
+        <source>色标和温度</source>
+        <translation>온도가 있는 색상 막대</translation>
+    </message>
+    <message>
+        <source>测量值</source>
+        <translation>측정값</translation>
+    </message>
+    <message>
+        <source>保存图片</source>
+        <translation>이미지 저장</translation>
+    </message>
+    <message>
+        <source>%1 倍</source>
+        <translation>%1배</translation>
+    </message>
+    <message>
+        <source>保存...</source>
+        <translation>저장...</translation>
+    </message>
+    <message>
+        <source>放大:</source>
+        <translation>배율:</translation>
+    </message>
+    <message>
+        <source>大小:</source>
+        <translation>크기:</translation>
+    </message>
+    <message>
+        <source>%1 × %2 像素</source>
+        <translation>%1 × %2 픽셀</translation>
     </message>
 </context>
 <context>
@@ -333,6 +439,27 @@
     <message>
         <source>%1：%2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ViewExport</name>
+    <message>
+        <source>保存图片</source>
+        <translation>이미지 저장</translation>
+    </message>
+    <message>
+        <source>保存温度</source>
+        <translation>온도 저장</translation>
+    </message>
+    <message>
+        <source>警告</source>
+        <translation>경고</translation>
+    </message>
+    <message>
+        <source>文件“%1”未能写入，原有文件保持不变。
+%2</source>
+        <translation>파일 “%1”을(를) 쓸 수 없습니다. 기존 파일은 그대로 남아 있습니다.
+%2</translation>
     </message>
 </context>
 <context>

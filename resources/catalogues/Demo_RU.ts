@@ -196,6 +196,77 @@
     </message>
 </context>
 <context>
+    <name>CoordinatesDialog</name>
+    <message>
+        <source>起点 X:</source>
+        <translation>Начало X:</translation>
+    </message>
+    <message>
+        <source>起点 Y:</source>
+        <translation>Начало Y:</translation>
+    </message>
+    <message>
+        <source>终点 X:</source>
+        <translation>Конец X:</translation>
+    </message>
+    <message>
+        <source>终点 Y:</source>
+        <translation>Конец Y:</translation>
+    </message>
+    <message>
+        <source>第一角 X:</source>
+        <translation>Первый угол X:</translation>
+    </message>
+    <message>
+        <source>第一角 Y:</source>
+        <translation>Первый угол Y:</translation>
+    </message>
+    <message>
+        <source>对角 X:</source>
+        <translation>Противоположный угол X:</translation>
+    </message>
+    <message>
+        <source>对角 Y:</source>
+        <translation>Противоположный угол Y:</translation>
+    </message>
+    <message>
+        <source>圆心 X:</source>
+        <translation>Центр X:</translation>
+    </message>
+    <message>
+        <source>圆心 Y:</source>
+        <translation>Центр Y:</translation>
+    </message>
+    <message>
+        <source>半径:</source>
+        <translation>Радиус:</translation>
+    </message>
+    <message>
+        <source>坐标</source>
+        <translation>Координаты</translation>
+    </message>
+    <message>
+        <source>坐标 - %1</source>
+        <translation>Координаты - %1</translation>
+    </message>
+    <message>
+        <source>类型:</source>
+        <translation>Тип:</translation>
+    </message>
+    <message>
+        <source>这些数值不能构成图像内的工具。</source>
+        <translation>Такой инструмент не помещается в снимок.</translation>
+    </message>
+    <message>
+        <source>类型</source>
+        <translation>Тип</translation>
+    </message>
+    <message>
+        <source>%1 … %2</source>
+        <translation>%1 … %2</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Therma Desk</source>
@@ -262,6 +333,41 @@
     <message>
         <source>色标，最高 %1，最低 %2</source>
         <translation>Цветовая шкала: макс. %1, мин. %2</translation>
+    </message>
+</context>
+<context>
+    <name>PictureDialog</name>
+    <message>
+        <source>色标和温度</source>
+        <translation>Цветовая шкала с температурами</translation>
+    </message>
+    <message>
+        <source>测量值</source>
+        <translation>Измеренные значения</translation>
+    </message>
+    <message>
+        <source>保存图片</source>
+        <translation>Сохранение снимка</translation>
+    </message>
+    <message>
+        <source>%1 倍</source>
+        <translation>%1×</translation>
+    </message>
+    <message>
+        <source>保存...</source>
+        <translation>Сохранить...</translation>
+    </message>
+    <message>
+        <source>放大:</source>
+        <translation>Масштаб:</translation>
+    </message>
+    <message>
+        <source>大小:</source>
+        <translation>Размер:</translation>
+    </message>
+    <message>
+        <source>%1 × %2 像素</source>
+        <translation>%1 × %2 пикс.</translation>
     </message>
 </context>
 <context>
@@ -341,6 +447,27 @@
     <message>
         <source>%1：%2</source>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>ViewExport</name>
+    <message>
+        <source>保存图片</source>
+        <translation>Сохранение снимка</translation>
+    </message>
+    <message>
+        <source>保存温度</source>
+        <translation>Сохранение температур</translation>
+    </message>
+    <message>
+        <source>警告</source>
+        <translation>Предупреждение</translation>
+    </message>
+    <message>
+        <source>文件“%1”未能写入，原有文件保持不变。
+%2</source>
+        <translation>Не удалось записать файл «%1»; прежний файл остался без изменений.
+%2</translation>
     </message>
 </context>
 <context>

@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: MIT
+#include "analysis/windows/view_export.h"
+
+#include "analysis/export/tool_table_text.h"
+#include "analysis/windows/picture_dialog.h"
+#include "config/configuration_record.h"
+#include "dialogs/dialogs.h"
+#include "files/paths.h"
+#include "files/whole_file.h"
+
+#include <QClipboard>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QMessageBox>
+#include <QMimeData>
+
+#include <array>
+#include <functional>
+#include <memory>
+
+using namespace analysis;
+
+namespace {
+
+/// The formats of temperatures, and how a file dialog calls them.
+struct FormatRow
+{
+    ExportFormat format;
+    const char* filter;
+};
+constexpr std::array<FormatRow, 3> temperatureFormats{{
+    {ExportFormat::Csv, "CSV (*.csv)"},
+    {ExportFormat::Tiff, "TIFF (*.tiff)"},
+    {ExportFormat::Npy, "NumPy (*.npy)"},
+}};
+
+/// By the end of the name, else by the chosen filter.
+ExportFormat formatOf(const QString& path, const QString& filter)
+{
+    const QString suffix = QFileInfo(path).suffix().toLower();
+    for (const FormatRow& row : temperatureFormats) {
+        if (suffix == suffixOf(row.format))
+            return row.format;
+    }
+    for (const FormatRow& row : temperatureFormats) {
+        if (filter == QLatin1String(row.filter))
+            return row.format;
+    }
+    return ExportFormat::Csv;
+}
+
+QFileDialog* saveDialog(const QString& title, const QString& photograph, const QString& suffix,
+                        QWidget* window)
+{
+    auto* dialog = new QFileDialog(window, title, config::documentsPath());
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setFileMode(QFileDialog::AnyFile);
+    dialog->setDefaultSuffix(suffix);
+    dialog->selectFile(files::pathIn(config::documentsPath(), exportName(photograph, suffix)));
+    return dialog;
+}
+
+/// The name in the dialog follows the kind of file.
+void followFilter(QFileDialog& dialog, const QString& filter)
+{
+    const QString suffix = suffixOf(formatOf({}, filter));
+    const QFileInfo chosen(dialog.selectedFiles().value(0));
+    dialog.setDefaultSuffix(suffix);
+    dialog.selectFile(
+        files::pathIn(chosen.path(), chosen.completeBaseName() + QLatin1Char('.') + suffix));
+}
+
+} // namespace
+
+void ViewExport::copyPicture(const ShownPicture& shown, const overlay::Geometry& geometry)
+{
+    const QImage picture = pictureWithTools(shown, geometry);
+    if (!picture.isNull())
+        QGuiApplication::clipboard()->setImage(picture);
+}
+
+void ViewExport::copyTable(const std::vector<ToolCells>& rows, bool header)
+{
+    auto* data = new QMimeData;
+    data->setText(tabSeparated(rows));
+    data->setHtml(htmlTable(rows, header));
+    QGuiApplication::clipboard()->setMimeData(data);
+}
+
+void ViewExport::savePicture(const ShownPicture& shown, const QString& photograph, QWidget* page)
+{
+    QWidget* window = page->window();
+    auto* how = new PictureDialog(shown, window);
+    QObject::connect(how, &QDialog::accepted, page, [how, photograph, page, window] {
+        const QImage picture = how->picture();
+        auto* where = saveDialog(tr("保存图片"), photograph, suffixOf(ExportFormat::Png), window);
+        where->setNameFilter(QStringLiteral("PNG (*.png)"));
+        QObject::connect(
+            where, &QFileDialog::fileSelected, window,
+            [picture, window](const QString& path) { write(path, pngOf(picture), window); });
+        dialogs::open(where, page);
+    });
+    dialogs::open(how, page);
+}
+
+void ViewExport::saveTemperatures(const Photograph& shown, const ShownUnit& unit,
+                                  const QString& photograph, QWidget* page)
+{
+    QWidget* window = page->window();
+    auto* where =
+        saveDialog(tr("保存温度"), photograph, suffixOf(temperatureFormats.front().format), window);
+    QStringList filters;
+    for (const FormatRow& row : temperatureFormats)
+        filters.append(QLatin1String(row.filter));
+    where->setNameFilters(filters);
+    QObject::connect(where, &QFileDialog::filterSelected, where,
+                     [where](const QString& filter) { followFilter(*where, filter); });
+    const auto kept = std::make_shared<const Photograph>(shown);
+    QObject::connect(where, &QFileDialog::fileSelected, window,
+                     [where, kept, unit, window](const QString& path) {
+                         const ExportFormat format = formatOf(path, where->selectedNameFilter());
+                         write(path, temperatureFile(*kept, unit, format), window);
+                     });
+    dialogs::open(where, page);
+}
+
+/// The dialog has asked whether a file that is there may be replaced.
+void ViewExport::write(const QString& path, const QByteArray& bytes, QWidget* window)
+{
+    const files::Outcome outcome = files::writeWholeFile(path, bytes, files::Existing::Replace);
+    if (outcome.isGood())
+        return;
+    auto* box = new QMessageBox(QMessageBox::Warning, tr("警告"),
+                                tr("文件“%1”未能写入，原有文件保持不变。\n%2")
+                                    .arg(QDir::toNativeSeparators(path), outcome.detail),
+                                QMessageBox::Ok, window);
+    box->setTextFormat(Qt::PlainText);
+    dialogs::open(box);
+}
