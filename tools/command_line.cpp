@@ -43,6 +43,8 @@ bool CommandLine::parse(const QStringList& arguments)
         return false;
     } else if (paths().isEmpty())
         refuse(QStringLiteral("no photographs are named"));
+    constexpr int mostJobs = 1024;
+    m_jobs = number(QStringLiteral("jobs"), 1, mostJobs).value_or(QThread::idealThreadCount());
     return isGood();
 }
 
@@ -101,12 +103,6 @@ std::optional<int> CommandLine::modelIndex()
     for (const auto& layout : analysis::format::layouts)
         names.emplace_back(layout.name, layout.modelIndex);
     return choice(QStringLiteral("layout"), names);
-}
-
-int CommandLine::jobs()
-{
-    constexpr int most = 1024;
-    return number(QStringLiteral("jobs"), 1, most).value_or(QThread::idealThreadCount());
 }
 
 } // namespace tools

@@ -70,7 +70,7 @@ public:
     bool isRecursive() const { return isSet(QStringLiteral("recursive")); }
     /// 0 or 1; nothing for "auto".
     std::optional<int> modelIndex();
-    int jobs();
+    int jobs() const { return m_jobs; }
 
 private:
     QByteArray help() const;
@@ -78,6 +78,7 @@ private:
     QString m_command;
     QCommandLineParser m_parser;
     QString m_error;
+    int m_jobs = 1;
     int m_status = status::good;
 };
 

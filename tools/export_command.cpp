@@ -9,8 +9,7 @@
 
 using analysis::ExportFormat;
 using analysis::ExportOptions;
-using analysis::PhotographExporter;
-using files::Outcome;
+using analysis::PhotographReader;
 
 namespace tools {
 namespace {
@@ -111,28 +110,19 @@ int exportCommand(const QStringList& arguments)
     addOptions(line);
     if (!line.parse(arguments))
         return line.status();
-    PhotographRun photographs;
-    photographs.jobs = line.jobs();
     ExportOptions options = readOptions(line);
     const TargetRules rules = readTargetRules(line);
     options.existing = rules.existing;
     if (!line.isGood())
         return line.status();
 
-    photographs.entries = listPhotographs(line.paths(), line.isRecursive());
-    const std::optional<QStringList> targets =
-        prepareTargets(line, suffixOf(options.format), photographs.entries);
-    if (!targets)
+    PhotographRun photographs(line);
+    if (!prepareTargets(line, suffixOf(options.format), photographs.entries))
         return status::someFailed;
     photographs.writesFiles = true;
-    photographs.makeWork = [&]() -> Work {
-        const auto exporter = std::make_shared<PhotographExporter>(options);
-        return [&, exporter](int index) -> Result {
-            const QString& target = targets->at(index);
-            const Outcome outcome =
-                exporter->run(photographs.entries[std::size_t(index)].path, target);
-            return targetResult(outcome, target, rules);
-        };
+    photographs.work = [&](const Entry& entry, PhotographReader& reader) {
+        return targetResult(exportPhotograph(entry.path, reader, entry.target, options),
+                            entry.target, rules);
     };
     return run(photographs);
 }

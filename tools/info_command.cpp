@@ -106,24 +106,18 @@ int infoCommand(const QStringList& arguments)
     line.add({QStringLiteral("json")}, QStringLiteral("Print a JSON array of objects."));
     if (!line.parse(arguments))
         return line.status();
-    PhotographRun photographs;
-    photographs.jobs = line.jobs();
     const bool asJson = line.isSet(QStringLiteral("json"));
     const std::optional<int> modelIndex = line.modelIndex();
     if (!line.isGood())
         return line.status();
 
-    photographs.entries = listPhotographs(line.paths(), line.isRecursive());
-    photographs.makeWork = [&]() -> Work {
-        const auto reader = std::make_shared<PhotographReader>();
-        return [&, reader](int index) -> Result {
-            const QString& path = photographs.entries[std::size_t(index)].path;
-            const Outcome outcome = reader->read(path, modelIndex);
-            // Who names the layout wants to see what stands there.
-            if (!outcome.isGood() && outcome.problem != Problem::OtherImager)
-                return {{}, reason(outcome)};
-            return {(asJson ? json : text)(path, *reader, outcome.isGood()), {}};
-        };
+    PhotographRun photographs(line);
+    photographs.work = [&](const Entry& entry, PhotographReader& reader) -> Result {
+        const Outcome outcome = reader.read(entry.path, modelIndex);
+        // Who names the layout wants to see what stands there.
+        if (!outcome.isGood() && outcome.problem != Problem::OtherImager)
+            return {{}, reason(outcome)};
+        return {(asJson ? json : text)(entry.path, reader, outcome.isGood()), {}};
     };
     if (asJson) {
         photographs.before = "[";

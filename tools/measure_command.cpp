@@ -118,8 +118,6 @@ int measureCommand(const QStringList& arguments)
     if (!line.parse(arguments))
         return line.status();
 
-    PhotographRun photographs;
-    photographs.jobs = line.jobs();
     const std::optional<int> modelIndex = line.modelIndex();
     const std::optional<Unit> unit = readUnit(line);
     const auto write = line.choice<Writer>(QStringLiteral("format"),
@@ -131,21 +129,17 @@ int measureCommand(const QStringList& arguments)
 
     // For eyes; a program gets the names as they are.
     const bool isShown = write == table || (write == csv && platform::isTerminal(stdout));
-    photographs.entries = listPhotographs(line.paths(), line.isRecursive());
-    photographs.makeWork = [&]() -> Work {
-        const auto reader = std::make_shared<PhotographReader>();
-        return [&, reader](int index) -> Result {
-            const QString& path = photographs.entries[std::size_t(index)].path;
-            const Outcome outcome = reader->read(path, modelIndex);
-            if (!outcome.isGood())
-                return {{}, reason(outcome)};
-            const analysis::Photograph& photograph = reader->photograph();
-            const analysis::ShownUnit shown =
-                shownUnit(unit, photograph.parameters.unit, reader->isRaw());
-            return {write({isShown ? printable(path) : path, letterOf(shown.unit),
-                           toolRows(tools, photograph.temperatures, shown.conversion)}),
-                    {}};
-        };
+    PhotographRun photographs(line);
+    photographs.work = [&](const Entry& entry, PhotographReader& reader) -> Result {
+        const Outcome outcome = reader.read(entry.path, modelIndex);
+        if (!outcome.isGood())
+            return {{}, reason(outcome)};
+        const analysis::Photograph& photograph = reader.photograph();
+        const analysis::ShownUnit shown =
+            shownUnit(unit, photograph.parameters.unit, reader.isRaw());
+        return {write({isShown ? printable(entry.path) : entry.path, letterOf(shown.unit),
+                       toolRows(tools, photograph.temperatures, shown.conversion)}),
+                {}};
     };
     if (write == json) {
         photographs.before = "[";

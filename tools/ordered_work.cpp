@@ -9,44 +9,9 @@
 
 #include <deque>
 #include <memory>
-#include <mutex>
 #include <vector>
 
 namespace tools {
-namespace {
-
-/// As many works as there are threads at it, however often they change.
-class Works
-{
-public:
-    explicit Works(const std::function<Work()>& makeWork) : m_makeWork(makeWork) {}
-
-    Result run(int index)
-    {
-        const Work work = take();
-        Result result = work(index);
-        const std::lock_guard lock(m_mutex);
-        m_idle.push_back(work);
-        return result;
-    }
-
-private:
-    Work take()
-    {
-        const std::lock_guard lock(m_mutex);
-        if (m_idle.empty())
-            return m_makeWork();
-        Work work = std::move(m_idle.back());
-        m_idle.pop_back();
-        return work;
-    }
-
-    const std::function<Work()>& m_makeWork;
-    std::mutex m_mutex;
-    std::vector<Work> m_idle;
-};
-
-} // namespace
 
 int threadsToBeHad(int wanted)
 {
@@ -66,10 +31,9 @@ int threadsToBeHad(int wanted)
     return int(threads.size());
 }
 
-void inOrder(int count, int threads, const std::function<Work()>& makeWork,
+void inOrder(int count, int threads, const Work& work,
              const std::function<bool(int index, const Result&)>& deliver)
 {
-    Works works(makeWork);
     // Qt scales pictures in this pool, too, unless one of its threads asks for it.
     QThreadPool* const pool = QThreadPool::globalInstance();
     pool->setMaxThreadCount(threads);
@@ -79,7 +43,7 @@ void inOrder(int count, int threads, const std::function<Work()>& makeWork,
     int next = 0;
     for (int index = 0; index < count; ++index) {
         for (; next < count && next - index < threads * aheadOfEach; ++next)
-            begun.push_back(QtConcurrent::run(pool, [&works, next] { return works.run(next); }));
+            begun.push_back(QtConcurrent::run(pool, work, next));
         const Result result = begun.front().result();
         begun.pop_front();
         if (!deliver(index, result))

@@ -24,11 +24,11 @@ using Work = std::function<Result(int index)>;
 int threadsToBeHad(int wanted);
 
 /// Runs work on 0 … count − 1 in so many threads, at least one, and hands the results over in this
-/// order, one after another, in the calling thread. Each thread gets its own work from `makeWork`,
-/// so that it can keep its own buffers. Threads run only so far ahead of `deliver` that memory
-/// stays small. When `deliver` returns false no new work is begun; what was begun is still handed
-/// over.
-void inOrder(int count, int threads, const std::function<Work()>& makeWork,
+/// order, one after another, in the calling thread. The threads stay the same, so what work keeps
+/// from one photograph to the next can be thread_local. Threads run only so far ahead of `deliver`
+/// that memory stays small. When `deliver` returns false no new work is begun; what was begun is
+/// still handed over.
+void inOrder(int count, int threads, const Work& work,
              const std::function<bool(int index, const Result&)>& deliver);
 
 } // namespace tools

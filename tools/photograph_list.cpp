@@ -48,7 +48,7 @@ public:
         photographs.sort();
         folders.sort();
         for (const QString& name : qAsConst(photographs))
-            m_entries.push_back({files::pathIn(folder, name), subfolder, {}});
+            m_entries.push_back({files::pathIn(folder, name), subfolder, {}, {}});
         for (const QString& name : qAsConst(folders))
             read(files::pathIn(folder, name),
                  subfolder.isEmpty() ? name : files::pathIn(subfolder, name));
@@ -76,7 +76,7 @@ private:
 
     void fail(const QString& path, const QString& reason)
     {
-        m_entries.push_back({path, {}, QStringLiteral("cannot be read: ") + reason});
+        m_entries.push_back({path, {}, QStringLiteral("cannot be read: ") + reason, {}});
     }
 
     std::vector<Entry>& m_entries;
@@ -91,13 +91,14 @@ std::vector<Entry> listPhotographs(const QStringList& paths, bool recursive)
     for (const QString& path : paths) {
         std::error_code error;
         if (!fs::is_directory(native(path), error)) {
-            entries.push_back({path, {}, {}});
+            entries.push_back({path, {}, {}, {}});
             continue;
         }
         const std::size_t before = entries.size();
         FolderReader(entries, recursive).read(path, {});
         if (entries.size() == before)
-            entries.push_back({path, {}, QStringLiteral("no photographs (*.bmp) in this folder")});
+            entries.push_back(
+                {path, {}, QStringLiteral("no photographs (*.bmp) in this folder"), {}});
     }
     return entries;
 }

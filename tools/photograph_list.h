@@ -14,6 +14,7 @@ struct Entry
     QString path;      ///< as the user wrote it, or what the user wrote + "/" + the way from there
     QString subfolder; ///< the way from the folder the user named; empty for its own photographs
     QString failure;   ///< why there is nothing to work on; mostly empty
+    QString target;    ///< the file to write, where prepareTargets() has chosen one
 };
 
 /// The photographs that the paths stand for, in the order of the paths. A folder stands for its

@@ -19,6 +19,11 @@ bool wantsProgressBar(bool writesFiles)
 
 } // namespace
 
+PhotographRun::PhotographRun(const CommandLine& line)
+    : entries(listPhotographs(line.paths(), line.isRecursive())), jobs(line.jobs())
+{
+}
+
 int run(const PhotographRun& photographs)
 {
     if (photographs.writesFiles)
@@ -36,13 +41,13 @@ int run(const PhotographRun& photographs)
     int failed = 0;
     bool canPrint = print(photographs.before);
 
-    const auto makeWork = [&]() -> Work {
-        return [&entries, work = photographs.makeWork()](int index) {
-            const Entry& entry = entries[std::size_t(index)];
-            if (platform::isInterrupted())
-                return Result{{}, {}, true};
-            return entry.failure.isEmpty() ? work(index) : Result{{}, entry.failure};
-        };
+    const auto work = [&](int index) -> Result {
+        thread_local analysis::PhotographReader reader;
+        const Entry& entry = entries[std::size_t(index)];
+        if (platform::isInterrupted())
+            return {{}, {}, true};
+        return entry.failure.isEmpty() ? photographs.work(entry, reader)
+                                       : Result{{}, entry.failure};
     };
     const auto deliver = [&](int index, const Result& result) {
         if (result.isLeftOut)
@@ -59,7 +64,7 @@ int run(const PhotographRun& photographs)
         bar.step();
         return canPrint && !platform::isInterrupted();
     };
-    inOrder(count, threads, makeWork, deliver);
+    inOrder(count, threads, work, deliver);
 
     bar.hide();
     if (platform::isInterrupted()) {

@@ -1,20 +1,28 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "analysis/photograph/photograph_reader.h"
 #include "tools/ordered_work.h"
 #include "tools/photograph_list.h"
 
 namespace tools {
 
+class CommandLine;
+
 /// The same work for every photograph of a list: results in order on the standard output, a line on
 /// the error output for each that failed.
 struct PhotographRun
 {
+    /// The photographs that the arguments name.
+    explicit PhotographRun(const CommandLine& line);
+
     std::vector<Entry> entries;
-    int jobs = 1;
+    int jobs;
     /// True when the work writes files: then an interruption waits until those begun are whole.
     bool writesFiles = false;
-    std::function<Work()> makeWork; ///< for one thread; entries that failed already never reach it
+    /// In several threads at once, each with its reader; entries that failed already never reach
+    /// it.
+    std::function<Result(const Entry& entry, analysis::PhotographReader& reader)> work;
 
     // Around and between the outputs of the photographs that went well.
     QByteArray before;

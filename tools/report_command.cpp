@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include "analysis/export/photograph_export.h"
 #include "analysis/report/photograph_report.h"
 #include "config/configuration_record.h"
 #include "config/language.h"
-#include "files/whole_file.h"
 #include "platform/console.h"
 #include "resources/resources.h"
 #include "tools/commands.h"
@@ -16,8 +16,6 @@
 
 using analysis::PhotographReader;
 using analysis::Unit;
-using files::Outcome;
-using files::Problem;
 
 namespace tools {
 namespace {
@@ -60,9 +58,6 @@ int reportCommand(const QStringList& arguments)
     if (!line.parse(arguments))
         return line.status();
 
-    PhotographRun photographs;
-    photographs.jobs = line.jobs();
-    photographs.writesFiles = true;
     const std::optional<int> modelIndex = line.modelIndex();
     const std::optional<Unit> unit = readUnit(line);
     const TargetRules rules = readTargetRules(line);
@@ -74,30 +69,22 @@ int reportCommand(const QStringList& arguments)
     if (!line.isGood())
         return line.status();
 
-    photographs.entries = listPhotographs(line.paths(), line.isRecursive());
-    const std::optional<QStringList> targets =
-        prepareTargets(line, QStringLiteral("pdf"), photographs.entries);
-    if (!targets)
+    PhotographRun photographs(line);
+    if (!prepareTargets(line, QStringLiteral("pdf"), photographs.entries))
         return status::someFailed;
 
     resources::load();
     QTranslator translator;
     if (translator.load(config::languageOf(language).catalogue))
         QCoreApplication::installTranslator(&translator);
-    photographs.makeWork = [&]() -> Work {
-        const auto reader = std::make_shared<PhotographReader>();
-        return [&, reader](int index) -> Result {
-            const QString& path = photographs.entries[std::size_t(index)].path;
-            const QString& target = targets->at(index);
-            if (isRefused(target, rules.existing))
-                return targetResult({Problem::AlreadyThere, {}}, target, rules);
-            const Outcome reading = reader->read(path, modelIndex);
-            if (!reading.isGood())
-                return {{}, reason(reading)};
-            const analysis::Report report = photographReport(path, *reader, unit, tools, language);
-            return targetResult(writeWholeFile(target, reportPdf(report), rules.existing), target,
-                                rules);
+    photographs.writesFiles = true;
+    photographs.work = [&](const Entry& entry, PhotographReader& reader) {
+        const auto pdf = [&] {
+            return reportPdf(photographReport(entry.path, reader, unit, tools, language));
         };
+        return targetResult(
+            analysis::fileOf(entry.path, modelIndex, reader, entry.target, rules.existing, pdf),
+            entry.target, rules);
     };
     return run(photographs);
 }

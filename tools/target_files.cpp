@@ -67,39 +67,36 @@ TargetRules readTargetRules(CommandLine& line)
     return rules;
 }
 
-std::optional<QStringList> prepareTargets(const CommandLine& line, const QString& suffix,
-                                          std::vector<Entry>& entries)
+bool prepareTargets(const CommandLine& line, const QString& suffix, std::vector<Entry>& entries)
 {
     const QString output = line.value(QStringLiteral("output"));
     const Outcome made = files::makeFolder(output);
     if (!made.isGood()) {
         printError(cannotBeMade(output, made));
-        return std::nullopt;
+        return false;
     }
     const QSet<QString> photographs = photographsWithSuffix(entries, suffix);
     QHash<QString, QString> photographOf;
     QHash<QString, Outcome> folders;
-    QStringList targets;
     for (Entry& entry : entries) {
         const QString folder =
             entry.subfolder.isEmpty() ? output : files::pathIn(output, entry.subfolder);
-        const QString target = files::pathIn(folder, analysis::exportName(entry.path, suffix));
-        targets.append(target);
+        entry.target = files::pathIn(folder, analysis::exportName(entry.path, suffix));
         if (!entry.failure.isEmpty())
             continue;
         if (!folders.contains(folder))
             folders.insert(folder, files::makeFolder(folder));
-        const QString earlier = photographOf.value(target);
+        const QString earlier = photographOf.value(entry.target);
         if (!earlier.isEmpty())
-            entry.failure = QStringLiteral("%1 is made of %2 already").arg(target, earlier);
-        else if (photographs.contains(canonical(target)))
-            entry.failure = QStringLiteral("%1 is a photograph itself").arg(target);
+            entry.failure = QStringLiteral("%1 is made of %2 already").arg(entry.target, earlier);
+        else if (photographs.contains(canonical(entry.target)))
+            entry.failure = QStringLiteral("%1 is a photograph itself").arg(entry.target);
         else if (!folders[folder].isGood())
             entry.failure = cannotBeMade(folder, folders[folder]);
         else
-            photographOf.insert(target, entry.path);
+            photographOf.insert(entry.target, entry.path);
     }
-    return targets;
+    return true;
 }
 
 Result targetResult(const Outcome& outcome, const QString& target, const TargetRules& rules)

@@ -5,8 +5,6 @@
 #include "tools/ordered_work.h"
 #include "tools/photograph_list.h"
 
-#include <optional>
-
 /// The files that a command writes, one for each photograph.
 namespace tools {
 
@@ -24,12 +22,11 @@ void addTargetOptions(CommandLine& line, const QString& defaultFolder);
 
 TargetRules readTargetRules(CommandLine& line);
 
-/// Decides on the path of each entry's file and makes the folders: the photograph's name with
-/// another suffix, in the output folder, below which the way from the folder that the user named is
-/// kept. Entries whose file would replace one of this run, or one of its photographs, get their
-/// failure. Nothing, after an error line, when the output folder itself cannot be had.
-std::optional<QStringList> prepareTargets(const CommandLine& line, const QString& suffix,
-                                          std::vector<Entry>& entries);
+/// Decides on each entry's target and makes the folders: the photograph's name with another suffix,
+/// in the output folder, below which the way from the folder that the user named is kept. Entries
+/// whose file would replace one of this run, or one of its photographs, get their failure. False,
+/// after an error line, when the output folder itself cannot be had.
+bool prepareTargets(const CommandLine& line, const QString& suffix, std::vector<Entry>& entries);
 
 /// What became of a photograph whose file was to be written; a failure names that file where it is
 /// about it.

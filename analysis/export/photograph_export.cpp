@@ -9,6 +9,8 @@
 
 #include <QFileInfo>
 
+#include <array>
+
 using files::Outcome;
 using files::Problem;
 
@@ -31,17 +33,8 @@ QByteArray exported(const PhotographReader& reader, const ExportOptions& options
 
 QString suffixOf(ExportFormat format)
 {
-    switch (format) {
-    case ExportFormat::Csv:
-        return QStringLiteral("csv");
-    case ExportFormat::Tiff:
-        return QStringLiteral("tiff");
-    case ExportFormat::Npy:
-        return QStringLiteral("npy");
-    case ExportFormat::Png:
-        return QStringLiteral("png");
-    }
-    return {};
+    constexpr std::array<const char*, 4> suffixes{"csv", "tiff", "npy", "png"};
+    return QLatin1String(suffixes.at(std::size_t(format)));
 }
 
 QString exportName(const QString& photograph, const QString& suffix)
@@ -73,14 +66,21 @@ QByteArray temperatureFile(const Photograph& photograph, const ShownUnit& unit, 
     return csvOf(values, unit, csv);
 }
 
-Outcome PhotographExporter::run(const QString& photographPath, const QString& targetPath)
+Outcome fileOf(const QString& photographPath, std::optional<int> modelIndex,
+               PhotographReader& reader, const QString& targetPath, files::Existing existing,
+               const std::function<QByteArray()>& make)
 {
-    if (isRefused(targetPath, m_options.existing))
+    if (isRefused(targetPath, existing))
         return {Problem::AlreadyThere, {}};
-    const Outcome reading = m_reader.read(photographPath, m_options.modelIndex);
-    if (!reading.isGood())
-        return reading;
-    return writeWholeFile(targetPath, exported(m_reader, m_options), m_options.existing);
+    const Outcome reading = reader.read(photographPath, modelIndex);
+    return reading.isGood() ? writeWholeFile(targetPath, make(), existing) : reading;
+}
+
+Outcome exportPhotograph(const QString& photographPath, PhotographReader& reader,
+                         const QString& targetPath, const ExportOptions& options)
+{
+    return fileOf(photographPath, options.modelIndex, reader, targetPath, options.existing,
+                  [&] { return exported(reader, options); });
 }
 
 } // namespace analysis

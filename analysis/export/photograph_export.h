@@ -7,6 +7,7 @@
 
 #include <QByteArray>
 
+#include <functional>
 #include <vector>
 
 /// Photographs as files that other programs open: the temperatures as numbers, or the picture.
@@ -51,20 +52,15 @@ std::vector<float> shownRows(const Photograph& photograph, Conversion conversion
 QByteArray temperatureFile(const Photograph& photograph, const ShownUnit& unit, ExportFormat format,
                            const CsvOptions& csv = {});
 
-/// Writes photographs as files, one after another, all with the same options. A few megabytes; one
-/// for each thread.
-class PhotographExporter
-{
-public:
-    explicit PhotographExporter(const ExportOptions& options) : m_options(options) {}
+/// Reads a photograph and writes one file that `make` makes of it, complete or absent; both are
+/// left undone where the target is refused. The target's folder must exist. `modelIndex` is as
+/// PhotographReader::read() takes it.
+files::Outcome fileOf(const QString& photographPath, std::optional<int> modelIndex,
+                      PhotographReader& reader, const QString& targetPath, files::Existing existing,
+                      const std::function<QByteArray()>& make);
 
-    /// Reads one photograph and writes one file, complete or absent. The target's folder must
-    /// exist.
-    files::Outcome run(const QString& photographPath, const QString& targetPath);
-
-private:
-    ExportOptions m_options;
-    PhotographReader m_reader;
-};
+/// Writes a photograph in one of the formats.
+files::Outcome exportPhotograph(const QString& photographPath, PhotographReader& reader,
+                                const QString& targetPath, const ExportOptions& options);
 
 } // namespace analysis

@@ -3,24 +3,16 @@
 
 #include "analysis/report/photograph_report.h"
 #include "files/paths.h"
-#include "files/whole_file.h"
 
-using files::Existing;
 using files::Outcome;
-using files::Problem;
 
 namespace analysis {
 namespace {
 
-int layoutOf(const SelectionOrder& order)
-{
-    return format::layoutOf(order.modelIndex).modelIndex;
-}
-
 ExportOptions exportOptions(const SelectionOrder& order)
 {
     ExportOptions options;
-    options.modelIndex = layoutOf(order);
+    options.modelIndex = format::layoutOf(order.modelIndex).modelIndex;
     if (order.task == SelectionTask::Tiff)
         options.format = ExportFormat::Tiff;
     else if (order.task == SelectionTask::Png)
@@ -30,10 +22,7 @@ ExportOptions exportOptions(const SelectionOrder& order)
 
 } // namespace
 
-SelectionExport::SelectionExport(SelectionOrder order)
-    : m_order(std::move(order)), m_exporter(exportOptions(m_order))
-{
-}
+SelectionExport::SelectionExport(SelectionOrder order) : m_order(std::move(order)) {}
 
 void SelectionExport::step()
 {
@@ -63,20 +52,13 @@ Outcome SelectionExport::writeFileOf(const QString& name)
     const auto target = [&](const QString& suffix) {
         return files::pathIn(m_order.target, exportName(name, suffix));
     };
-    if (m_order.task == SelectionTask::Report)
-        return writeReport(path, target(QStringLiteral("pdf")));
-    return m_exporter.run(path, target(suffixOf(exportOptions(m_order).format)));
-}
-
-Outcome SelectionExport::writeReport(const QString& path, const QString& target)
-{
-    if (isRefused(target, Existing::Refuse))
-        return {Problem::AlreadyThere, {}};
-    const Outcome reading = m_reader.read(path, layoutOf(m_order));
-    if (!reading.isGood())
-        return reading;
-    const Report report = photographReport(path, m_reader, std::nullopt, {}, m_order.language);
-    return writeWholeFile(target, reportPdf(report), Existing::Refuse);
+    const ExportOptions options = exportOptions(m_order);
+    if (m_order.task != SelectionTask::Report)
+        return exportPhotograph(path, m_reader, target(suffixOf(options.format)), options);
+    return fileOf(
+        path, options.modelIndex, m_reader, target(QStringLiteral("pdf")), options.existing, [&] {
+            return reportPdf(photographReport(path, m_reader, std::nullopt, {}, m_order.language));
+        });
 }
 
 } // namespace analysis

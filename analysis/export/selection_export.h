@@ -65,11 +65,9 @@ public:
 private:
     bool copyPiece();
     files::Outcome writeFileOf(const QString& name);
-    files::Outcome writeReport(const QString& path, const QString& target);
 
     const SelectionOrder m_order;
-    PhotographExporter m_exporter;
-    PhotographReader m_reader;             ///< of reports
+    PhotographReader m_reader;
     std::optional<files::FileCopy> m_copy; ///< while one is being made
     int m_done = 0;
     std::vector<SelectionFailure> m_failures;
