@@ -3,11 +3,10 @@
 #include "tests/analysis/pdf_reader.h"
 #include "tests/analysis/sample_report.h"
 #include "tests/support/folder.h"
+#include "tests/support/full_disk.h"
 #include "tests/support/test_run.h"
 
-#include <csignal>
 #include <memory>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 using analysis::Report;
@@ -20,30 +19,6 @@ QStringList filesIn(const QString& folder)
     return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System |
                                   QDir::NoDotAndDotDot);
 }
-
-/// While it lives no file of this process can grow beyond a few kilobytes, as on a full disk.
-class FullDisk
-{
-public:
-    FullDisk() : m_handler(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        rlimit limit = m_before;
-        limit.rlim_cur = 20'000;
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FullDisk()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_handler);
-    }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-
-private:
-    rlimit m_before{};
-    void (*m_handler)(int);
-};
 
 } // namespace
 
@@ -117,7 +92,7 @@ private slots:
         const QByteArray old("an older report");
         testing::putFile(path, old);
         {
-            const FullDisk full;
+            const testing::FullDisk full(20'000);
             QVERIFY(!analysis::writeReport(report, path));
             QVERIFY(!analysis::writeReport(report, m_folder->filePath("new.pdf")));
         }
