@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "analysis/windows/selection_job.h"
 
+#include "analysis/windows/outcome_text.h"
 #include "dialogs/dialogs.h"
 
 #include <QDir>
@@ -8,9 +9,8 @@
 #include <QMessageBox>
 #include <QProgressBar>
 
+using analysis::outcomeText;
 using analysis::SelectionFailure;
-using files::Outcome;
-using files::Problem;
 
 namespace {
 
@@ -102,29 +102,8 @@ QString SelectionJob::summary() const
 
 QStringList SelectionJob::failureTexts() const
 {
-    const auto reason = [](const Outcome& outcome) {
-        switch (outcome.problem) {
-        case Problem::None:
-            break;
-        case Problem::CannotRead:
-            return tr("无法读取（%1）").arg(outcome.detail);
-        case Problem::NotAFile:
-            return tr("不是普通文件");
-        case Problem::TooLarge:
-        case Problem::TooShort:
-            return tr("文件不完整（%1 字节）").arg(outcome.detail);
-        case Problem::OtherImager:
-        case Problem::NeitherLayout:
-            return tr("不是受支持设备的照片（机器ID %1）").arg(outcome.detail);
-        case Problem::AlreadyThere:
-            return tr("目标文件夹中已有同名文件");
-        case Problem::CannotWrite:
-            return tr("无法写入（%1）").arg(outcome.detail);
-        }
-        return QString();
-    };
     QStringList texts;
     for (const SelectionFailure& failure : m_export.failures())
-        texts.append(tr("%1：%2").arg(failure.name, reason(failure.outcome)));
+        texts.append(tr("%1：%2").arg(failure.name, outcomeText(failure.outcome)));
     return texts;
 }

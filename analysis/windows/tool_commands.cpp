@@ -3,6 +3,7 @@
 
 #include "analysis/windows/analysis_tables.h"
 #include "analysis/windows/analysis_widget.h"
+#include "analysis/windows/measurement_menu.h"
 #include "analysis/windows/picture_keys.h"
 
 #include "ui_analysis_widget.h"
@@ -17,6 +18,7 @@ ToolCommands::ToolCommands(Analysis_Widget& window, const Ui::Analysis_Widget& f
     : m_window(window), m_form(form), m_keys(std::make_unique<PictureKeys>(*this, form))
 {
     addOwnEntries();
+    MeasurementMenu::addTo(*this);
     m_history.restart(state());
     m_told = state();
     // After the window, which has heard of each of these before.
@@ -34,7 +36,11 @@ ToolCommands::ToolCommands(Analysis_Widget& window, const Ui::Analysis_Widget& f
             &ToolCommands::showTableMenu);
 }
 
-ToolCommands::~ToolCommands() = default;
+/// Whatever closes the photograph, its tools are not lost.
+ToolCommands::~ToolCommands()
+{
+    MeasurementMenu::remember(state().tools);
+}
 
 void ToolCommands::addOwnEntries()
 {
@@ -137,8 +143,9 @@ void ToolCommands::edit(const std::function<void(ToolEditing&)>& editing)
 {
     if (m_isHeld)
         return;
+    // The tool that stands prepared to be placed is in nobody's way meanwhile.
+    static_cast<overlay::Tools&>(*m_form.label) = state().tools;
     editing(*m_form.label);
-    // In a mode that places tools, one stands prepared again.
     overlay::restore(*m_form.label, state());
     show();
 }

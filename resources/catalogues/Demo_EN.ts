@@ -318,6 +318,63 @@
     </message>
 </context>
 <context>
+    <name>MeasurementMenu</name>
+    <message>
+        <source>保存测量...</source>
+        <translation>Save measurements...</translation>
+    </message>
+    <message>
+        <source>加载测量...</source>
+        <translation>Load measurements...</translation>
+    </message>
+    <message>
+        <source>应用上次的测量</source>
+        <translation>Apply the last measurements</translation>
+    </message>
+    <message>
+        <source>复制测量</source>
+        <translation>Copy measurements</translation>
+    </message>
+    <message>
+        <source>粘贴</source>
+        <translation>Paste</translation>
+    </message>
+    <message>
+        <source>保存测量</source>
+        <translation>Save measurements</translation>
+    </message>
+    <message>
+        <source>文件“%1”未能写入，原有文件保持不变。
+%2</source>
+        <translation>The file “%1” could not be written; a file that was there stays as it was.
+%2</translation>
+    </message>
+    <message>
+        <source>加载测量</source>
+        <translation>Load measurements</translation>
+    </message>
+    <message>
+        <source>未能从文件“%1”加载测量，现有工具保持不变。
+%2</source>
+        <translation>No measurements could be loaded from the file “%1”; the tools stay as they are.
+%2</translation>
+    </message>
+    <message>
+        <source>剪贴板中没有测量数据。
+%1</source>
+        <translation>There are no measurements in the clipboard.
+%1</translation>
+    </message>
+    <message>
+        <source>工具过多：%1（最多 %2）</source>
+        <translation>too many tools: %1 (at most %2)</translation>
+    </message>
+    <message>
+        <source>警告</source>
+        <translation>Warning</translation>
+    </message>
+</context>
+<context>
     <name>MyLabel</name>
     <message>
         <source>热像图与测温工具</source>
@@ -333,6 +390,37 @@
     <message>
         <source>色标，最高 %1，最低 %2</source>
         <translation>Colour bar, highest %1, lowest %2</translation>
+    </message>
+</context>
+<context>
+    <name>Outcomes</name>
+    <message>
+        <source>无法读取（%1）</source>
+        <translation>cannot be read (%1)</translation>
+    </message>
+    <message>
+        <source>不是普通文件</source>
+        <translation>is not a regular file</translation>
+    </message>
+    <message>
+        <source>文件过大（%1 字节）</source>
+        <translation>the file is too large (%1 bytes)</translation>
+    </message>
+    <message>
+        <source>文件不完整（%1 字节）</source>
+        <translation>the file is incomplete (%1 bytes)</translation>
+    </message>
+    <message>
+        <source>不是受支持设备的照片（机器ID %1）</source>
+        <translation>not a photograph of a supported imager (machine ID %1)</translation>
+    </message>
+    <message>
+        <source>目标文件夹中已有同名文件</source>
+        <translation>a file of this name is already in the folder</translation>
+    </message>
+    <message>
+        <source>无法写入（%1）</source>
+        <translation>cannot be written (%1)</translation>
     </message>
 </context>
 <context>
@@ -415,30 +503,6 @@
             <numerusform>and %n more, see the details.</numerusform>
             <numerusform>and %n more, see the details.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>无法读取（%1）</source>
-        <translation>cannot be read (%1)</translation>
-    </message>
-    <message>
-        <source>不是普通文件</source>
-        <translation>is not a regular file</translation>
-    </message>
-    <message>
-        <source>文件不完整（%1 字节）</source>
-        <translation>the file is incomplete (%1 bytes)</translation>
-    </message>
-    <message>
-        <source>不是受支持设备的照片（机器ID %1）</source>
-        <translation>not a photograph of a supported imager (machine ID %1)</translation>
-    </message>
-    <message>
-        <source>目标文件夹中已有同名文件</source>
-        <translation>a file of this name is already in the folder</translation>
-    </message>
-    <message>
-        <source>无法写入（%1）</source>
-        <translation>cannot be written (%1)</translation>
     </message>
     <message>
         <source>%1：%2</source>

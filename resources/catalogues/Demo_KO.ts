@@ -318,6 +318,63 @@
     </message>
 </context>
 <context>
+    <name>MeasurementMenu</name>
+    <message>
+        <source>保存测量...</source>
+        <translation>측정 저장...</translation>
+    </message>
+    <message>
+        <source>加载测量...</source>
+        <translation>측정 불러오기...</translation>
+    </message>
+    <message>
+        <source>应用上次的测量</source>
+        <translation>마지막 측정 적용</translation>
+    </message>
+    <message>
+        <source>复制测量</source>
+        <translation>측정 복사</translation>
+    </message>
+    <message>
+        <source>粘贴</source>
+        <translation>붙여넣기</translation>
+    </message>
+    <message>
+        <source>保存测量</source>
+        <translation>측정 저장</translation>
+    </message>
+    <message>
+        <source>文件“%1”未能写入，原有文件保持不变。
+%2</source>
+        <translation>파일 “%1”을(를) 쓸 수 없습니다. 기존 파일은 그대로 남아 있습니다.
+%2</translation>
+    </message>
+    <message>
+        <source>加载测量</source>
+        <translation>측정 불러오기</translation>
+    </message>
+    <message>
+        <source>未能从文件“%1”加载测量，现有工具保持不变。
+%2</source>
+        <translation>“%1” 파일에서 측정을 불러오지 못했습니다. 도구는 그대로 유지됩니다.
+%2</translation>
+    </message>
+    <message>
+        <source>剪贴板中没有测量数据。
+%1</source>
+        <translation>클립보드에 측정 데이터가 없습니다.
+%1</translation>
+    </message>
+    <message>
+        <source>工具过多：%1（最多 %2）</source>
+        <translation>도구가 너무 많습니다: %1(최대 %2)</translation>
+    </message>
+    <message>
+        <source>警告</source>
+        <translation>경고</translation>
+    </message>
+</context>
+<context>
     <name>MyLabel</name>
     <message>
         <source>热像图与测温工具</source>
@@ -333,6 +390,37 @@
     <message>
         <source>色标，最高 %1，最低 %2</source>
         <translation>색상 막대, 최고 %1, 최저 %2</translation>
+    </message>
+</context>
+<context>
+    <name>Outcomes</name>
+    <message>
+        <source>无法读取（%1）</source>
+        <translation>읽을 수 없음(%1)</translation>
+    </message>
+    <message>
+        <source>不是普通文件</source>
+        <translation>일반 파일이 아님</translation>
+    </message>
+    <message>
+        <source>文件过大（%1 字节）</source>
+        <translation>파일이 너무 큼(%1바이트)</translation>
+    </message>
+    <message>
+        <source>文件不完整（%1 字节）</source>
+        <translation>파일이 불완전함(%1바이트)</translation>
+    </message>
+    <message>
+        <source>不是受支持设备的照片（机器ID %1）</source>
+        <translation>지원되지 않는 장비의 사진(기기 ID %1)</translation>
+    </message>
+    <message>
+        <source>目标文件夹中已有同名文件</source>
+        <translation>폴더에 같은 이름의 파일이 이미 있음</translation>
+    </message>
+    <message>
+        <source>无法写入（%1）</source>
+        <translation>쓸 수 없음(%1)</translation>
     </message>
 </context>
 <context>
@@ -411,30 +499,6 @@
         <translation>
             <numerusform>그 밖에 %n장이 있습니다. 자세한 내용을 참조하십시오.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>无法读取（%1）</source>
-        <translation>읽을 수 없음(%1)</translation>
-    </message>
-    <message>
-        <source>不是普通文件</source>
-        <translation>일반 파일이 아님</translation>
-    </message>
-    <message>
-        <source>文件不完整（%1 字节）</source>
-        <translation>파일이 불완전함(%1바이트)</translation>
-    </message>
-    <message>
-        <source>不是受支持设备的照片（机器ID %1）</source>
-        <translation>지원되지 않는 장비의 사진(기기 ID %1)</translation>
-    </message>
-    <message>
-        <source>目标文件夹中已有同名文件</source>
-        <translation>폴더에 같은 이름의 파일이 이미 있음</translation>
-    </message>
-    <message>
-        <source>无法写入（%1）</source>
-        <translation>쓸 수 없음(%1)</translation>
     </message>
     <message>
         <source>%1：%2</source>

@@ -318,6 +318,63 @@
     </message>
 </context>
 <context>
+    <name>MeasurementMenu</name>
+    <message>
+        <source>保存测量...</source>
+        <translation>Сохранить измерения...</translation>
+    </message>
+    <message>
+        <source>加载测量...</source>
+        <translation>Загрузить измерения...</translation>
+    </message>
+    <message>
+        <source>应用上次的测量</source>
+        <translation>Применить последние измерения</translation>
+    </message>
+    <message>
+        <source>复制测量</source>
+        <translation>Копировать измерения</translation>
+    </message>
+    <message>
+        <source>粘贴</source>
+        <translation>Вставить</translation>
+    </message>
+    <message>
+        <source>保存测量</source>
+        <translation>Сохранить измерения</translation>
+    </message>
+    <message>
+        <source>文件“%1”未能写入，原有文件保持不变。
+%2</source>
+        <translation>Не удалось записать файл «%1»; прежний файл остался без изменений.
+%2</translation>
+    </message>
+    <message>
+        <source>加载测量</source>
+        <translation>Загрузить измерения</translation>
+    </message>
+    <message>
+        <source>未能从文件“%1”加载测量，现有工具保持不变。
+%2</source>
+        <translation>Не удалось загрузить измерения из файла «%1»; инструменты остались без изменений.
+%2</translation>
+    </message>
+    <message>
+        <source>剪贴板中没有测量数据。
+%1</source>
+        <translation>В буфере обмена нет измерений.
+%1</translation>
+    </message>
+    <message>
+        <source>工具过多：%1（最多 %2）</source>
+        <translation>слишком много инструментов: %1 (не более %2)</translation>
+    </message>
+    <message>
+        <source>警告</source>
+        <translation>Предупреждение</translation>
+    </message>
+</context>
+<context>
     <name>MyLabel</name>
     <message>
         <source>热像图与测温工具</source>
@@ -333,6 +390,37 @@
     <message>
         <source>色标，最高 %1，最低 %2</source>
         <translation>Цветовая шкала: макс. %1, мин. %2</translation>
+    </message>
+</context>
+<context>
+    <name>Outcomes</name>
+    <message>
+        <source>无法读取（%1）</source>
+        <translation>не удалось прочитать (%1)</translation>
+    </message>
+    <message>
+        <source>不是普通文件</source>
+        <translation>не обычный файл</translation>
+    </message>
+    <message>
+        <source>文件过大（%1 字节）</source>
+        <translation>файл слишком велик (%1 байт)</translation>
+    </message>
+    <message>
+        <source>文件不完整（%1 字节）</source>
+        <translation>файл неполный (байт: %1)</translation>
+    </message>
+    <message>
+        <source>不是受支持设备的照片（机器ID %1）</source>
+        <translation>снимок неподдерживаемого прибора (ID прибора %1)</translation>
+    </message>
+    <message>
+        <source>目标文件夹中已有同名文件</source>
+        <translation>в папке уже есть файл с таким именем</translation>
+    </message>
+    <message>
+        <source>无法写入（%1）</source>
+        <translation>не удалось записать (%1)</translation>
     </message>
 </context>
 <context>
@@ -419,30 +507,6 @@
             <numerusform>и ещё %n снимка, см. подробности.</numerusform>
             <numerusform>и ещё %n снимков, см. подробности.</numerusform>
         </translation>
-    </message>
-    <message>
-        <source>无法读取（%1）</source>
-        <translation>не удалось прочитать (%1)</translation>
-    </message>
-    <message>
-        <source>不是普通文件</source>
-        <translation>не обычный файл</translation>
-    </message>
-    <message>
-        <source>文件不完整（%1 字节）</source>
-        <translation>файл неполный (байт: %1)</translation>
-    </message>
-    <message>
-        <source>不是受支持设备的照片（机器ID %1）</source>
-        <translation>снимок неподдерживаемого прибора (ID прибора %1)</translation>
-    </message>
-    <message>
-        <source>目标文件夹中已有同名文件</source>
-        <translation>в папке уже есть файл с таким именем</translation>
-    </message>
-    <message>
-        <source>无法写入（%1）</source>
-        <translation>не удалось записать (%1)</translation>
     </message>
     <message>
         <source>%1：%2</source>
