@@ -142,18 +142,6 @@ QString nameOf(ToolKind kind, int number)
     return QLatin1Char(rowOf(kind).letter) + QString::number(number);
 }
 
-void addTools(Tools& tools, const Tools& more)
-{
-    forEachTool(more, [&tools](const auto& tool) {
-        auto& list = std::get<QVector<std::decay_t<decltype(tool)>>&>(listsOf(tools));
-        const int index = insertNew(tools, tool.kind, tool.colour);
-        const QString name = list.at(index).name;
-        list[index] = tool;
-        list[index].name = name;
-        select(tools, tool.kind, index);
-    });
-}
-
 void removeSelected(Tools& tools)
 {
     const std::optional<ToolKind> kind = selectedKind(tools);

@@ -213,9 +213,6 @@ std::optional<int> numberIn(const QString& name, ToolKind kind);
 /// "P0" for the first point.
 QString nameOf(ToolKind kind, int number);
 
-/// Adds copies, each with the lowest free number of its kind; the last one is selected.
-void addTools(Tools& tools, const Tools& more);
-
 /// Removes the selected tool if there is one. The selection stays, on the tool that moves up.
 void removeSelected(Tools& tools);
 

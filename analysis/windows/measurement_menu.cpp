@@ -5,11 +5,12 @@
 #include "analysis/windows/analysis_widget.h"
 #include "analysis/windows/outcome_text.h"
 #include "analysis/windows/tool_commands.h"
+#include "analysis/windows/view_export.h"
 #include "config/configuration_record.h"
 #include "dialogs/dialogs.h"
 #include "files/paths.h"
 #include "files/reading.h"
-#include "files/whole_file.h"
+#include "overlay/tool_coordinates.h"
 #include "overlay/tool_file.h"
 
 #include <QClipboard>
@@ -113,18 +114,11 @@ void MeasurementMenu::save(ToolCommands& commands)
     dialog->selectFile(
         files::pathIn(config::documentsPath(), exportName(commands.window().fileName, suffix)));
     QObject::connect(dialog, &QFileDialog::fileSelected, &commands,
-                     [&commands](const QString& path) { write(commands, path); });
+                     [&commands](const QString& path) {
+                         ViewExport::write(path, overlay::toolsToJson(commands.state().tools),
+                                           commands.window().window());
+                     });
     dialogs::open(dialog, &commands.window());
-}
-
-/// The dialog has asked whether a file that is there may be replaced.
-void MeasurementMenu::write(ToolCommands& commands, const QString& path)
-{
-    const files::Outcome outcome = files::writeWholeFile(
-        path, overlay::toolsToJson(commands.state().tools), files::Existing::Replace);
-    if (!outcome.isGood())
-        warn(commands, tr("文件“%1”未能写入，原有文件保持不变。\n%2")
-                           .arg(QDir::toNativeSeparators(path), outcomeText(outcome)));
 }
 
 void MeasurementMenu::load(ToolCommands& commands)
@@ -170,7 +164,11 @@ void MeasurementMenu::paste(ToolCommands& commands)
         warn(commands, tr("剪贴板中没有测量数据。\n%1").arg(wrong));
         return;
     }
-    commands.change([&tools](ToolEditing& edited) { overlay::addTools(edited, tools); });
+    commands.change([&tools](ToolEditing& edited) {
+        overlay::forEachTool(tools, [&edited](const auto& tool) {
+            overlay::addTool(edited, tool.kind, overlay::numbersOf(tool), tool.colour);
+        });
+    });
 }
 
 /// What the reader says is in English, as in `thermaphoto`.

@@ -29,7 +29,6 @@ public:
 
 private:
     static void save(ToolCommands& commands);
-    static void write(ToolCommands& commands, const QString& path);
     static void load(ToolCommands& commands);
     static void read(ToolCommands& commands, const QString& path);
     static void applyLast(ToolCommands& commands);

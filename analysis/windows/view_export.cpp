@@ -2,6 +2,7 @@
 #include "analysis/windows/view_export.h"
 
 #include "analysis/export/tool_table_text.h"
+#include "analysis/windows/outcome_text.h"
 #include "analysis/windows/picture_dialog.h"
 #include "config/configuration_record.h"
 #include "dialogs/dialogs.h"
@@ -126,7 +127,6 @@ void ViewExport::saveTemperatures(const Photograph& shown, const ShownUnit& unit
     dialogs::open(where, page);
 }
 
-/// The dialog has asked whether a file that is there may be replaced.
 void ViewExport::write(const QString& path, const QByteArray& bytes, QWidget* window)
 {
     const files::Outcome outcome = files::writeWholeFile(path, bytes, files::Existing::Replace);
@@ -134,7 +134,7 @@ void ViewExport::write(const QString& path, const QByteArray& bytes, QWidget* wi
         return;
     auto* box = new QMessageBox(QMessageBox::Warning, tr("警告"),
                                 tr("文件“%1”未能写入，原有文件保持不变。\n%2")
-                                    .arg(QDir::toNativeSeparators(path), outcome.detail),
+                                    .arg(QDir::toNativeSeparators(path), outcomeText(outcome)),
                                 QMessageBox::Ok, window);
     box->setTextFormat(Qt::PlainText);
     dialogs::open(box);

@@ -39,6 +39,7 @@ public:
     static void saveTemperatures(const analysis::Photograph& shown, const analysis::ShownUnit& unit,
                                  const QString& photograph, QWidget* page);
 
-private:
+    /// Writes a whole file; one that is there already is replaced, as the dialog has asked. Tells
+    /// in a message, above `window`, when it could not be written.
     static void write(const QString& path, const QByteArray& bytes, QWidget* window);
 };

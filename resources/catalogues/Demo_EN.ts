@@ -344,12 +344,6 @@
         <translation>Save measurements</translation>
     </message>
     <message>
-        <source>文件“%1”未能写入，原有文件保持不变。
-%2</source>
-        <translation>The file “%1” could not be written; a file that was there stays as it was.
-%2</translation>
-    </message>
-    <message>
         <source>加载测量</source>
         <translation>Load measurements</translation>
     </message>

@@ -344,12 +344,6 @@
         <translation>측정 저장</translation>
     </message>
     <message>
-        <source>文件“%1”未能写入，原有文件保持不变。
-%2</source>
-        <translation>파일 “%1”을(를) 쓸 수 없습니다. 기존 파일은 그대로 남아 있습니다.
-%2</translation>
-    </message>
-    <message>
         <source>加载测量</source>
         <translation>측정 불러오기</translation>
     </message>

@@ -344,12 +344,6 @@
         <translation>Сохранить измерения</translation>
     </message>
     <message>
-        <source>文件“%1”未能写入，原有文件保持不变。
-%2</source>
-        <translation>Не удалось записать файл «%1»; прежний файл остался без изменений.
-%2</translation>
-    </message>
-    <message>
         <source>加载测量</source>
         <translation>Загрузить измерения</translation>
     </message>
