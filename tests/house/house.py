@@ -47,11 +47,19 @@ def room_of(path):
     return None
 
 
-def sources(checkout, *suffixes):
-    """Paths of all rooms' files, from the checkout's top."""
-    tops = sorted({room.split("/")[0] for room in ROOMS})
+def files_in(checkout, tops, suffixes):
     return sorted(str(path.relative_to(checkout)) for top in tops
                   for path in (checkout / top).rglob("*") if path.suffix in suffixes)
+
+
+def sources(checkout, *suffixes):
+    """Paths of all rooms' files, from the checkout's top."""
+    return files_in(checkout, {room.split("/")[0] for room in ROOMS}, suffixes)
+
+
+def sources_beside(checkout):
+    """Those of tests, benchmarks and fuzzing."""
+    return files_in(checkout, BESIDE, (".cpp", ".h"))
 
 
 def wrong_includes(checkout):
@@ -85,17 +93,15 @@ def other_orders(checkout):
 
 def without_licence(checkout):
     """Sources, tests and their like that do not begin with their licence."""
-    for top in [room.split("/")[0] for room in ROOMS] + BESIDE:
-        for path in sorted((checkout / top).rglob("*")):
-            if path.suffix in (".cpp", ".h"):
-                first = path.read_text(encoding="utf-8").partition("\n")[0]
-                if first != "// SPDX-License-Identifier: MIT":
-                    yield f"{path.relative_to(checkout)}: begins without its licence"
+    for name in sources(checkout, ".cpp", ".h") + sources_beside(checkout):
+        first = (checkout / name).read_text(encoding="utf-8").partition("\n")[0]
+        if first != "// SPDX-License-Identifier: MIT":
+            yield f"{name}: begins without its licence"
 
 
 def long_sources(checkout):
     """Sources that nobody reads in one go. Functions are clang-tidy's, 60 lines at most."""
-    for name in sources(checkout, ".cpp", ".h"):
+    for name in sources(checkout, ".cpp", ".h") + sources_beside(checkout):
         lines = len((checkout / name).read_text(encoding="utf-8").splitlines()) - 1  # its licence
         if lines > MOST_LINES:
             yield f"{name}: {lines} lines, more than {MOST_LINES}"

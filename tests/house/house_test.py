@@ -89,6 +89,13 @@ class House(unittest.TestCase):
         self.write("live/frame.h", "\n" * 351)
         self.assertOneComplaint("live/frame.h", "351 lines")
 
+    def test_a_long_test(self):
+        for name in ("tests/live/frame_test.cpp", "bench/frame.h", "fuzz/live/frame_fuzz.cpp"):
+            self.write(name, "\n" * 351)
+            self.assertOneComplaint(name, "351 lines")
+            self.write(name, "\n" * 350)
+            self.assertEqual(self.complaints(), [])
+
     def test_a_source_without_a_test(self):
         self.write("live/other.cpp", "")
         self.assertOneComplaint("live/other.cpp", "other_test.cpp")
