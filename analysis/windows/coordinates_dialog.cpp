@@ -41,7 +41,7 @@ constexpr std::array<std::array<const char*, std::tuple_size_v<ToolNumbers>>,
 
 } // namespace
 
-CoordinatesDialog::CoordinatesDialog(const overlay::Tools& tools, ToolKind kindOfNew,
+CoordinatesDialog::CoordinatesDialog(const overlay::Tools& tools, Of of, ToolKind kindOfNew,
                                      const QColor& colourOfNew, QWidget* parent)
     : QDialog(parent), m_before(tools), m_colour(colourOfNew), m_kind(kindOfNew), m_tools(tools),
       m_kinds(new QComboBox), m_problem(new QLabel),
@@ -50,7 +50,8 @@ CoordinatesDialog::CoordinatesDialog(const overlay::Tools& tools, ToolKind kindO
     setWindowTitle(tr("坐标"));
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     ToolNumbers numbers = overlay::numbersOfNew(kindOfNew);
-    if (const std::optional<ToolKind> selected = selectedKind(tools))
+    const std::optional<ToolKind> selected = selectedKind(tools);
+    if (of == Of::Selection && selected)
         visitTool(tools, *selected, tools.selectedIndex, [&](const auto& tool) {
             if (isUnfinished(tool))
                 return;

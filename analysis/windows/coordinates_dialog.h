@@ -26,9 +26,14 @@ class CoordinatesDialog : public QDialog
     Q_OBJECT
 
 public:
-    /// For the selected tool of `tools`, or, where none is selected, for a new one of `kindOfNew`,
-    /// which can be changed in the dialog, with `colourOfNew`.
-    CoordinatesDialog(const overlay::Tools& tools, overlay::ToolKind kindOfNew,
+    enum class Of
+    {
+        Selection, ///< a new tool where none is selected
+        NewTool
+    };
+
+    /// A new tool is one of `kindOfNew`, which can be changed in the dialog, with `colourOfNew`.
+    CoordinatesDialog(const overlay::Tools& tools, Of of, overlay::ToolKind kindOfNew,
                       const QColor& colourOfNew, QWidget* parent);
 
     bool isForNewTool() const { return m_index < 0; }

@@ -3,6 +3,7 @@
 
 #include "analysis/windows/analysis_widget.h"
 #include "analysis/windows/browser_menu.h"
+#include "analysis/windows/measurement_keeping.h"
 #include "analysis/windows/photograph_views.h"
 #include "analysis/windows/tool_commands.h"
 #include "config/configuration_record.h"
@@ -217,6 +218,7 @@ void photo_window::open(const QString& name)
         ui->verticalLayout_5->removeWidget(previous);
         dialogs::end(previous);
     }
+    analysis->commands().keeping().bringBack();
     connect(&analysis->commands(), &ToolCommands::stepRequested, this, &photo_window::step,
             Qt::QueuedConnection);
     ui->verticalLayout_5->addWidget(analysis.get());

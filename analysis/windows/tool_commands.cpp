@@ -3,8 +3,11 @@
 
 #include "analysis/windows/analysis_tables.h"
 #include "analysis/windows/analysis_widget.h"
+#include "analysis/windows/coordinates_menu.h"
+#include "analysis/windows/measurement_keeping.h"
 #include "analysis/windows/measurement_menu.h"
 #include "analysis/windows/picture_keys.h"
+#include "analysis/windows/view_menu.h"
 
 #include "ui_analysis_widget.h"
 
@@ -19,6 +22,9 @@ ToolCommands::ToolCommands(Analysis_Widget& window, const Ui::Analysis_Widget& f
 {
     addOwnEntries();
     MeasurementMenu::addTo(*this);
+    CoordinatesMenu::addTo(*this);
+    ViewMenu::addTo(*this, form);
+    m_keeping = std::make_unique<MeasurementKeeping>(*this, form);
     m_history.restart(state());
     m_told = state();
     // After the window, which has heard of each of these before.
@@ -152,7 +158,7 @@ void ToolCommands::edit(const std::function<void(ToolEditing&)>& editing)
 
 void ToolCommands::goTo(const overlay::ToolsState& state)
 {
-    if (m_isHeld)
+    if (m_isHeld || m_isStepOpen)
         return;
     overlay::restore(*m_form.label, state);
     show();
@@ -169,10 +175,30 @@ void ToolCommands::show()
 
 void ToolCommands::record()
 {
-    if (m_isHeld)
+    if (m_isHeld || m_isStepOpen)
         return; // the gesture is not over
     m_history.record(state());
     tell();
+}
+
+void ToolCommands::beginStep()
+{
+    record();
+    m_isStepOpen = true;
+}
+
+void ToolCommands::endStep()
+{
+    m_isStepOpen = false;
+    record();
+}
+
+void ToolCommands::restart(const overlay::ToolsState& state)
+{
+    overlay::restore(*m_form.label, state);
+    show();
+    m_told = this->state();
+    m_history.restart(m_told);
 }
 
 void ToolCommands::tell()

@@ -19,6 +19,7 @@ class Analysis_Widget;
 
 namespace analysis {
 
+class MeasurementKeeping;
 class PictureKeys;
 
 /// What can be done in an analysis window beside its own buttons: undo and redo, and the entries of
@@ -91,6 +92,15 @@ public:
     /// Makes a step of what is other than after the last one.
     void record();
 
+    /// Whatever edit() does from beginStep() on is one step, which endStep() makes; nobody is told
+    /// before.
+    void beginStep();
+    void endStep();
+    /// Shows other tools, before which there is nothing to undo, and tells nobody.
+    void restart(const overlay::ToolsState& state);
+
+    MeasurementKeeping& keeping() { return *m_keeping; }
+
     /// Opens the picture's menu in select mode; in the other modes a press places a tool. The place
     /// is in the label's pixels.
     void showPictureMenu(const QPoint& place);
@@ -128,6 +138,8 @@ private:
     overlay::ToolsState m_told;
     QPointer<QMenu> m_menu; ///< while one is open, and until what it triggered is done
     bool m_isHeld = false;
+    bool m_isStepOpen = false;
+    std::unique_ptr<MeasurementKeeping> m_keeping; ///< goes first: it keeps what there is
 };
 
 } // namespace analysis

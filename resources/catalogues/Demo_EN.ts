@@ -267,6 +267,17 @@
     </message>
 </context>
 <context>
+    <name>CoordinatesMenu</name>
+    <message>
+        <source>坐标...</source>
+        <translation>Coordinates...</translation>
+    </message>
+    <message>
+        <source>按坐标新建...</source>
+        <translation>New by coordinates...</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Therma Desk</source>
@@ -522,6 +533,50 @@
 %2</source>
         <translation>The file “%1” could not be written; a file that was there stays as it was.
 %2</translation>
+    </message>
+</context>
+<context>
+    <name>ViewMenu</name>
+    <message>
+        <source>复制图片</source>
+        <translation>Copy picture</translation>
+    </message>
+    <message>
+        <source>复制表格</source>
+        <translation>Copy table</translation>
+    </message>
+    <message>
+        <source>复制所选行</source>
+        <translation>Copy selected row</translation>
+    </message>
+    <message>
+        <source>保存图片...</source>
+        <translation>Save picture...</translation>
+    </message>
+    <message>
+        <source>保存温度...</source>
+        <translation>Save temperatures...</translation>
+    </message>
+</context>
+<context>
+    <name>analysis::MeasurementKeeping</name>
+    <message>
+        <source>随照片保存测量</source>
+        <translation>Keep measurements with photographs</translation>
+    </message>
+    <message>
+        <source>此选择未能保存。</source>
+        <translation>This choice could not be saved.</translation>
+    </message>
+    <message>
+        <source>测量未能与照片一起保存。
+%1</source>
+        <translation>The measurements could not be kept with the photograph.
+%1</translation>
+    </message>
+    <message>
+        <source>警告</source>
+        <translation>Warning</translation>
     </message>
 </context>
 <context>

@@ -267,6 +267,17 @@
     </message>
 </context>
 <context>
+    <name>CoordinatesMenu</name>
+    <message>
+        <source>坐标...</source>
+        <translation>좌표...</translation>
+    </message>
+    <message>
+        <source>按坐标新建...</source>
+        <translation>좌표로 새로 만들기...</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Therma Desk</source>
@@ -518,6 +529,50 @@
 %2</source>
         <translation>파일 “%1”을(를) 쓸 수 없습니다. 기존 파일은 그대로 남아 있습니다.
 %2</translation>
+    </message>
+</context>
+<context>
+    <name>ViewMenu</name>
+    <message>
+        <source>复制图片</source>
+        <translation>이미지 복사</translation>
+    </message>
+    <message>
+        <source>复制表格</source>
+        <translation>표 복사</translation>
+    </message>
+    <message>
+        <source>复制所选行</source>
+        <translation>선택한 행 복사</translation>
+    </message>
+    <message>
+        <source>保存图片...</source>
+        <translation>이미지 저장...</translation>
+    </message>
+    <message>
+        <source>保存温度...</source>
+        <translation>온도 저장...</translation>
+    </message>
+</context>
+<context>
+    <name>analysis::MeasurementKeeping</name>
+    <message>
+        <source>随照片保存测量</source>
+        <translation>사진별로 측정 기억</translation>
+    </message>
+    <message>
+        <source>此选择未能保存。</source>
+        <translation>이 선택을 저장하지 못했습니다.</translation>
+    </message>
+    <message>
+        <source>测量未能与照片一起保存。
+%1</source>
+        <translation>측정을 사진과 함께 보관하지 못했습니다.
+%1</translation>
+    </message>
+    <message>
+        <source>警告</source>
+        <translation>경고</translation>
     </message>
 </context>
 <context>

@@ -267,6 +267,17 @@
     </message>
 </context>
 <context>
+    <name>CoordinatesMenu</name>
+    <message>
+        <source>坐标...</source>
+        <translation>Координаты...</translation>
+    </message>
+    <message>
+        <source>按坐标新建...</source>
+        <translation>Создать по координатам...</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Therma Desk</source>
@@ -526,6 +537,50 @@
 %2</source>
         <translation>Не удалось записать файл «%1»; прежний файл остался без изменений.
 %2</translation>
+    </message>
+</context>
+<context>
+    <name>ViewMenu</name>
+    <message>
+        <source>复制图片</source>
+        <translation>Копировать снимок</translation>
+    </message>
+    <message>
+        <source>复制表格</source>
+        <translation>Копировать таблицу</translation>
+    </message>
+    <message>
+        <source>复制所选行</source>
+        <translation>Копировать выбранную строку</translation>
+    </message>
+    <message>
+        <source>保存图片...</source>
+        <translation>Сохранить снимок...</translation>
+    </message>
+    <message>
+        <source>保存温度...</source>
+        <translation>Сохранить температуры...</translation>
+    </message>
+</context>
+<context>
+    <name>analysis::MeasurementKeeping</name>
+    <message>
+        <source>随照片保存测量</source>
+        <translation>Хранить измерения вместе со снимками</translation>
+    </message>
+    <message>
+        <source>此选择未能保存。</source>
+        <translation>Не удалось сохранить этот выбор.</translation>
+    </message>
+    <message>
+        <source>测量未能与照片一起保存。
+%1</source>
+        <translation>Не удалось сохранить измерения вместе со снимком.
+%1</translation>
+    </message>
+    <message>
+        <source>警告</source>
+        <translation>Предупреждение</translation>
     </message>
 </context>
 <context>

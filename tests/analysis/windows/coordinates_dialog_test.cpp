@@ -46,11 +46,12 @@ class CoordinatesDialogTest : public QObject
     Tools before;
     QVector<Tools> heard;
 
-    void open(const Tools& tools, ToolKind kindOfNew = ToolKind::Point)
+    void open(const Tools& tools, ToolKind kindOfNew = ToolKind::Point,
+              CoordinatesDialog::Of of = CoordinatesDialog::Of::Selection)
     {
         before = tools;
         heard.clear();
-        dialog = new CoordinatesDialog(tools, kindOfNew, Qt::cyan, page.get());
+        dialog = new CoordinatesDialog(tools, of, kindOfNew, Qt::cyan, page.get());
         connect(dialog, &CoordinatesDialog::changed, this,
                 [this](const Tools& changed) { heard.append(changed); });
         dialogs::open(dialog);
@@ -186,6 +187,19 @@ private slots:
         QCOMPARE(shownNumbers(), 3);
         QVERIFY(heard.last().lineList.isEmpty());
         QCOMPARE(heard.last().circleList.first().name, QStringLiteral("C0"));
+        button(QDialogButtonBox::Cancel).click();
+        QVERIFY(heard.last() == before);
+    }
+
+    void aNewToolBesideTheSelectedOne()
+    {
+        Tools tools;
+        tools.pointList = {pointAt(10, 20)};
+        select(tools, ToolKind::Point, 0);
+        open(tools, ToolKind::Point, CoordinatesDialog::Of::NewTool);
+        QVERIFY(dialog->isForNewTool());
+        QCOMPARE(heard.last().pointList.size(), 2);
+        QCOMPARE(heard.last().selectedIndex, 1);
         button(QDialogButtonBox::Cancel).click();
         QVERIFY(heard.last() == before);
     }

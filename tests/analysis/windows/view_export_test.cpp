@@ -6,6 +6,7 @@
 #include "overlay/tool_coordinates.h"
 #include "tests/support/dialogs.h"
 #include "tests/support/folder.h"
+#include "tests/support/full_disk.h"
 #include "tests/support/test_run.h"
 
 #include <QCheckBox>
@@ -18,9 +19,7 @@
 #include <QPointer>
 #include <QPushButton>
 
-#include <csignal>
 #include <memory>
-#include <sys/resource.h>
 
 using namespace analysis;
 
@@ -229,12 +228,7 @@ private slots:
     {
         QFETCH(const bool, isPicture);
         target->write(QStringLiteral("a.png"), "old");
-        rlimit before{};
-        getrlimit(RLIMIT_FSIZE, &before);
-        const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-        rlimit limit = before;
-        limit.rlim_cur = 1000;
-        setrlimit(RLIMIT_FSIZE, &limit);
+        auto full = std::make_unique<testing::FullDisk>(1000);
         const QString path = *target / QStringLiteral("a.png");
         const testing::Answer<QMessageBox> replace(
             [](QMessageBox& box) { box.button(QMessageBox::Yes)->click(); });
@@ -245,8 +239,7 @@ private slots:
             testing::choose(*whereDialog(), path);
         }
         QTRY_VERIFY(!whereDialog());
-        setrlimit(RLIMIT_FSIZE, &before);
-        std::signal(SIGXFSZ, handler);
+        full.reset();
         QVERIFY(replace.wasAsked());
         QTRY_VERIFY(message() && message()->isVisible());
         QVERIFY(message()->text().startsWith(QStringLiteral("文件“") +

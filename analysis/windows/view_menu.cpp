@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+#include "analysis/windows/view_menu.h"
+
+#include "analysis/windows/analysis_tables.h"
+#include "analysis/windows/analysis_widget.h"
+#include "analysis/windows/tool_commands.h"
+#include "analysis/windows/view_export.h"
+
+#include "ui_analysis_widget.h"
+
+namespace analysis {
+namespace {
+
+using Form = Ui::Analysis_Widget;
+
+ShownUnit unitOf(const ToolCommands& commands, const Form& form)
+{
+    return {unitAt(form.comboBox->currentIndex()).value_or(Unit::Celsius),
+            commands.window().conversion};
+}
+
+ShownPicture seen(const ToolCommands& commands, const Form& form)
+{
+    ShownPicture shown =
+        shownPicture(commands.window().photograph, unitOf(commands, form), commands.state().tools,
+                     form.widget->startValue, form.widget->endValue);
+    shown.language = commands.window().configurationField;
+    return shown;
+}
+
+std::vector<ToolCells> wholeTable(const Form& form)
+{
+    std::vector<ToolCells> rows = shownTools(*form.tableWidget);
+    rows.insert(rows.begin(), toolCaptions());
+    return rows;
+}
+
+std::vector<ToolCells> chosenRows(const Form& form)
+{
+    const std::vector<ToolCells> all = shownTools(*form.tableWidget);
+    std::vector<ToolCells> rows;
+    for (const QModelIndex& index : form.tableWidget->selectionModel()->selectedRows())
+        rows.push_back(all[std::size_t(index.row())]);
+    return rows;
+}
+
+} // namespace
+
+void ViewMenu::addTo(ToolCommands& commands, const Form& form)
+{
+    using Group = ToolCommands::Group;
+    using Focus = ToolCommands::Focus;
+    using Menus = ToolCommands::Menus;
+    const QKeySequence copy(Qt::CTRL + Qt::Key_C);
+    const auto hasRows = [&form] {
+        return form.tableWidget->rowCount() > 0;
+    };
+    commands.add({Group::Copies,
+                  tr("复制图片"),
+                  [&] { ViewExport::copyPicture(seen(commands, form), *form.label); },
+                  {copy},
+                  Focus::Picture,
+                  Menus::Picture});
+    commands.add({Group::Copies,
+                  tr("复制表格"),
+                  [&, hasRows] {
+                      if (hasRows())
+                          ViewExport::copyTable(wholeTable(form), true);
+                  },
+                  {copy},
+                  Focus::Table,
+                  Menus::Table,
+                  hasRows});
+    commands.add({Group::Copies,
+                  tr("复制所选行"),
+                  [&] { ViewExport::copyTable(chosenRows(form), false); },
+                  {},
+                  Focus::Table,
+                  Menus::Table,
+                  [&form] {
+                      return form.tableWidget->selectionModel()->hasSelection();
+                  }});
+    commands.add({Group::Copies,
+                  tr("保存图片..."),
+                  [&] {
+                      ViewExport::savePicture(seen(commands, form), commands.window().fileName,
+                                              &commands.window());
+                  },
+                  {},
+                  Focus::Window,
+                  Menus::Picture});
+    commands.add({Group::Copies,
+                  tr("保存温度..."),
+                  [&] {
+                      ViewExport::saveTemperatures(commands.window().photograph,
+                                                   unitOf(commands, form),
+                                                   commands.window().fileName, &commands.window());
+                  },
+                  {},
+                  Focus::Window,
+                  Menus::Picture});
+}
+
+} // namespace analysis
