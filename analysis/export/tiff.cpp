@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "analysis/export/tiff.h"
 
-#include "analysis/export/little_endian.h"
+#include <QDataStream>
+#include <QtEndian>
 
 namespace analysis {
 
@@ -47,21 +48,21 @@ QByteArray tiffOf(const std::vector<float>& values, const ShownUnit& unit,
                           {305, Text, software.size(), softwarePlace},
                           {339, Short, 1, 3}}; // floating point
 
-    QByteArray tiff("II*\0", 4);
-    tiff.reserve(directory + 200);
-    appendNumber(tiff, quint32(directory));
-    tiff.resize(descriptionPlace);
-    qToLittleEndian<float>(values.data(), grayBytes, tiff.data() + strip);
-    tiff += description + software;
-    tiff.resize(directory);
-    appendNumber(tiff, quint16(std::size(entries)));
-    for (const Entry& entry : entries) {
-        appendNumber(tiff, entry.tag);
-        appendNumber(tiff, quint16(entry.type));
-        appendNumber(tiff, quint32(entry.count));
-        appendNumber(tiff, quint32(entry.value));
-    }
-    appendNumber(tiff, quint32(0)); // no further directory
+    QByteArray pixels(stripBytes, Qt::Uninitialized);
+    qToLittleEndian<float>(values.data(), grayBytes, pixels.data());
+    const QByteArray texts =
+        (description + software).leftJustified(directory - descriptionPlace, '\0');
+    QByteArray tiff;
+    QDataStream stream(&tiff, QIODevice::WriteOnly);
+    stream.setByteOrder(QDataStream::LittleEndian);
+    stream.writeRawData("II*\0", 4);
+    stream << quint32(directory);
+    stream.writeRawData(pixels.constData(), pixels.size());
+    stream.writeRawData(texts.constData(), texts.size());
+    stream << quint16(std::size(entries));
+    for (const Entry& entry : entries)
+        stream << entry.tag << quint16(entry.type) << quint32(entry.count) << quint32(entry.value);
+    stream << quint32(0); // no further directory
     return tiff;
 }
 
