@@ -3,23 +3,18 @@
 
 #include "live/alarm_records.h"
 
+#include <array>
+
 namespace live {
 
 QString styleSheetOf(Look look)
 {
-    switch (look) {
-    case Look::Unchanged:
-        break;
-    case Look::Below:
-        return QStringLiteral("background-color: rgb(255, 255, 255);\n color: rgb(80, 180, 50);");
-    case Look::Above:
-        return QStringLiteral("background-color: rgb(255, 255, 255);\n color: rgb(255, 0, 0);");
-    case Look::BlinkOn:
-        return QStringLiteral("background-color: rgb(255, 0, 0);\ncolor: rgb(255, 255, 0);");
-    case Look::BlinkOff:
-        return QStringLiteral("background-color: rgb(255, 255, 255);\ncolor: rgb(255, 0, 0);");
-    }
-    return {};
+    constexpr std::array<const char*, 5> sheets{
+        "", "background-color: rgb(255, 255, 255);\n color: rgb(80, 180, 50);",
+        "background-color: rgb(255, 255, 255);\n color: rgb(255, 0, 0);",
+        "background-color: rgb(255, 0, 0);\ncolor: rgb(255, 255, 0);",
+        "background-color: rgb(255, 255, 255);\ncolor: rgb(255, 0, 0);"};
+    return QLatin1String(sheets.at(std::size_t(look)));
 }
 
 void AlarmState::onPicture(const QImage& picture)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Compiled once for every instruction set that a machine may have: foreach_target.h includes this
-// file again for each of them, under another HWY_NAMESPACE.
-#include "live/frame_kernels.h"
+// live::convertPixels(), compiled once for every instruction set that a machine may have:
+// foreach_target.h includes this file again for each of them, under another HWY_NAMESPACE.
+#include "live/live_frame.h"
 
 // On Windows the compiler keeps the stack aligned to 16 bytes only: no wider vectors there.
 #ifdef _WIN32

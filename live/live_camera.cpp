@@ -16,13 +16,10 @@ LiveCamera::~LiveCamera() = default;
 
 void LiveCamera::open()
 {
-    if (const auto imager = findImager())
-        open(*imager);
-}
-
-void LiveCamera::open(const QCameraInfo& imager)
-{
-    camera = std::make_unique<QCamera>(imager);
+    const auto imager = findImager();
+    if (!imager)
+        return;
+    camera = std::make_unique<QCamera>(*imager);
     camera->setViewfinder(capture.get());
     camera->start();
 }
@@ -33,11 +30,10 @@ void LiveCamera::reopen()
     const QList<QCameraInfo> cameras = QCameraInfo::availableCameras();
     for (const QCameraInfo& info : cameras) {
         qDebug().noquote() << QStringLiteral("可用相机:") << info.description();
-        if (isImager(info)) {
-            open(info);
+        if (isImager(info))
             break;
-        }
     }
+    open();
     if (camera)
         camera->start();
 }

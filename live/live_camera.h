@@ -4,7 +4,6 @@
 #include <memory>
 
 class QCamera;
-class QCameraInfo;
 class QtCameraCapture;
 
 namespace live {
@@ -30,9 +29,6 @@ protected:
     /// A camera with an error is stopped, and stays so until it is opened again.
     void checkHealth();
     void stopCamera();
-
-private:
-    void open(const QCameraInfo& imager);
 };
 
 } // namespace live

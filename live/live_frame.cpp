@@ -1,17 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "live/live_frame.h"
 
-#include "live/frame_kernels.h"
-
 #include <QtEndian>
 
 namespace live {
-
-void convertPicture(const uchar* frame, uchar* rgb)
-{
-    static_assert(picturePixels % pixelsAtOnce == 0);
-    convertPixels(frame, picturePixels, rgb);
-}
 
 Readings readings(const uchar* frame)
 {

@@ -29,13 +29,18 @@ constexpr int frameBytes = pictureBytes + 6; ///< 153,606; a shorter frame is sk
 constexpr int rgbRowBytes = frameColumns * 3;     ///< 720, no padding
 constexpr int rgbBytes = rgbRowBytes * frameRows; ///< 230,400
 
-/// Converts the picture part of a frame (pictureBytes bytes, any alignment) to rgbBytes bytes of
-/// R, G, B. The two buffers do not overlap.
+/// As many pixels as any machine converts at once.
+constexpr int pixelsAtOnce = 64;
+static_assert(picturePixels % pixelsAtOnce == 0);
+
+/// Converts YUYV pixels, picturePixels or another multiple of pixelsAtOnce, to bytes of R, G, B,
+/// with the widest vectors that the machine at hand has. The two buffers do not overlap and have
+/// any alignment.
 ///
 /// With u = U − 128 and v = V − 128, each value is truncated toward zero and clamped to 0 … 255:
 ///     R = Y + 1.370705 v,   G = Y − 0.698001 v − 0.337633 u,   B = Y + 1.732446 u
 /// For all 2^24 (Y, U, V) the bytes are those of this formula in double precision.
-void convertPicture(const uchar* frame, uchar* rgb);
+void convertPixels(const uchar* yuyv, int pixels, uchar* rgb);
 
 /// The three numbers behind the picture.
 struct Readings

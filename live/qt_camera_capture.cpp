@@ -30,7 +30,7 @@ bool QtCameraCapture::present(const QVideoFrame& frame)
         mapped.unmap();
         return true;
     }
-    live::convertPicture(bits, m_rgb.data());
+    live::convertPixels(bits, live::picturePixels, m_rgb.data());
     const live::Readings readings = live::readings(bits);
     mapped.unmap();
 

@@ -26,7 +26,7 @@ void decodeOurs(benchmark::State& state)
     const std::vector<uchar> yuyv = frame();
     std::vector<uchar> rgb(live::rgbBytes);
     for ([[maybe_unused]] auto _ : state) {
-        live::convertPicture(yuyv.data(), rgb.data());
+        live::convertPixels(yuyv.data(), live::picturePixels, rgb.data());
         benchmark::ClobberMemory();
     }
 }

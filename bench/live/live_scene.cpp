@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "bench/live/live_scene.h"
 
-#include "live/frame_kernels.h"
 #include "live/live_frame.h"
 
 #include <QCoreApplication>
@@ -32,7 +31,8 @@ QByteArray liveFrame(int maximumTenths)
 QImage livePictureOf(const QByteArray& frame)
 {
     QImage picture(live::frameColumns, live::frameRows, QImage::Format_RGB888);
-    live::convertPicture(reinterpret_cast<const uchar*>(frame.constData()), picture.bits());
+    live::convertPixels(reinterpret_cast<const uchar*>(frame.constData()), live::picturePixels,
+                        picture.bits());
     return picture;
 }
 

@@ -10,7 +10,6 @@
 #include "fuzz/support/input.h"
 #include "fuzz/support/surroundings.h"
 #include "fuzz/support/target.h"
-#include "live/frame_kernels.h"
 #include "live/live_frame.h"
 #include "live/qt_camera_capture.h"
 #include "tests/live/instruction_sets.h"

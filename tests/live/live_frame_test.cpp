@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "live/frame_kernels.h"
 #include "live/live_frame.h"
 #include "tests/live/instruction_sets.h"
 #include "tests/support/test_run.h"
@@ -42,7 +41,7 @@ std::vector<uchar> frameOf(int y0, int u, int y1, int v)
 std::vector<uchar> converted(const std::vector<uchar>& frame)
 {
     std::vector<uchar> rgb(live::rgbBytes);
-    live::convertPicture(frame.data(), rgb.data());
+    live::convertPixels(frame.data(), live::picturePixels, rgb.data());
     return rgb;
 }
 
