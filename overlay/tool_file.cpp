@@ -206,11 +206,6 @@ QString numbersText(const Tool& tool)
     return QLatin1Char('[') + texts.join(QLatin1String(", ")) + QLatin1Char(']');
 }
 
-QString hexOf(const QColor& colour)
-{
-    return colour.name(colour.alpha() == 255 ? QColor::HexRgb : QColor::HexArgb);
-}
-
 QString member(const QString& key, const QStringList& values, const QString& brackets)
 {
     return QStringLiteral("\"%1\": ").arg(key) + brackets.at(0) + values.join(QLatin1String(", ")) +
@@ -273,6 +268,11 @@ QString wrongWith(const Tools& tools)
         }
     });
     return wrong;
+}
+
+QString hexOf(const QColor& colour)
+{
+    return colour.name(colour.alpha() == 255 ? QColor::HexRgb : QColor::HexArgb);
 }
 
 } // namespace overlay

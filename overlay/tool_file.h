@@ -35,4 +35,7 @@ QByteArray toolsToJson(const Tools& tools);
 /// does.
 QString wrongWith(const Tools& tools);
 
+/// "#rrggbb", or "#aarrggbb" where the colour is not opaque.
+QString hexOf(const QColor& colour);
+
 } // namespace overlay

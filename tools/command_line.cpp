@@ -8,12 +8,12 @@
 
 namespace tools {
 
-CommandLine::CommandLine(const QString& command, const QString& summary) : m_command(command)
+CommandLine::CommandLine(const QString& command, const QString& summary)
+    : CommandLine(
+          command, summary,
+          {{QStringLiteral("PATH"), QStringLiteral("A photograph, or a folder of them (*.bmp).")}},
+          QStringLiteral("no photographs are named"))
 {
-    m_parser.setApplicationDescription(summary);
-    m_parser.addPositionalArgument(QStringLiteral("PATH"),
-                                   QStringLiteral("A photograph, or a folder of them (*.bmp)."),
-                                   QStringLiteral("PATH…"));
     add({QStringLiteral("layout")},
         QStringLiteral("File layout: 0, 1, or auto (default): the one in which the machine ID of a "
                        "known imager stands."),
@@ -23,6 +23,17 @@ CommandLine::CommandLine(const QString& command, const QString& summary) : m_com
     add({QStringLiteral("j"), QStringLiteral("jobs")},
         QStringLiteral("Photographs worked on at the same time. Default: one for each core."),
         QStringLiteral("N"));
+}
+
+CommandLine::CommandLine(const QString& command, const QString& summary,
+                         const std::vector<Operand>& operands, const QString& missing)
+    : m_command(command), m_least(int(operands.size())), m_missing(missing)
+{
+    m_parser.setApplicationDescription(summary);
+    for (const Operand& operand : operands) {
+        m_operands += QLatin1Char(' ') + operand.name;
+        m_parser.addPositionalArgument(operand.name, operand.description);
+    }
     add({QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show this help."));
 }
 
@@ -41,8 +52,8 @@ bool CommandLine::parse(const QStringList& arguments)
     else if (isSet(QStringLiteral("help"))) {
         m_status = print(help()) && flushOutput() ? status::good : status::someFailed;
         return false;
-    } else if (paths().isEmpty())
-        refuse(QStringLiteral("no photographs are named"));
+    } else if (paths().size() < m_least)
+        refuse(m_missing);
     constexpr int mostJobs = 1024;
     m_jobs = number(QStringLiteral("jobs"), 1, mostJobs).value_or(QThread::idealThreadCount());
     return isGood();
@@ -70,7 +81,8 @@ void CommandLine::require(const QString& option)
 QByteArray CommandLine::help() const
 {
     const QString text = m_parser.helpText();
-    const QString usage = QStringLiteral("Usage: thermaphoto %1 [options] PATH…").arg(m_command);
+    const QString usage =
+        QStringLiteral("Usage: thermaphoto %1 [options]%2…").arg(m_command, m_operands);
     return (usage + text.mid(text.indexOf(QLatin1Char('\n')))).toUtf8();
 }
 

@@ -16,13 +16,25 @@ constexpr int someFailed = 1;
 constexpr int badUsage = 2;
 } // namespace status
 
-/// The arguments of one command: its own options, and those that all commands take (layout,
-/// folders, jobs, help). Values that make no sense are remembered while options are read, so that a
-/// command can read them all and then ask isGood() once.
+/// What a command works on, as its help names it.
+struct Operand
+{
+    QString name;
+    QString description;
+};
+
+/// The arguments of one command: its own options, and those that all commands on photographs take
+/// (layout, folders, jobs, help). Values that make no sense are remembered while options are read,
+/// so that a command can read them all and then ask isGood() once.
 class CommandLine
 {
 public:
+    /// A command that works on photographs.
     CommandLine(const QString& command, const QString& summary);
+    /// A command that works on something else, and takes no option of the others but --help.
+    /// `missing` is told when there are not as many operands; of the last there may be more.
+    CommandLine(const QString& command, const QString& summary,
+                const std::vector<Operand>& operands, const QString& missing);
 
     /// `valueName` is empty for a switch.
     void add(const QStringList& names, const QString& description, const QString& valueName = {},
@@ -76,6 +88,9 @@ private:
     QByteArray help() const;
 
     QString m_command;
+    QString m_operands; ///< as the usage line has them
+    int m_least;        ///< number of operands
+    QString m_missing;
     QCommandLineParser m_parser;
     QString m_error;
     int m_jobs = 1;

@@ -13,6 +13,7 @@ namespace tools {
 int infoCommand(const QStringList& arguments);
 int exportCommand(const QStringList& arguments);
 int measureCommand(const QStringList& arguments);
+int toolsCommand(const QStringList& arguments);
 
 /// Needs a drawingApplication().
 int reportCommand(const QStringList& arguments);

@@ -17,10 +17,9 @@ constexpr struct
     const char* name;
     Command run;
 } commands[] = {
-    {"info", tools::infoCommand},
-    {"export", tools::exportCommand},
-    {"measure", tools::measureCommand},
-    {"report", tools::reportCommand},
+    {"info", tools::infoCommand},       {"export", tools::exportCommand},
+    {"measure", tools::measureCommand}, {"report", tools::reportCommand},
+    {"tools", tools::toolsCommand},
 };
 
 constexpr const char* help =
@@ -33,14 +32,15 @@ constexpr const char* help =
     "  export    write temperatures (CSV, TIFF, NumPy) or pictures (PNG)\n"
     "  measure   measure photographs, all with the same tools\n"
     "  report    write a PDF report of each photograph\n"
+    "  tools     check, print, convert, combine and transform files of tools\n"
     "  help      show this help, or all options of a command\n"
     "\n"
     "Options:\n"
     "  -h, --help     show this help; behind a command, all its options\n"
     "  -v, --version  show the version\n"
     "\n"
-    "Ends with 0 when all went well, 1 when some photographs failed (a line on the error\n"
-    "output tells why), 2 when the arguments made no sense.\n";
+    "Ends with 0 when all went well, 1 when some photographs or files failed (a line on the\n"
+    "error output tells why), 2 when the arguments made no sense.\n";
 
 int say(const char* text)
 {

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/measuring_options.h"
 
-#include "files/reading.h"
-#include "overlay/tool_file.h"
-#include "tools/messages.h"
+#include "tools/tool_files.h"
 
 using analysis::Unit;
 
@@ -39,10 +37,7 @@ overlay::Tools readTools(CommandLine& line)
     const QString file = line.value(QStringLiteral("tools"));
     if (!line.isSet(QStringLiteral("tools")))
         return tools;
-    constexpr qint64 mostBytes = 10'000'000;
-    QByteArray json;
-    const files::Outcome reading = files::readWhole(file, mostBytes, json);
-    const QString wrong = reading.isGood() ? toolsFromJson(json, tools) : reason(reading);
+    const QString wrong = readToolFile(file, tools);
     if (!wrong.isEmpty())
         line.refuse(file + QStringLiteral(": ") + wrong);
     return tools;

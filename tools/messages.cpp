@@ -3,7 +3,9 @@
 
 #include "tools/texts.h"
 
+#include <cerrno>
 #include <cstdio>
+#include <system_error>
 
 namespace tools {
 
@@ -19,6 +21,12 @@ bool print(const QByteArray& text)
 bool flushOutput()
 {
     return std::fflush(stdout) == 0;
+}
+
+void printOutputError()
+{
+    printError(QStringLiteral("the output cannot be written: ") +
+               QString::fromLocal8Bit(std::generic_category().message(errno).c_str()));
 }
 
 void printError(const QString& text)

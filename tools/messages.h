@@ -12,6 +12,9 @@ bool print(const QByteArray& text);
 /// Writes out what print() still holds back. False as above.
 bool flushOutput();
 
+/// The error line of a print() or flushOutput() that has just failed.
+void printOutputError();
+
 /// One printable line on the error output, behind the program's name.
 void printError(const QString& text);
 

@@ -5,9 +5,6 @@
 #include "tools/command_line.h"
 #include "tools/messages.h"
 
-#include <cerrno>
-#include <system_error>
-
 namespace tools {
 namespace {
 
@@ -72,8 +69,7 @@ int run(const PhotographRun& photographs)
         platform::endAsInterrupted();
     }
     if (!canPrint || !print(photographs.after) || !flushOutput()) {
-        printError(QStringLiteral("the output cannot be written: ") +
-                   QString::fromLocal8Bit(std::generic_category().message(errno).c_str()));
+        printOutputError();
         return status::someFailed;
     }
     return failed == 0 ? status::good : status::someFailed;

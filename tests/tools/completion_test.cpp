@@ -67,7 +67,7 @@ QList<QByteArray> optionLines(const QString& command)
     return lines;
 }
 
-const QStringList commands{"info", "export", "measure", "report"};
+const QStringList commands{"info", "export", "measure", "report", "tools"};
 
 } // namespace
 
@@ -94,6 +94,8 @@ private slots:
             "report --language KO --skip-existing -o out IR_1.bmp");
         row("in capitals, further down", "in\t--js\tsub/\t", "info --json sub/IR_2.BMP");
         row("with an equals sign", "info --layout=au\t I\t", "info --layout auto IR_1.bmp");
+        row("actions and files of tools", "to\tcomb\tjo\tlim\t",
+            "tools combine joints.json limits.csv");
         row("help", "he\tmea\t", "help measure");
     }
     /// A person types this at a terminal, and the program is started with that.
@@ -104,7 +106,8 @@ private slots:
         QFETCH(QString, arguments);
         const Shell& used = shells[std::size_t(shell)];
         const Folder folder;
-        for (const char* name : {"IR_1.bmp", "joints.json", "sub/IR_2.BMP", "out/x", "notes.txt"})
+        for (const char* name :
+             {"IR_1.bmp", "joints.json", "limits.csv", "sub/IR_2.BMP", "out/x", "notes.txt"})
             folder.write(name, {});
         folder.write("keys", QStringLiteral("%1\n%2\nthermaphoto %3\nexit\n")
                                  .arg(used.load, used.note, keys)

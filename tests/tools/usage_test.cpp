@@ -112,8 +112,10 @@ void UsageTest::help_data()
     QTest::newRow("export") << QStringList{"export", "-h"} << QByteArray("--span");
     QTest::newRow("measure") << QStringList{"measure", "--help"} << QByteArray("--tools");
     QTest::newRow("report") << QStringList{"report", "--help"} << QByteArray("--language");
+    QTest::newRow("tools") << QStringList{"tools", "--help"} << QByteArray("--mirror");
     QTest::newRow("help") << QStringList("help") << QByteArray("measure");
     QTest::newRow("help with a command") << QStringList{"help", "export"} << QByteArray("--span");
+    QTest::newRow("help with tools") << QStringList{"help", "tools"} << QByteArray("combine");
     QTest::newRow("help with report") << QStringList{"help", "report"} << QByteArray("--language");
 }
 
