@@ -35,19 +35,15 @@ const QStringList titles{QStringLiteral("name"),   QStringLiteral("type"),  QStr
                          QStringLiteral("y1"),     QStringLiteral("x2"),    QStringLiteral("y2"),
                          QStringLiteral("radius"), QStringLiteral("colour")};
 
-/// Where the numbers of a kind stand.
+/// Where the numbers of a kind stand: two ends as far as there are any, or a centre and a radius.
 std::vector<Column> columnsOf(ToolKind kind)
 {
-    switch (kind) {
-    case ToolKind::Point:
-        return {X1, Y1};
-    case ToolKind::Line:
-    case ToolKind::Rect:
-        return {X1, Y1, X2, Y2};
-    case ToolKind::Circle:
+    const int count = overlay::rowOf(kind).numbers;
+    std::vector<Column> columns{X1, Y1, X2, Y2};
+    if (count == 3)
         return {X1, Y1, Radius};
-    }
-    return {};
+    columns.resize(std::size_t(count));
+    return columns;
 }
 
 const KindRow* kindNamed(const QString& name)
