@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
-/// What a mouse move costs on the label and on the colour bar, repaint included, and what the tools
-/// of a report cost.
+/// What a mouse move, undo and redo cost on the label and a move on the colour bar, repaint
+/// included, and what the tools of a report cost.
 
+#include "overlay/tool_history.h"
 #include "tests/overlay/overlay_host.h"
 
 #include <QApplication>
@@ -94,6 +95,28 @@ void selectAmongTools(benchmark::State& state)
         QApplication::sendEvent(&label, &press);
 }
 BENCHMARK(selectAmongTools)->Unit(benchmark::kMicrosecond);
+
+/// A step back or forward among 100 tools, the history as long as it gets.
+void undoAndRedo(benchmark::State& state)
+{
+    MyLabel label;
+    showPicture(label);
+    placeTools(label, int(state.range(0)));
+    overlay::ToolHistory history;
+    history.restart(overlay::stateOf(label));
+    for (int step = 0; step < overlay::ToolHistory::mostSteps; ++step) {
+        overlay::selectNext(label, 1);
+        overlay::moveSelected(label, step % 3 - 1, 2);
+        history.record(overlay::stateOf(label));
+    }
+    bool isGoingBack = true;
+    for ([[maybe_unused]] auto _ : state) {
+        isGoingBack = isGoingBack ? history.canUndo() : !history.canRedo();
+        overlay::restore(label, isGoingBack ? history.undo() : history.redo());
+        label.repaint();
+    }
+}
+BENCHMARK(undoAndRedo)->Arg(100)->Unit(benchmark::kMillisecond);
 
 /// The tools of a report: painted, and, as a host can still do it, drawn by a frozen label.
 void paintForReport(benchmark::State& state)
