@@ -47,6 +47,10 @@ void CoordinatesMenu::open(ToolCommands& commands, CoordinatesDialog::Of of)
     const overlay::ToolsState now = commands.state();
     auto* dialog = new CoordinatesDialog(now.tools, of, kindOfMode(window.currentTool), now.colour,
                                          window.window());
+    // Beside the picture, which follows what is typed.
+    constexpr int margin = 40;
+    dialog->move(window.mapToGlobal(
+        {window.width() - dialog->sizeHint().width() - margin, 2 * margin}));
     commands.beginStep();
     QObject::connect(
         dialog, &CoordinatesDialog::changed, &commands, [&commands](const Tools& tools) {

@@ -1,17 +1,25 @@
 // SPDX-License-Identifier: MIT
 #include "analysis/windows/analysis_widget.h"
+#include "analysis/windows/coordinates_dialog.h"
 #include "analysis/windows/photo_window.h"
+#include "analysis/windows/picture_dialog.h"
 #include "app/device_poll.h"
 #include "overlay/my_color_slider.h"
 #include "overlay/my_label.h"
 #include "simulator/tour/walk.h"
 
+#include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QDesktopServices>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QPushButton>
+#include <QSpinBox>
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QTest>
@@ -103,6 +111,68 @@ void placeTools(Walk& walk)
     walk.shoot("tools");
 }
 
+/// A dialog that nobody waits for, as soon as it is on the screen.
+template<typename Dialog>
+Dialog& shownDialog(Walk& walk)
+{
+    const auto find = [&] {
+        return walk.window().findChild<Dialog*>();
+    };
+    walk.await("a dialog opens", [&] { return find() && find()->isVisible(); });
+    return *find();
+}
+
+/// The circle, which was drawn last and is selected.
+void typeCoordinates(Walk& walk)
+{
+    auto& label = find<MyLabel>(analysisOf(walk), "label");
+    QTest::keyClick(analysisOf(walk).focusWidget(), Qt::Key_F2);
+    auto& dialog = shownDialog<CoordinatesDialog>(walk);
+    auto& radius = find<QSpinBox>(dialog, "number3");
+    radius.selectAll();
+    QTest::keyClicks(&radius, QStringLiteral("24"));
+    walk.await("the picture follows", [&] { return label.circleList.first().radius == 24; });
+    walk.shoot("coordinates");
+    QTest::keyClick(&radius, Qt::Key_Return);
+    walk.await("the dialog is gone",
+               [&] { return !walk.window().findChild<CoordinatesDialog*>(); });
+}
+
+QMenu* openPictureMenu(Walk& walk)
+{
+    auto& label = find<MyLabel>(analysisOf(walk), "label");
+    const QPoint place(label.width() / 4, label.height() / 8);
+    QContextMenuEvent event(QContextMenuEvent::Mouse, place, label.mapToGlobal(place));
+    QCoreApplication::sendEvent(&label, &event);
+    const auto menu = [] {
+        return qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    };
+    walk.await("the picture's menu opens", [&] { return menu() && menu()->isVisible(); });
+    return menu();
+}
+
+void savePicture(Walk& walk)
+{
+    QMenu* menu = openPictureMenu(walk);
+    walk.shoot("picture-menu");
+    const QString text = QCoreApplication::translate("ViewMenu", "保存图片...");
+    for (QAction* action : menu->actions()) {
+        if (action->text() == text)
+            walk.click(*menu, menu->actionGeometry(action));
+    }
+    auto& how = shownDialog<PictureDialog>(walk);
+    walk.click(find<QCheckBox>(how, "values"));
+    walk.shoot("save-picture");
+    how.accept();
+    auto& where = shownDialog<QFileDialog>(walk);
+    const QString path = QFileInfo(walk.pathOf(QStringLiteral("saved.png"))).absoluteFilePath();
+    auto& name = find<QLineEdit>(where, "fileNameEdit");
+    name.setText(path);
+    QTest::keyClick(&name, Qt::Key_Return);
+    walk.await("the picture is there", [&] { return QFileInfo(path).size() > 0; });
+    std::puts(qPrintable(walk.pathOf(QStringLiteral("saved.png"))));
+}
+
 void changeTheUnit(Walk& walk)
 {
     auto& unit = find<QComboBox>(analysisOf(walk), "comboBox");
@@ -176,6 +246,8 @@ void takeDiskSteps(Walk& walk)
     changeTheView(walk);
     openAPhotograph(walk);
     placeTools(walk);
+    typeCoordinates(walk);
+    savePicture(walk);
     changeTheUnit(walk);
     narrowTheSpan(walk);
     writeAReport(walk);
