@@ -7,6 +7,7 @@
 #include "config/configuration_record.h"
 #include "live/camer_window.h"
 #include "simulator/simulated_imager.h"
+#include "tests/support/parts.h"
 #include "tests/support/test_run.h"
 
 #include <QAbstractButton>
@@ -111,8 +112,8 @@ private slots:
         for (int i = 0; i < 7; ++i)
             QVERIFY(m_imager.sendFrame());
         page->saveAlarmRecord();
-        page->findChild<QTabWidget*>(QStringLiteral("tabWidget"))->setCurrentIndex(1);
-        auto* records = page->findChild<QListWidget*>(QStringLiteral("listWidget_2"));
+        testing::part<QTabWidget>(page, "tabWidget")->setCurrentIndex(1);
+        auto* records = testing::part<QListWidget>(page, "listWidget_2");
         QCOMPARE(records->count(), 1);
         records->setCurrentRow(0);
         emit records->itemClicked(records->item(0));
@@ -137,7 +138,7 @@ private slots:
         becomeDisk();
         QListWidgetItem item(m_window->browser()->fileNames.at(0));
         m_window->browser()->list_item_doubleclicked(&item);
-        QTRY_VERIFY(m_window->findChild<QWidget*>(QStringLiteral("Analysis_Widget"))->isVisible());
+        QTRY_VERIFY(testing::part<QWidget>(m_window.get(), "Analysis_Widget")->isVisible());
         everythingSpeaks(m_window.get());
     }
 

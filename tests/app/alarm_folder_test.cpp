@@ -8,6 +8,7 @@
 #include "simulator/simulated_camera.h"
 #include "tests/live/page.h"
 #include "tests/support/dialogs.h"
+#include "tests/support/parts.h"
 #include "tests/support/test_run.h"
 
 #include <QCheckBox>
@@ -74,8 +75,7 @@ private:
         QVERIFY(dialog);
         const testing::Answer<QFileDialog> answer(
             [&folder](QFileDialog& chooser) { testing::choose(chooser, folder); });
-        QTest::mouseClick(dialog->findChild<QPushButton*>(QStringLiteral("pushButton")),
-                          Qt::LeftButton);
+        QTest::mouseClick(testing::part<QPushButton>(dialog, "pushButton"), Qt::LeftButton);
         QVERIFY(answer.wasAsked());
         dialog->close();
     }
@@ -86,8 +86,7 @@ private:
         QCOMPARE(names.size(), 1);
         QCOMPARE(live::recordPicturePaths(folder, names[0]).size(), live::recordPictures);
         QCOMPARE(live::recordReadings(folder, names[0]).maximum, QStringLiteral("50.0"));
-        const auto* const list =
-            page(window).findChild<QListWidget*>(QStringLiteral("listWidget_2"));
+        const auto* const list = testing::part<QListWidget>(&page(window), "listWidget_2");
         QCOMPARE(list->count(), 1);
         emit const_cast<QListWidget*>(list)->itemClicked(list->item(0));
         QCOMPARE(page(window).historyPixmaps.size(), live::recordPictures);

@@ -16,12 +16,14 @@ class LivePageTest : public testing::DevicesTest
 {
     Q_OBJECT
 
+    const QByteArray grayFrame{live::frameBytes, '\x80'};
+
 private slots:
     void isShownTheLivePicture()
     {
         MainWindow window;
         becomeLive(window);
-        QTRY_VERIFY(camera().deliver(QByteArray(live::frameBytes, '\x80')));
+        QTRY_VERIFY(camera().deliver(grayFrame));
         QTRY_VERIFY(part<QLabel>(window.liveWindow(), "label_17")->pixmap());
     }
 
@@ -39,7 +41,7 @@ private slots:
             log.messages().count(QStringLiteral("按下了投屏按键------MainWindow::Action_camer")),
             2);
         QCOMPARE(modeArea(window)->count(), 1);
-        QTRY_VERIFY(camera().deliver(QByteArray(live::frameBytes, '\x80')));
+        QTRY_VERIFY(camera().deliver(grayFrame));
         QTRY_VERIFY(part<QLabel>(window.liveWindow(), "label_17")->pixmap());
     }
 
@@ -155,7 +157,7 @@ private slots:
     {
         MainWindow window;
         becomeLive(window);
-        QTRY_VERIFY(camera().deliver(QByteArray(live::frameBytes, '\x80')));
+        QTRY_VERIFY(camera().deliver(grayFrame));
         QPointer<camer_window> page = window.liveWindow();
         bool pageWasThere = false;
         testing::Answer<QFileDialog> answer([&](QFileDialog&) {

@@ -45,8 +45,7 @@ void putFile(const QByteArray& bytes)
 
 QByteArray fileBytes()
 {
-    QFile file(config::filePath());
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return testing::fileBytes(config::filePath());
 }
 
 } // namespace

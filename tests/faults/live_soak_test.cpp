@@ -88,7 +88,7 @@ private slots:
         m_page = window.liveWindow();
         QTRY_VERIFY(SimulatedCamera::instance().isRunning());
         window.resize(window.minimumSizeHint()); // a frame's time goes into scaling, most of all
-        auto* const picture = m_page->findChild<QLabel*>(QStringLiteral("label_17"));
+        auto* const picture = testing::part<QLabel>(m_page, "label_17");
         const testing::PaintCounter paints(*picture);
         check("checkBox", true);
         check("checkBox_2", true);
@@ -139,8 +139,7 @@ private slots:
             QCOMPARE(live::recordPicturePaths(folder, name).size(), live::recordPictures);
             QCOMPARE(live::recordReadings(folder, name).threshold, QStringLiteral("75.0"));
         }
-        QCOMPARE(m_page->findChild<QListWidget*>(QStringLiteral("listWidget"))->count(),
-                 names.size());
+        QCOMPARE(testing::part<QListWidget>(m_page, "listWidget")->count(), names.size());
         QCOMPARE(testing::leftOver(firstMinute, end), QString());
         QVERIFY(pulse.longestGap() < testing::hang);
         QVERIFY2(growth <= 2, "memory grew by more than 2 %");
@@ -172,7 +171,7 @@ private:
             check("checkBox_3", true);
         }
         if (phase == (hotFrom + hotUntil) / 2 && isSilenced(excursion))
-            m_page->findChild<QPushButton*>(QStringLiteral("pushButton_2"))->click();
+            testing::part<QPushButton>(m_page, "pushButton_2")->click();
         if (phase == hotFrom + live::recordPictures && isAlarmOn(excursion))
             ++m_records; // the eighth frame above
         const bool hot = phase >= hotFrom && phase < hotUntil;

@@ -3,6 +3,7 @@
 
 #include "overlay/my_color_slider.h"
 #include "tests/overlay/mouse.h"
+#include "tests/support/parts.h"
 
 #include <QLabel>
 #include <QPainter>
@@ -31,7 +32,7 @@ public:
 
 inline QLabel& stripOf(const My_ColorSlider& bar)
 {
-    return *bar.findChild<QLabel*>(QStringLiteral("label"));
+    return *part<QLabel>(&bar, "label");
 }
 
 /// 30 × 256: from white at the top to black, made anew at each call.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What a language of the table still lacks: run this after adding a row.
 #include "config/language.h"
+#include "tests/support/folder.h"
 #include "tests/support/test_run.h"
 
 #include <QFile>
@@ -14,8 +15,7 @@ namespace {
 
 QByteArray soundOf(const Language& language)
 {
-    QFile file(QLatin1Char(':') + QUrl(language.sound).path());
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return testing::fileBytes(QLatin1Char(':') + QUrl(language.sound).path());
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "tests/analysis/pdf_reader.h"
 #include "tests/support/dialogs.h"
 #include "tests/support/test_run.h"
+#include "tests/support/translation.h"
 #include "tests/tools/thermaphoto.h"
 
 #include <QComboBox>
@@ -15,7 +16,6 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTableWidget>
-#include <QTranslator>
 
 using testing::Ended;
 using testing::Folder;
@@ -55,7 +55,7 @@ public:
 
     void show(const QString& unit)
     {
-        window.findChild<QComboBox*>(QStringLiteral("comboBox"))
+        testing::part<QComboBox>(&window, "comboBox")
             ->setCurrentIndex(unit == QLatin1String("F") ? 1 : 0);
     }
 
@@ -67,7 +67,7 @@ public:
             [&target](QFileDialog& dialog) { testing::choose(dialog, target); });
         testing::Answer<QMessageBox> message(
             [](QMessageBox& box) { box.button(QMessageBox::Ok)->click(); });
-        window.findChild<QPushButton*>(QStringLiteral("pushButton"))->click();
+        testing::part<QPushButton>(&window, "pushButton")->click();
         return target;
     }
 
@@ -179,11 +179,8 @@ void WindowTest::report()
     QFETCH(QString, language);
     QFETCH(QString, unit);
     config::create(language);
-    QTranslator translator;
-    if (language != QLatin1String("CH")) {
-        QVERIFY(translator.load(":/Demo_" + language + ".qm"));
-        QCoreApplication::installTranslator(&translator);
-    }
+    const testing::Translation translation(":/Demo_" + language + ".qm");
+    QCOMPARE(translation.isLoaded(), language != QLatin1String("CH"));
     Opened opened(testing::samples()[std::size_t(sample)]);
     opened.show(unit);
     const QString expected = opened.save();
@@ -272,4 +269,5 @@ int main(int argc, char** argv)
     return testing::run<WindowTest>(argc, argv);
 }
 
+#include "tests/support/parts.h"
 #include "window_test.moc"

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/analysis/windows/analysis_window_test.h"
-
-#include <QTranslator>
+#include "tests/support/translation.h"
 
 using testing::flat;
 using testing::placedPoint;
@@ -15,9 +14,8 @@ class AnalysisToolsTest : public testing::AnalysisWindowTest
 private slots:
     void kindsOfToolsAreTranslated()
     {
-        QTranslator english;
-        QVERIFY(english.load(QStringLiteral(":/Demo_EN.qm")));
-        QVERIFY(QCoreApplication::installTranslator(&english));
+        const testing::Translation english(QStringLiteral(":/Demo_EN.qm"));
+        QVERIFY(english.isLoaded());
         QVERIFY(load(flat(255)));
         label().pointList = {placedPoint(QStringLiteral("P0"), 3, 4)};
         overlay::LineTool line;

@@ -2,6 +2,7 @@
 #include "config/configuration_record.h"
 #include "dialogs/dialogs.h"
 #include "tests/analysis/windows/analysis_window_test.h"
+#include "tests/support/parts.h"
 
 #include <QColorDialog>
 #include <QHeaderView>
@@ -276,7 +277,7 @@ private slots:
     {
         const QPointer<Analysis_Widget> page = window.release();
         QTimer::singleShot(0, this, [page] { dialogs::end(page); });
-        QTest::mouseClick(page->findChild<QPushButton*>("pushButton_4"), Qt::LeftButton);
+        QTest::mouseClick(testing::part<QPushButton>(page, "pushButton_4"), Qt::LeftButton);
         QVERIFY(!QApplication::activeModalWidget());
         QTRY_VERIFY(!page);
     }

@@ -154,8 +154,7 @@ private slots:
         drives.clear();
         QCoreApplication::processEvents();
         opened()->updat_XY_Temp(3, 4);
-        QCOMPARE(opened()->findChild<QLabel*>(QStringLiteral("label_4"))->text(),
-                 QStringLiteral("50.0°C"));
+        QCOMPARE(testing::part<QLabel>(opened(), "label_4")->text(), QStringLiteral("50.0°C"));
         window.reset();
         QCoreApplication::processEvents();
     }

@@ -176,7 +176,7 @@ private slots:
         auto* area = opened()->findChild<QScrollArea*>();
         QVERIFY(area->horizontalScrollBar()->maximum() > 0);
         QVERIFY(area->verticalScrollBar()->maximum() > 0);
-        auto* selector = opened()->findChild<QWidget*>(QStringLiteral("comboBox"));
+        auto* selector = testing::part<QWidget>(opened(), "comboBox");
         QVERIFY(selector->width() >= 76);
         QVERIFY(!selector->visibleRegion().isEmpty() ||
                 area->widget()->rect().contains(selector->geometry().center()));

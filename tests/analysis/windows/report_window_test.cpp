@@ -8,7 +8,9 @@
 #include "tests/analysis/photograph_writer.h"
 #include "tests/support/dialogs.h"
 #include "tests/support/folder.h"
+#include "tests/support/parts.h"
 #include "tests/support/test_run.h"
+#include "tests/support/translation.h"
 
 #include <QComboBox>
 #include <QDesktopServices>
@@ -18,7 +20,6 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QTableWidget>
-#include <QTranslator>
 
 #include <memory>
 
@@ -96,7 +97,7 @@ private slots:
 
         QCOMPARE(testing::pdfInfo(target(), "Title"), QString("IR_00007.bmp"));
         const QString text = testing::pdfText(target()).simplified();
-        const auto* information = m_window->findChild<QTableWidget*>("tableWidget_2");
+        const auto* information = testing::part<QTableWidget>(m_window.get(), "tableWidget_2");
         for (int row = 0; row < 10; ++row)
             QVERIFY2(text.contains(information->item(row, 1)->text()),
                      qPrintable(information->item(row, 1)->text()));
@@ -116,7 +117,7 @@ private slots:
     void fahrenheitThroughout()
     {
         measure();
-        m_window->findChild<QComboBox*>("comboBox")->setCurrentIndex(1);
+        testing::part<QComboBox>(m_window.get(), "comboBox")->setCurrentIndex(1);
         QVERIFY(save());
         const QString text = testing::pdfText(target()).simplified();
         QVERIFY(text.contains("测温信息(°F)"));
@@ -148,9 +149,8 @@ private slots:
 
     void kindsOfToolsAreTranslated()
     {
-        QTranslator english;
-        QVERIFY(english.load(":/Demo_EN.qm"));
-        QVERIFY(QCoreApplication::installTranslator(&english));
+        const testing::Translation english(":/Demo_EN.qm");
+        QVERIFY(english.isLoaded());
         measure();
         QCOMPARE(rowTexts().at(1), QString("Point"));
         QVERIFY(save());
@@ -160,7 +160,7 @@ private slots:
     void aDeletedToolIsNotInTheReport()
     {
         measure();
-        m_window->findChild<QPushButton*>("pushButton_3")->click();
+        testing::part<QPushButton>(m_window.get(), "pushButton_3")->click();
         QVERIFY(save());
         QVERIFY(testing::pdfText(target()).simplified().contains("名称 类型 高 低 平均"));
         QVERIFY(!testing::pdfText(target()).contains("P0"));
@@ -183,12 +183,7 @@ private slots:
     void cancelledDialogsWriteNothing()
     {
         Answer<QFileDialog> file([](QFileDialog& dialog) { dialog.reject(); });
-        Answer<QMessageBox> message([](QMessageBox& box) { box.accept(); });
-        click();
-        QVERIFY(file.wasAsked());
-        QVERIFY(!message.wasAsked());
-        QVERIFY(m_opened.isEmpty());
-        QVERIFY(QDir(config::documentsPath()).isEmpty());
+        clickInVain(file);
     }
 
     void nothingIsSaidOfAPathThatCannotBeWritten()
@@ -202,12 +197,7 @@ private slots:
             testing::choose(dialog, "report.pdf");
             QVERIFY(QDir().rmdir(folder));
         });
-        Answer<QMessageBox> message([](QMessageBox& box) { box.accept(); });
-        click();
-        QVERIFY(file.wasAsked());
-        QVERIFY(!message.wasAsked());
-        QVERIFY(m_opened.isEmpty());
-        QVERIFY(QDir(config::documentsPath()).isEmpty());
+        clickInVain(file);
     }
 
     void theWindowMayEndWhileTheFileIsChosen()
@@ -254,7 +244,17 @@ private slots:
 private:
     static QString target() { return config::documentsPath() + "/отчёт 报告.pdf"; }
 
-    void click() { m_window->findChild<QPushButton*>("pushButton")->click(); }
+    void click() { testing::part<QPushButton>(m_window.get(), "pushButton")->click(); }
+    /// Nothing is written, opened or said.
+    void clickInVain(const Answer<QFileDialog>& file)
+    {
+        const Answer<QMessageBox> message([](QMessageBox& box) { box.accept(); });
+        click();
+        QVERIFY(file.wasAsked());
+        QVERIFY(!message.wasAsked());
+        QVERIFY(m_opened.isEmpty());
+        QVERIFY(QDir(config::documentsPath()).isEmpty());
+    }
 
     /// One point in the middle, selected, and its row in the tool table.
     void measure()
@@ -270,7 +270,7 @@ private:
 
     QStringList rowTexts() const
     {
-        const auto* tools = m_window->findChild<QTableWidget*>("tableWidget");
+        const auto* tools = testing::part<QTableWidget>(m_window.get(), "tableWidget");
         QStringList texts;
         for (int column = 0; column < 5; ++column)
             texts.append(tools->item(0, column)->text());
