@@ -11,6 +11,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <utility>
 
 namespace analysis {
 namespace {
@@ -32,18 +33,14 @@ constexpr int columnGap = 90; ///< at least, between a text and the next column
 
 constexpr const char* context = "Analysis_Widget";
 
-struct Place
-{
-    int captionX;
-    int valueX;
-};
+using Row = InformationRow;
 
 struct Field
 {
     const char* caption;
-    InformationRow row;
-    Place place;
-    Place widePlace; ///< behind wide captions
+    Row row;
+    int captionX, valueX;
+    int wideCaptionX, wideValueX; ///< in languages with wide captions
     int y;
 };
 
@@ -51,56 +48,18 @@ struct Field
 /// behind their captions as these are long, unevenly; the last caption makes way for the value in
 /// front of it.
 constexpr std::array<Field, 10> fields{{
-    {QT_TRANSLATE_NOOP("Analysis_Widget", "时间:"),
-     InformationRow::Created,
-     {600, 1700},
-     {600, 2300},
-     1200},
-    {QT_TRANSLATE_NOOP("Analysis_Widget", "文件名称:"),
-     InformationRow::FileName,
-     {600, 1700},
-     {600, 2300},
+    {QT_TRANSLATE_NOOP("Analysis_Widget", "时间:"), Row::Created, 600, 1700, 600, 2300, 1200},
+    {QT_TRANSLATE_NOOP("Analysis_Widget", "文件名称:"), Row::FileName, 600, 1700, 600, 2300, 1500},
+    {QT_TRANSLATE_NOOP("Analysis_Widget", "文件大小:"), Row::FileSize, 4100, 5200, 4100, 6100,
      1500},
-    {QT_TRANSLATE_NOOP("Analysis_Widget", "文件大小:"),
-     InformationRow::FileSize,
-     {4100, 5200},
-     {4100, 6100},
-     1500},
-    {QT_TRANSLATE_NOOP("Analysis_Widget", "大小:"),
-     InformationRow::Resolution,
-     {600, 1700},
-     {600, 2300},
+    {QT_TRANSLATE_NOOP("Analysis_Widget", "大小:"), Row::Resolution, 600, 1700, 600, 2300, 1800},
+    {QT_TRANSLATE_NOOP("Analysis_Widget", "发射率:"), Row::Emissivity, 4100, 5200, 4100, 8000,
      1800},
-    {QT_TRANSLATE_NOOP("Analysis_Widget", "发射率:"),
-     InformationRow::Emissivity,
-     {4100, 5200},
-     {4100, 8000},
-     1800},
-    {QT_TRANSLATE_NOOP("Analysis_Widget", "单位:"),
-     InformationRow::Unit,
-     {600, 1700},
-     {600, 2300},
-     2100},
-    {QT_TRANSLATE_NOOP("Analysis_Widget", "中心温度:"),
-     InformationRow::Centre,
-     {600, 2300},
-     {600, 3300},
-     2700},
-    {QT_TRANSLATE_NOOP("Analysis_Widget", "平均温度:"),
-     InformationRow::Mean,
-     {4100, 5800},
-     {4100, 7400},
-     2700},
-    {QT_TRANSLATE_NOOP("Analysis_Widget", "最高温度:"),
-     InformationRow::Maximum,
-     {600, 2300},
-     {600, 4300},
-     3000},
-    {QT_TRANSLATE_NOOP("Analysis_Widget", "最低温度:"),
-     InformationRow::Minimum,
-     {4100, 5800},
-     {5000, 7800},
-     3000},
+    {QT_TRANSLATE_NOOP("Analysis_Widget", "单位:"), Row::Unit, 600, 1700, 600, 2300, 2100},
+    {QT_TRANSLATE_NOOP("Analysis_Widget", "中心温度:"), Row::Centre, 600, 2300, 600, 3300, 2700},
+    {QT_TRANSLATE_NOOP("Analysis_Widget", "平均温度:"), Row::Mean, 4100, 5800, 4100, 7400, 2700},
+    {QT_TRANSLATE_NOOP("Analysis_Widget", "最高温度:"), Row::Maximum, 600, 2300, 600, 4300, 3000},
+    {QT_TRANSLATE_NOOP("Analysis_Widget", "最低温度:"), Row::Minimum, 4100, 5800, 5000, 7800, 3000},
 }};
 
 QString translated(const char* text)
@@ -135,7 +94,7 @@ public:
     }
 
 private:
-    using Row = std::vector<ToolCells>::const_iterator;
+    using Cells = std::vector<ToolCells>::const_iterator;
     /// Where each column's texts start, and at last where a further column's would.
     using Edges = std::array<int, std::tuple_size_v<ToolCells> + 1>;
 
@@ -146,7 +105,7 @@ private:
             const auto [captionX, valueX] = place(*field);
             const auto next = field + 1;
             const bool shared = next != fields.end() && next->y == field->y;
-            const int end = shared ? place(*next).captionX - textGap : m_right;
+            const int end = shared ? place(*next).first - textGap : m_right;
             text(captionX, field->y, translated(field->caption), valueX - captionX - textGap);
             text(valueX, field->y, m_report.information[std::size_t(field->row)], end - valueX);
         }
@@ -156,13 +115,15 @@ private:
                             reportCanvas(m_report));
     }
 
-    const Place& place(const Field& field) const
+    /// Where caption and value start.
+    std::pair<int, int> place(const Field& field) const
     {
-        return config::languageOf(m_report.language).hasWideCaptions ? field.widePlace
-                                                                     : field.place;
+        if (config::languageOf(m_report.language).hasWideCaptions)
+            return {field.wideCaptionX, field.wideValueX};
+        return {field.captionX, field.valueX};
     }
 
-    void paintTools(Row first, Row last)
+    void paintTools(Cells first, Cells last)
     {
         heading(translated(QT_TRANSLATE_NOOP("Analysis_Widget", "测温信息")) +
                 QStringLiteral("(%1)").arg(
