@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // The lists of records.
-#include "resources/resources.h"
 #include "tests/live/page.h"
 #include "tests/support/test_run.h"
 
@@ -18,35 +17,13 @@ namespace {
 const QString first = QStringLiteral("20240101120000");
 const QString second = QStringLiteral("20240202120000");
 
-/// A click as the list reports it.
-void open(const Page& page, const QString& name)
-{
-    auto* const list = page.get<QListWidget>("listWidget_2");
-    const QList<QListWidgetItem*> items = list->findItems(name, Qt::MatchExactly);
-    QCOMPARE(items.size(), 1);
-    emit list->itemClicked(items.first());
-}
-
-QStringList readings(const Page& page)
-{
-    return {page.text("label_12"), page.text("label_14"), page.text("label_16")};
-}
-
 } // namespace
 
-class AlarmHistoryTest : public QObject
+class AlarmHistoryTest : public testing::PageTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { resources::load(); }
-    void init()
-    {
-        testing::profile().reset();
-        m_folder = testing::makeFolder();
-        testing::configure(QStringLiteral("EN"), m_folder);
-    }
-
     void listsRecordsInBothTabs();
     void refreshFollowsTheDisk();
     void refreshKeepsTheSelection();
@@ -59,24 +36,6 @@ private slots:
     void doubleClickOpensTheFirstRecord();
     void doubleClickWithoutRecords();
     void fiveThousandRecords();
-
-private:
-    QString path(const QString& name) const
-    {
-        return m_folder + QLatin1Char('/') + name;
-    }
-    void putRecord(const QString& name, const QByteArray& text,
-                   const QMap<QString, QColor>& pictures) const
-    {
-        QDir(m_folder).mkpath(name);
-        testing::putFile(path(name + QStringLiteral(".ini")), text);
-        for (auto it = pictures.begin(); it != pictures.end(); ++it) {
-            QImage picture(240, 320, QImage::Format_RGB888);
-            picture.fill(it.value());
-            QVERIFY(picture.save(path(name + QLatin1Char('/') + it.key()), "png"));
-        }
-    }
-    QString m_folder;
 };
 
 void AlarmHistoryTest::listsRecordsInBothTabs()
@@ -185,8 +144,8 @@ void AlarmHistoryTest::anotherFolder()
     QCOMPARE(page->historyFolder, other);
     QCOMPARE(page.rows("listWidget"), QStringList({second}));
     testing::putFile(other + QLatin1Char('/') + second + QStringLiteral(".ini"), "7,8,9");
-    open(page, second);
-    QCOMPARE(readings(page), QStringList({"7", "8", "9"}));
+    page.openRecord(second);
+    QCOMPARE(page.readings(), QStringList({"7", "8", "9"}));
     page->setAlarmFolder(QString());
     QCOMPARE(page.rows("listWidget"), QStringList());
 }
@@ -198,7 +157,7 @@ void AlarmHistoryTest::clickOnTheFirstTabDoesNothing()
     auto* const list = page.get<QListWidget>("listWidget");
     emit list->itemClicked(list->item(0));
     QCOMPARE(page.get<QTabWidget>("tabWidget")->currentIndex(), 0);
-    QCOMPARE(readings(page), QStringList({"36.9", "35.2", "0.95"}));
+    QCOMPARE(page.readings(), QStringList({"36.9", "35.2", "0.95"}));
     QVERIFY(page->historyPixmaps.isEmpty());
 }
 
@@ -216,7 +175,7 @@ void AlarmHistoryTest::doubleClickOpensTheFirstRecord()
     QTest::mouseDClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, lower);
     QCOMPARE(page.get<QTabWidget>("tabWidget")->currentIndex(), 1);
     QCOMPARE(page.get<QListWidget>("listWidget_2")->currentRow(), 0);
-    QCOMPARE(readings(page), QStringList({part, part, part}));
+    QCOMPARE(page.readings(), QStringList({part, part, part}));
     QCOMPARE(page->historyPixmaps.size(), 1);
 }
 
@@ -228,7 +187,7 @@ void AlarmHistoryTest::doubleClickWithoutRecords()
     page.get<QListWidget>("listWidget_2")->clear();
     emit list->itemDoubleClicked(list->item(0));
     QCOMPARE(page.get<QTabWidget>("tabWidget")->currentIndex(), 1);
-    QCOMPARE(readings(page), QStringList({"36.9", "35.2", "0.95"}));
+    QCOMPARE(page.readings(), QStringList({"36.9", "35.2", "0.95"}));
 }
 
 void AlarmHistoryTest::fiveThousandRecords()
@@ -240,7 +199,7 @@ void AlarmHistoryTest::fiveThousandRecords()
     page->show();
     QCOMPARE(page.get<QListWidget>("listWidget")->count(), 5000);
     QCOMPARE(page.get<QListWidget>("listWidget_2")->count(), 5000);
-    open(page, QStringLiteral("20240101124999"));
+    page.openRecord(QStringLiteral("20240101124999"));
     page.get<QTabWidget>("tabWidget")->setCurrentIndex(1);
     page->grab();
     QVERIFY(folder.mkdir(QStringLiteral("20240101125000")));

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "resources/resources.h"
 #include "tests/live/page.h"
 #include "tests/support/test_run.h"
 
@@ -32,33 +31,13 @@ QString readOutStyle(const Page& page)
     return page.style("label_6");
 }
 
-/// A page whose alarm is on, records included.
-void enable(const Page& page)
-{
-    page.check("checkBox");
-    page.check("checkBox_3");
-}
-
-void pressStop(const Page& page)
-{
-    QTest::mouseClick(page.get<QPushButton>("pushButton_2"), Qt::LeftButton);
-}
-
 } // namespace
 
-class CamerWindowAlarmTest : public QObject
+class CamerWindowAlarmTest : public testing::PageTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { resources::load(); }
-    void init()
-    {
-        testing::profile().reset();
-        m_folder = testing::makeFolder();
-        testing::configure(QStringLiteral("EN"), m_folder);
-    }
-
     void readOuts_data();
     void readOuts();
     void aboveWithoutAlarmIsSteadyRed();
@@ -81,7 +60,6 @@ private:
     {
         return QDir(m_folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
     }
-    QString m_folder;
 };
 
 void CamerWindowAlarmTest::readOuts_data()
@@ -129,7 +107,7 @@ void CamerWindowAlarmTest::equalCountsAsAbove()
     const Page page;
     page.frame(40.0F, 40.0F);
     QCOMPARE(readOutStyle(page), steadyRedStyle);
-    enable(page);
+    page.enableAlarm();
     page.frame(40.0F, 40.0F);
     QVERIFY(page->warnTimer->isActive());
     QCOMPARE(page->overCount, 1);
@@ -151,9 +129,9 @@ void CamerWindowAlarmTest::notANumberCountsAsBelow()
     QFETCH(float, maximum);
     QFETCH(float, threshold);
     const Page page;
-    enable(page);
+    page.enableAlarm();
     page.frames(3, over);
-    pressStop(page);
+    page.pressStop();
     page.frame(maximum, threshold);
     QCOMPARE(readOutStyle(page), greenStyle);
     QVERIFY(!page->warnTimer->isActive());
@@ -197,7 +175,7 @@ void CamerWindowAlarmTest::blinkPhaseIsKept()
     page->timeout_warn();
     QVERIFY(page->blinkPhase);
     page.frame(below);
-    pressStop(page);
+    page.pressStop();
     page.check("checkBox", false);
     QVERIFY(page->blinkPhase);
     page.check("checkBox");
@@ -209,7 +187,7 @@ void CamerWindowAlarmTest::blinkPhaseIsKept()
 void CamerWindowAlarmTest::belowEndsTheAlarm()
 {
     const Page page;
-    enable(page);
+    page.enableAlarm();
     page.frames(5, over);
     page->timeout_warn();
     page.frame(below);
@@ -240,7 +218,7 @@ void CamerWindowAlarmTest::boxesFollowTheEnablingBox()
 void CamerWindowAlarmTest::disablingDuringAnExcursion()
 {
     const Page page;
-    enable(page);
+    page.enableAlarm();
     page.frames(3, over);
     page->timeout_warn();
     page.check("checkBox", false);
@@ -253,11 +231,11 @@ void CamerWindowAlarmTest::disablingDuringAnExcursion()
 void CamerWindowAlarmTest::stopSilencesTheExcursion()
 {
     const Page page;
-    enable(page);
+    page.enableAlarm();
     page.frames(3, over);
     page->timeout_warn();
     page->timeout_warn();
-    pressStop(page);
+    page.pressStop();
     QVERIFY(page->alarmSilenced);
     QVERIFY(!page->warnTimer->isActive());
     QCOMPARE(readOutStyle(page), redOnWhiteStyle);
@@ -276,9 +254,9 @@ void CamerWindowAlarmTest::stopSilencesTheExcursion()
 void CamerWindowAlarmTest::stopWhileIdleSilencesTheNextExcursion()
 {
     const Page page;
-    enable(page);
+    page.enableAlarm();
     page.frame(below);
-    pressStop(page);
+    page.pressStop();
     page.frames(10, over);
     QVERIFY(!page->warnTimer->isActive());
     QCOMPARE(page->overCount, 0);
@@ -289,7 +267,7 @@ void CamerWindowAlarmTest::enablingBoxEndsTheSilence()
     const Page page;
     for (const bool checked : {true, false}) {
         page.check("checkBox", !checked);
-        pressStop(page);
+        page.pressStop();
         QVERIFY(page->alarmSilenced);
         page.check("checkBox", checked);
         QVERIFY(!page->alarmSilenced);
@@ -299,7 +277,7 @@ void CamerWindowAlarmTest::enablingBoxEndsTheSilence()
 void CamerWindowAlarmTest::disabledAndSilencedIsSteadyRed()
 {
     const Page page;
-    pressStop(page);
+    page.pressStop();
     page.frame(over);
     QCOMPARE(readOutStyle(page), steadyRedStyle);
     QVERIFY(!page->warnTimer->isActive());

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // The live page and its camera: frames that come, cameras that come and go.
-#include "resources/resources.h"
 #include "tests/live/camera.h"
 #include "tests/support/test_run.h"
 
@@ -11,25 +10,11 @@ using testing::deliver;
 using testing::Page;
 using testing::PaintCounter;
 
-class CamerWindowCameraTest : public QObject
+class CamerWindowCameraTest : public testing::CameraPageTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        resources::load();
-        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    }
-    void init()
-    {
-        testing::profile().reset();
-        m_folder = testing::makeFolder();
-        testing::configure(QStringLiteral("EN"), m_folder);
-        camera().plug();
-    }
-    void cleanup() { camera().unplug(); }
-
     void showsTheFrames();
     void pictureIsScaledSmoothly();
     void pictureIsScaledOncePerFrame();
@@ -43,9 +28,6 @@ private slots:
     void reopensTheCamera();
     void reopeningWithoutImager();
     void reopeningFindsNoImagerAnyMore();
-
-private:
-    QString m_folder;
 };
 
 void CamerWindowCameraTest::showsTheFrames()

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // What the live page looks like, and what it says to those who do not see it.
-#include "resources/resources.h"
 #include "tests/live/page.h"
 #include "tests/support/test_run.h"
 
@@ -47,19 +46,11 @@ QImage resource(const char* name)
 
 } // namespace
 
-class CamerWindowFormTest : public QObject
+class CamerWindowFormTest : public testing::PageTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { resources::load(); }
-    void init()
-    {
-        testing::profile().reset();
-        m_folder = testing::makeFolder();
-        testing::configure(QStringLiteral("EN"), m_folder);
-    }
-
     void allLabelsHaveTheirFont()
     {
         const Page page;
@@ -256,9 +247,6 @@ private slots:
         QVERIFY(buddy);
         QCOMPARE(buddy->objectName(), readOut);
     }
-
-private:
-    QString m_folder;
 };
 
 int main(int argc, char** argv)

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // The record that is open.
-#include "resources/resources.h"
 #include "tests/live/page.h"
 #include "tests/support/test_run.h"
 
@@ -18,44 +17,13 @@ namespace {
 const QString first = QStringLiteral("20240101120000");
 const QString second = QStringLiteral("20240202120000");
 
-/// A click as the list reports it.
-void open(const Page& page, const QString& name)
-{
-    auto* const list = page.get<QListWidget>("listWidget_2");
-    const QList<QListWidgetItem*> items = list->findItems(name, Qt::MatchExactly);
-    QCOMPARE(items.size(), 1);
-    emit list->itemClicked(items.first());
-}
-
-QStringList readings(const Page& page)
-{
-    return {page.text("label_12"), page.text("label_14"), page.text("label_16")};
-}
-
-/// The colour in the middle of the history picture, black when there is none.
-QColor shown(const Page& page)
-{
-    const QPixmap* const pixmap = page.get<QLabel>("label_18")->pixmap();
-    if (!pixmap || pixmap->isNull())
-        return Qt::black;
-    return pixmap->toImage().pixelColor(pixmap->rect().center());
-}
-
 } // namespace
 
-class CamerWindowHistoryTest : public QObject
+class CamerWindowHistoryTest : public testing::PageTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { resources::load(); }
-    void init()
-    {
-        testing::profile().reset();
-        m_folder = testing::makeFolder();
-        testing::configure(QStringLiteral("EN"), m_folder);
-    }
-
     void showsARecord();
     void picturesSortedByName();
     void rowChanges();
@@ -68,21 +36,6 @@ private slots:
     void recordDeletedWhileListed();
     void pictureFollowsTheLabel();
     void openRecordComesToRest();
-
-private:
-    QString path(const QString& name) const { return m_folder + QLatin1Char('/') + name; }
-    void putRecord(const QString& name, const QByteArray& text,
-                   const QMap<QString, QColor>& pictures) const
-    {
-        QDir(m_folder).mkpath(name);
-        testing::putFile(path(name + QStringLiteral(".ini")), text);
-        for (auto it = pictures.begin(); it != pictures.end(); ++it) {
-            QImage picture(240, 320, QImage::Format_RGB888);
-            picture.fill(it.value());
-            QVERIFY(picture.save(path(name + QLatin1Char('/') + it.key()), "png"));
-        }
-    }
-    QString m_folder;
 };
 
 void CamerWindowHistoryTest::showsARecord()
@@ -91,15 +44,15 @@ void CamerWindowHistoryTest::showsARecord()
     const Page page;
     page->show();
     page.get<QTabWidget>("tabWidget")->setCurrentIndex(1);
-    open(page, first);
-    QCOMPARE(readings(page), QStringList({"36.2", "34.0", "0.97"}));
+    page.openRecord(first);
+    QCOMPARE(page.readings(), QStringList({"36.2", "34.0", "0.97"}));
     QCOMPARE(page.rows("listWidget_3"), QStringList({"a.png", "b.png"}));
     QVERIFY(!page.get<QListWidget>("listWidget_3")->item(0)->icon().isNull());
     QCOMPARE(page.get<QListWidget>("listWidget_3")->currentRow(), 0);
     QCOMPARE(page->historyRow, 0);
     QCOMPARE(page->historyPixmaps.size(), 2);
     QCOMPARE(page->historyPixmaps[0].size(), QSize(240, 320));
-    QCOMPARE(shown(page), QColor(Qt::red));
+    QCOMPARE(page.shownRecordColour(), QColor(Qt::red));
 }
 
 void CamerWindowHistoryTest::picturesSortedByName()
@@ -112,7 +65,7 @@ void CamerWindowHistoryTest::picturesSortedByName()
                {"M.BMP", Qt::yellow}});
     testing::putFile(path(first + QStringLiteral("/notes.txt")), "not shown");
     const Page page;
-    open(page, first);
+    page.openRecord(first);
     QCOMPARE(page.rows("listWidget_3"),
              QStringList({"Alarm.JPG", "F1.JPG", "L1.JPG", "M.BMP", "x.png"}));
     QCOMPARE(page->historyPixmaps[1].toImage().pixelColor(0, 0), QColor(Qt::red));
@@ -124,12 +77,12 @@ void CamerWindowHistoryTest::rowChanges()
     const Page page;
     page->show();
     page.get<QTabWidget>("tabWidget")->setCurrentIndex(1);
-    open(page, first);
+    page.openRecord(first);
     page.get<QListWidget>("listWidget_3")->setCurrentRow(1);
     QCOMPARE(page->historyRow, 1);
-    QCOMPARE(shown(page), QColor(Qt::green));
+    QCOMPARE(page.shownRecordColour(), QColor(Qt::green));
     page.get<QListWidget>("listWidget_3")->setCurrentRow(0);
-    QCOMPARE(shown(page), QColor(Qt::red));
+    QCOMPARE(page.shownRecordColour(), QColor(Qt::red));
 }
 
 void CamerWindowHistoryTest::negativeRowShowsTheFirst()
@@ -138,15 +91,15 @@ void CamerWindowHistoryTest::negativeRowShowsTheFirst()
     const Page page;
     page->show();
     page.get<QTabWidget>("tabWidget")->setCurrentIndex(1);
-    open(page, first);
+    page.openRecord(first);
     page.get<QListWidget>("listWidget_3")->setCurrentRow(1);
     page.get<QListWidget>("listWidget_3")->setCurrentRow(-1);
     QCOMPARE(page->historyRow, -1);
-    QCOMPARE(shown(page), QColor(Qt::red));
+    QCOMPARE(page.shownRecordColour(), QColor(Qt::red));
     page->grab();
-    QCOMPARE(shown(page), QColor(Qt::red));
+    QCOMPARE(page.shownRecordColour(), QColor(Qt::red));
     page->on_listWidget_3_currentRowChanged(1000);
-    QCOMPARE(shown(page), QColor(Qt::black));
+    QCOMPARE(page.shownRecordColour(), QColor(Qt::black));
     page->grab();
 }
 
@@ -165,16 +118,16 @@ void CamerWindowHistoryTest::shortTexts()
     QFETCH(QStringList, parts);
     putRecord(first, text, {});
     const Page page;
-    open(page, first);
-    QCOMPARE(readings(page), parts);
+    page.openRecord(first);
+    QCOMPARE(page.readings(), parts);
 }
 
 void CamerWindowHistoryTest::textsAreNoMarkUp()
 {
     putRecord(first, "<b>1</b>,<i>2</i>,<s>3</s>", {});
     const Page page;
-    open(page, first);
-    QCOMPARE(readings(page), QStringList({"<b>1</b>", "<i>2</i>", "<s>3</s>"}));
+    page.openRecord(first);
+    QCOMPARE(page.readings(), QStringList({"<b>1</b>", "<i>2</i>", "<s>3</s>"}));
     for (const char* label : {"label_12", "label_14", "label_16"})
         QCOMPARE(page.get<QLabel>(label)->textFormat(), Qt::PlainText);
 }
@@ -186,16 +139,16 @@ void CamerWindowHistoryTest::recordWithoutPictures()
     const Page page;
     page->show();
     page.get<QTabWidget>("tabWidget")->setCurrentIndex(1);
-    open(page, first);
-    QCOMPARE(shown(page), QColor(Qt::red));
-    open(page, second);
-    QCOMPARE(readings(page), QStringList({"4", "5", "6"}));
+    page.openRecord(first);
+    QCOMPARE(page.shownRecordColour(), QColor(Qt::red));
+    page.openRecord(second);
+    QCOMPARE(page.readings(), QStringList({"4", "5", "6"}));
     QCOMPARE(page.rows("listWidget_3"), QStringList());
     QVERIFY(page->historyPixmaps.isEmpty());
-    QCOMPARE(shown(page), QColor(Qt::black)); // not the record before
+    QCOMPARE(page.shownRecordColour(), QColor(Qt::black)); // not the record before
     page->grab();
-    open(page, first);
-    QCOMPARE(shown(page), QColor(Qt::red));
+    page.openRecord(first);
+    QCOMPARE(page.shownRecordColour(), QColor(Qt::red));
 }
 
 void CamerWindowHistoryTest::filesThatAreNoPictures()
@@ -210,15 +163,15 @@ void CamerWindowHistoryTest::filesThatAreNoPictures()
     page->show();
     page.get<QTabWidget>("tabWidget")->setCurrentIndex(1);
     const testing::LogRecorder log;
-    open(page, first);
+    page.openRecord(first);
     QCOMPARE(page.rows("listWidget_3"), QStringList({"a.png", "b.png", "c.jpg", "d.png"}));
     QCOMPARE(page->historyPixmaps.size(), 4);
     QVERIFY(page->historyPixmaps.at(3).isNull());
-    QCOMPARE(shown(page), QColor(Qt::black));
+    QCOMPARE(page.shownRecordColour(), QColor(Qt::black));
     page.get<QListWidget>("listWidget_3")->setCurrentRow(1);
-    QCOMPARE(shown(page), QColor(Qt::green));
+    QCOMPARE(page.shownRecordColour(), QColor(Qt::green));
     page.get<QListWidget>("listWidget_3")->setCurrentRow(2);
-    QCOMPARE(shown(page), QColor(Qt::black));
+    QCOMPARE(page.shownRecordColour(), QColor(Qt::black));
     page->grab();
     QVERIFY(!log.contains(QStringLiteral("null pixmap")));
 }
@@ -227,12 +180,12 @@ void CamerWindowHistoryTest::recordDeletedWhileListed()
 {
     putRecord(first, "1,2,3", {{"a.png", Qt::red}});
     const Page page;
-    open(page, first);
+    page.openRecord(first);
     QVERIFY(QDir(path(first)).removeRecursively());
     QVERIFY(QFile::remove(path(first + QStringLiteral(".ini"))));
     QCOMPARE(page->historyPixmaps.size(), 1); // what is open stays
-    open(page, first);
-    QCOMPARE(readings(page), QStringList({"", "", ""}));
+    page.openRecord(first);
+    QCOMPARE(page.readings(), QStringList({"", "", ""}));
     QCOMPARE(page.rows("listWidget_3"), QStringList());
     QVERIFY(page->historyPixmaps.isEmpty());
 }
@@ -243,7 +196,7 @@ void CamerWindowHistoryTest::pictureFollowsTheLabel()
     const Page page;
     page->resize(900, 640);
     page->show();
-    open(page, first); // while its tab is behind
+    page.openRecord(first); // while its tab is behind
     page.get<QTabWidget>("tabWidget")->setCurrentIndex(1);
     const auto* const label = page.get<QLabel>("label_18");
     const auto fits = [label] {
@@ -263,7 +216,7 @@ void CamerWindowHistoryTest::openRecordComesToRest()
     const Page page;
     page->show();
     page.get<QTabWidget>("tabWidget")->setCurrentIndex(1);
-    open(page, first);
+    page.openRecord(first);
     QVERIFY(QTest::qWaitForWindowExposed(&page.window()));
     page->grab();
     const qint64 key = page.get<QLabel>("label_18")->pixmap()->cacheKey();

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // The records that alarms leave.
-#include "resources/resources.h"
 #include "simulator/simulated_camera.h"
 #include "tests/live/page.h"
 #include "tests/support/test_run.h"
@@ -15,13 +14,6 @@ namespace {
 constexpr float over = 50.0F;
 constexpr float below = 39.9F;
 
-/// A page whose alarm is on, records included.
-void enable(const Page& page)
-{
-    page.check("checkBox");
-    page.check("checkBox_3");
-}
-
 QByteArray contents(const QString& path)
 {
     QFile file(path);
@@ -30,19 +22,11 @@ QByteArray contents(const QString& path)
 
 } // namespace
 
-class CamerWindowRecordsTest : public QObject
+class CamerWindowRecordsTest : public testing::PageTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { resources::load(); }
-    void init()
-    {
-        testing::profile().reset();
-        m_folder = testing::makeFolder();
-        testing::configure(QStringLiteral("EN"), m_folder);
-    }
-
     void recordOnTheEighthFrame();
     void oneFrameBelowStartsAnew();
     void countsOnlyWhileRecordsAreWanted();
@@ -59,13 +43,12 @@ private:
     {
         return QDir(m_folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
     }
-    QString m_folder;
 };
 
 void CamerWindowRecordsTest::recordOnTheEighthFrame()
 {
     const Page page;
-    enable(page);
+    page.enableAlarm();
     for (int i = 1; i <= 7; ++i) {
         page.frame(over);
         QCOMPARE(page->overCount, i);
@@ -85,7 +68,7 @@ void CamerWindowRecordsTest::recordOnTheEighthFrame()
 void CamerWindowRecordsTest::oneFrameBelowStartsAnew()
 {
     const Page page;
-    enable(page);
+    page.enableAlarm();
     page.frames(7, over);
     page.frame(below);
     page.frames(7, over);
@@ -119,7 +102,7 @@ void CamerWindowRecordsTest::filesBoxAloneDoesNotCount()
 void CamerWindowRecordsTest::recheckingTheFilesBoxStartsAnew()
 {
     const Page page;
-    enable(page);
+    page.enableAlarm();
     page.frames(8, over);
     page.check("checkBox_3", false);
     QCOMPARE(page->overCount, 0);
@@ -133,7 +116,7 @@ void CamerWindowRecordsTest::recheckingTheFilesBoxStartsAnew()
 void CamerWindowRecordsTest::ringThatIsNotFullMakesNoRecord()
 {
     const Page page;
-    enable(page);
+    page.enableAlarm();
     page.frames(6, over);
     for (int i = 0; i < 2; ++i)
         page->updat_temp(over, 40, 1); // numbers without a picture
@@ -147,7 +130,7 @@ void CamerWindowRecordsTest::ringThatIsNotFullMakesNoRecord()
 void CamerWindowRecordsTest::textHoldsTheReadOutsOfTheFrameBefore()
 {
     const Page page;
-    enable(page);
+    page.enableAlarm();
     for (int i = 1; i <= 9; ++i)
         page.frame(50.0F + float(i), 40.0F + float(i), 0.9F + 0.01F * float(i));
     QCOMPARE(page->lastAlarmText, QStringLiteral("57.0,47.0,0.97"));
@@ -158,7 +141,7 @@ void CamerWindowRecordsTest::textHoldsTheReadOutsOfTheFrameBefore()
 void CamerWindowRecordsTest::picturesAreTheLastSeven()
 {
     const Page page;
-    enable(page);
+    page.enableAlarm();
     page.frame(below, 40, 1, 250);
     for (int i = 1; i <= 9; ++i)
         page.frame(over, 40, 1, 20 * i);
@@ -176,7 +159,7 @@ void CamerWindowRecordsTest::throughTheCamera()
     auto& camera = simulator::SimulatedCamera::instance();
     camera.plug();
     const Page page;
-    enable(page);
+    page.enableAlarm();
     for (int i = 1; i <= 8; ++i) {
         QCOMPARE(recordsOnDisk(), QStringList());
         QVERIFY(camera.deliver(testing::grayFrame(20 * i, 700 + i, 600, 95)));
@@ -193,7 +176,7 @@ void CamerWindowRecordsTest::throughTheCamera()
 void CamerWindowRecordsTest::everyRecordIsKept()
 {
     const Page page;
-    enable(page);
+    page.enableAlarm();
     for (int excursion = 1; excursion <= 5; ++excursion) {
         page.frames(8, 50.0F + float(excursion));
         page.frame(below);

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // Pictures that are taken of the live page.
-#include "resources/resources.h"
 #include "tests/live/camera.h"
 #include "tests/support/dialogs.h"
 #include "tests/support/test_run.h"
@@ -16,25 +15,11 @@ using testing::camera;
 using testing::deliver;
 using testing::Page;
 
-class CamerWindowSaveTest : public QObject
+class CamerWindowSaveTest : public testing::CameraPageTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        resources::load();
-        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    }
-    void init()
-    {
-        testing::profile().reset();
-        m_folder = testing::makeFolder();
-        testing::configure(QStringLiteral("EN"), m_folder);
-        camera().plug();
-    }
-    void cleanup() { camera().unplug(); }
-
     void savesAPicture_data();
     void savesAPicture();
     void saveDialogProposesAName();
@@ -43,9 +28,6 @@ private slots:
     void withoutPictureNothingIsWritten();
     void savedPictureIsScaledSmoothly();
     void pageMayGoWhileTheDialogIsOpen();
-
-private:
-    QString m_folder;
 };
 
 void CamerWindowSaveTest::savesAPicture_data()

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // The live page on the whole screen and back, and its end.
-#include "resources/resources.h"
 #include "tests/live/camera.h"
 #include "tests/live/owner.h"
 #include "tests/support/test_run.h"
@@ -30,25 +29,11 @@ void doubleClick(const Page& page, const QPoint& inPicture)
 
 } // namespace
 
-class CamerWindowScreenTest : public QObject
+class CamerWindowScreenTest : public testing::CameraPageTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        resources::load();
-        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    }
-    void init()
-    {
-        testing::profile().reset();
-        m_folder = testing::makeFolder();
-        testing::configure(QStringLiteral("EN"), m_folder);
-        camera().plug();
-    }
-    void cleanup() { camera().unplug(); }
-
     void doubleClickStrictlyInside_data();
     void doubleClickStrictlyInside();
     void doubleClickOnThePictureItself();
@@ -59,9 +44,6 @@ private slots:
     void afterClosingSlotsDoNothing();
     void endsInAnyOrder_data();
     void endsInAnyOrder();
-
-private:
-    QString m_folder;
 };
 
 void CamerWindowScreenTest::doubleClickStrictlyInside_data()

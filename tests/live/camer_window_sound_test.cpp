@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // The spoken alarm.
-#include "resources/resources.h"
 #include "tests/live/page.h"
 #include "tests/support/test_run.h"
 
@@ -15,35 +14,19 @@ namespace {
 constexpr float over = 50.0F;
 constexpr float below = 39.9F;
 
-void pressStop(const Page& page)
-{
-    QTest::mouseClick(page.get<QPushButton>("pushButton_2"), Qt::LeftButton);
-}
-
 } // namespace
 
-class CamerWindowSoundTest : public QObject
+class CamerWindowSoundTest : public testing::PageTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { resources::load(); }
-    void init()
-    {
-        testing::profile().reset();
-        m_folder = testing::makeFolder();
-        testing::configure(QStringLiteral("EN"), m_folder);
-    }
-
     void soundOfTheLanguage_data();
     void soundOfTheLanguage();
     void soundPlaysWhileTheAlarmLasts();
     void soundIsNotRestartedWhilePlaying();
     void tickWithoutSoundStopsThePlayer();
     void disablingLeavesThePlayer();
-
-private:
-    QString m_folder;
 };
 
 void CamerWindowSoundTest::soundOfTheLanguage_data()
@@ -92,7 +75,7 @@ void CamerWindowSoundTest::soundPlaysWhileTheAlarmLasts()
     page.frame(over);
     page->timeout_warn();
     QTRY_COMPARE(page->player->state(), QMediaPlayer::PlayingState);
-    pressStop(page);
+    page.pressStop();
     QCOMPARE(page->player->state(), QMediaPlayer::StoppedState);
 }
 

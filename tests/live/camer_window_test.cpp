@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "resources/resources.h"
 #include "tests/live/camera.h"
 #include "tests/live/owner.h"
 #include "tests/support/test_run.h"
@@ -18,25 +17,11 @@ using testing::deliver;
 using testing::Owner;
 using testing::Page;
 
-class CamerWindowTest : public QObject
+class CamerWindowTest : public testing::CameraPageTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        resources::load();
-        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    }
-    void init()
-    {
-        testing::profile().reset();
-        m_folder = testing::makeFolder();
-        testing::configure(QStringLiteral("EN"), m_folder);
-        camera().plug();
-    }
-    void cleanup() { camera().unplug(); }
-
     void signalsAndSlotsInTheirOrder();
     void formTextsAndRoles_data();
     void formTextsAndRoles();
@@ -46,9 +31,6 @@ private slots:
     void tabWidths();
     void withoutConfiguration();
     void reachesTheOwner();
-
-private:
-    QString m_folder;
 };
 
 void CamerWindowTest::signalsAndSlotsInTheirOrder()

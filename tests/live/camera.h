@@ -18,4 +18,16 @@ inline bool deliver(int luma = 100, int maximumTenths = 362)
     return camera().deliver(grayFrame(luma, maximumTenths, 340, 97));
 }
 
+/// The page meets an imager.
+class CameraPageTest : public PageTest
+{
+protected:
+    void init() override
+    {
+        PageTest::init();
+        camera().plug();
+    }
+    void cleanup() override { camera().unplug(); }
+};
+
 } // namespace testing

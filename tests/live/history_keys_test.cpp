@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 // The history by keyboard, and records that are not what the program writes.
-#include "resources/resources.h"
 #include "tests/live/page.h"
 #include "tests/support/test_run.h"
 
@@ -16,34 +15,19 @@ namespace {
 const QStringList names{QStringLiteral("20240101120000"), QStringLiteral("20240202120000"),
                         QStringLiteral("20240303120000")};
 
-QColor shown(const Page& page)
-{
-    const QPixmap* const pixmap = page.get<QLabel>("label_18")->pixmap();
-    return pixmap && !pixmap->isNull() ? pixmap->toImage().pixelColor(pixmap->rect().center())
-                                       : QColor(Qt::black);
-}
-
 } // namespace
 
-class HistoryKeysTest : public QObject
+class HistoryKeysTest : public testing::PageTest
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase() { resources::load(); }
-    void init()
+    void init() override
     {
-        testing::profile().reset();
-        m_folder = testing::makeFolder();
-        testing::configure(QStringLiteral("EN"), m_folder);
+        PageTest::init();
         for (int i = 0; i < names.size(); ++i) {
             const QColor colour = QColor::fromHsv(60 * i, 255, 255).toRgb();
-            QImage picture(240, 320, QImage::Format_RGB888);
-            picture.fill(colour);
-            QVERIFY(QDir(m_folder).mkdir(names[i]));
-            QVERIFY(picture.save(path(names[i] + QStringLiteral("/a.png"))));
-            testing::putFile(path(names[i] + QStringLiteral(".ini")),
-                             QByteArray::number(i) + ",x,y");
+            putRecord(names[i], QByteArray::number(i) + ",x,y", {{"a.png", colour}});
             m_colours[names[i]] = colour;
         }
     }
@@ -219,8 +203,6 @@ private slots:
     }
 
 private:
-    QString path(const QString& name) const { return m_folder + QLatin1Char('/') + name; }
-
     /// The list of the history tab, which comes to the front.
     static QListWidget& historyOf(const Page& page)
     {
@@ -234,10 +216,9 @@ private:
         const QString name = page.get<QListWidget>("listWidget_2")->item(row)->text();
         QCOMPARE(page.text("label_12"), QString::number(names.indexOf(name)));
         QCOMPARE(page.rows("listWidget_3"), QStringList(QStringLiteral("a.png")));
-        QCOMPARE(shown(page), m_colours[name]);
+        QCOMPARE(page.shownRecordColour(), m_colours[name]);
     }
 
-    QString m_folder;
     QMap<QString, QColor> m_colours;
 };
 

@@ -2,6 +2,7 @@
 #include "tests/live/page.h"
 
 #include "config/configuration_record.h"
+#include "resources/resources.h"
 #include "tests/support/test_run.h"
 
 #include <QCheckBox>
@@ -10,6 +11,8 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QListWidget>
+#include <QPushButton>
+#include <QTest>
 
 namespace testing {
 
@@ -78,6 +81,63 @@ void Page::frames(int count, float maximum, float threshold) const
 {
     for (int i = 0; i < count; ++i)
         frame(maximum, threshold);
+}
+
+void Page::enableAlarm() const
+{
+    check("checkBox");
+    check("checkBox_3");
+}
+
+void Page::pressStop() const
+{
+    QTest::mouseClick(get<QPushButton>("pushButton_2"), Qt::LeftButton);
+}
+
+void Page::openRecord(const QString& name) const
+{
+    auto* const list = get<QListWidget>("listWidget_2");
+    const QList<QListWidgetItem*> items = list->findItems(name, Qt::MatchExactly);
+    QCOMPARE(items.size(), 1);
+    emit list->itemClicked(items.first());
+}
+
+QStringList Page::readings() const
+{
+    return {text("label_12"), text("label_14"), text("label_16")};
+}
+
+QColor Page::shownRecordColour() const
+{
+    const QPixmap* const pixmap = get<QLabel>("label_18")->pixmap();
+    if (!pixmap || pixmap->isNull())
+        return Qt::black;
+    return pixmap->toImage().pixelColor(pixmap->rect().center());
+}
+
+void PageTest::initTestCase()
+{
+    resources::load();
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+}
+
+void PageTest::init()
+{
+    profile().reset();
+    m_folder = makeFolder();
+    configure(QStringLiteral("EN"), m_folder);
+}
+
+void PageTest::putRecord(const QString& name, const QByteArray& text,
+                         const QMap<QString, QColor>& pictures) const
+{
+    QDir(m_folder).mkpath(name);
+    putFile(path(name + QStringLiteral(".ini")), text);
+    for (auto it = pictures.begin(); it != pictures.end(); ++it) {
+        QImage picture(240, 320, QImage::Format_RGB888);
+        picture.fill(it.value());
+        QVERIFY(picture.save(path(name + QLatin1Char('/') + it.key()), "png"));
+    }
 }
 
 } // namespace testing

@@ -8,7 +8,9 @@
 #include "tests/support/parts.h"
 
 #include <QByteArray>
+#include <QColor>
 #include <QEvent>
+#include <QMap>
 #include <QString>
 #include <QWidget>
 
@@ -49,6 +51,14 @@ public:
     QString style(const char* label) const;
     QStringList rows(const char* list) const;
     void check(const char* box, bool checked = true) const;
+    /// Switches the alarm on, records included.
+    void enableAlarm() const;
+    void pressStop() const;
+    /// Opens a record by a click, as the list of the history reports it.
+    void openRecord(const QString& name) const;
+    QStringList readings() const; ///< of the open record
+    /// In the middle of its picture, black when there is none.
+    QColor shownRecordColour() const;
 
     /// A picture and its numbers, as one frame brings them.
     void frame(float maximum, float threshold = 40.0F, float emissivity = 0.95F,
@@ -58,6 +68,24 @@ public:
 
 private:
     std::unique_ptr<camer_window> m_window;
+};
+
+/// Each test of the live page has a profile of its own, in English, and an empty folder of records.
+class PageTest : public QObject
+{
+    Q_OBJECT
+
+protected:
+    QString path(const QString& name) const { return m_folder + QLatin1Char('/') + name; }
+    void putRecord(const QString& name, const QByteArray& text,
+                   const QMap<QString, QColor>& pictures) const;
+
+    QString m_folder; ///< of records
+
+protected slots:
+    void initTestCase();
+    virtual void init();
+    virtual void cleanup() {}
 };
 
 } // namespace testing
