@@ -37,7 +37,7 @@ bool operator==(const ToolsState& left, const ToolsState& right)
 
 ToolsState stateOf(const ToolEditing& tools)
 {
-    return finished({tools, tools.toolColor});
+    return finished({static_cast<const Tools&>(tools), tools.toolColor});
 }
 
 void restore(ToolEditing& tools, const ToolsState& state)

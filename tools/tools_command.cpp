@@ -52,17 +52,17 @@ QByteArray table(const QString& file, const Tools& tools)
 struct Action
 {
     const char* name;
-    bool takesMany = false;                                     ///< files
-    QByteArray (*text)(const QString&, const Tools&) = nullptr; ///< of each; none: a file is made
+    QByteArray (*text)(const QString&, const Tools&); ///< of each file; none: a file is made
+    bool takesMany;                                   ///< files
     bool transforms = false;
     bool converts = false;
 };
 
-constexpr Action actions[] = {{"check", true, checked},
-                              {"print", true, table},
-                              {"convert", false, nullptr, false, true},
-                              {"combine", true},
-                              {"transform", false, nullptr, true}};
+constexpr Action actions[] = {{"check", checked, true},
+                              {"print", table, true},
+                              {"convert", nullptr, false, false, true},
+                              {"combine", nullptr, true},
+                              {"transform", nullptr, false, true}};
 
 /// The row of the action named first; of an unknown one, which is refused, the first row.
 const Action& readAction(CommandLine& line)

@@ -107,7 +107,7 @@ private:
     void record()
     {
         const ToolsState now = stateOf(m_tools);
-        m_history.record({m_tools, m_tools.toolColor});
+        m_history.record({static_cast<const Tools&>(m_tools), m_tools.toolColor});
         if (isStep(m_states.at(m_present), now)) {
             m_states.resize(m_present + 1);
             m_states.append(now);

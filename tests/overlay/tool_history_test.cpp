@@ -117,9 +117,9 @@ private slots:
         ToolEditing tools = withAPreparedPoint();
         history.restart(stateOf(tools));
         setMode(tools, int(ToolMode::Circle));
-        history.record({tools, tools.toolColor});
+        history.record({static_cast<const Tools&>(tools), tools.toolColor});
         press(tools, {50, 50}, [] {}); // pressed, not dragged
-        history.record({tools, tools.toolColor});
+        history.record({static_cast<const Tools&>(tools), tools.toolColor});
         QVERIFY(!history.canUndo());
     }
 
