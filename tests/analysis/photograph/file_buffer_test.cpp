@@ -93,7 +93,7 @@ private slots:
     }
 
 private:
-    const testing::Folder m_folder;
+    testing::Folder m_folder;
 };
 
 int main(int argc, char** argv)
