@@ -102,7 +102,6 @@ void ControlPanel::passOnChanges()
     const auto intChanged = QOverload<int>::of(&QSpinBox::valueChanged);
     const auto doubleChanged = QOverload<double>::of(&QDoubleSpinBox::valueChanged);
     connect(m_ui->sceneCombo, indexChanged, this, user(&SimulatedImager::setScene));
-    connect(m_ui->paletteCombo, indexChanged, this, user(&SimulatedImager::setPalette));
     connect(m_ui->hotSpotSlider, &QSlider::valueChanged, this, user(&SimulatedImager::setHotSpot));
     connect(m_ui->hotSpotSpin, doubleChanged, this, user(&SimulatedImager::setHotSpot));
     connect(m_ui->heatButton, &QPushButton::clicked, &m_imager,
@@ -110,11 +109,11 @@ void ControlPanel::passOnChanges()
     connect(m_ui->coolButton, &QPushButton::clicked, &m_imager,
             &SimulatedImager::coolBelowThreshold);
     connect(m_ui->thresholdSpin, doubleChanged, this, user(&SimulatedImager::setThreshold));
-    connect(m_ui->emissivitySpin, doubleChanged, this, user(&SimulatedImager::setEmissivity));
     connect(m_ui->frameRateSpin, intChanged, this, user(&SimulatedImager::setFrameRate));
 
-    for (QComboBox* combo : {m_ui->layoutCombo, m_ui->unitCombo})
+    for (QComboBox* combo : {m_ui->paletteCombo, m_ui->layoutCombo, m_ui->unitCombo})
         connect(combo, indexChanged, this, &ControlPanel::applyPhotographSettings);
+    connect(m_ui->emissivitySpin, doubleChanged, this, &ControlPanel::applyPhotographSettings);
     connect(m_ui->machineSpin, intChanged, this, &ControlPanel::applyPhotographSettings);
     connect(m_ui->photographButton, &QPushButton::clicked, this, &ControlPanel::takePhotograph);
 }
@@ -149,16 +148,16 @@ void ControlPanel::showSettings()
     m_ui->errorButton->setEnabled(m_imager.isCameraPlugged());
 
     m_ui->sceneCombo->setCurrentIndex(int(m_imager.scene()));
-    m_ui->paletteCombo->setCurrentIndex(int(m_imager.palette()));
     m_ui->hotSpotSlider->setValue(int(std::lround(m_imager.hotSpot())));
     m_ui->hotSpotSpin->setValue(m_imager.hotSpot());
     showReachedHotSpot();
 
     m_ui->thresholdSpin->setValue(m_imager.threshold());
-    m_ui->emissivitySpin->setValue(m_imager.emissivity());
     m_ui->frameRateSpin->setValue(m_imager.frameRate());
 
     const PhotographSettings& photographs = m_imager.photographSettings();
+    m_ui->paletteCombo->setCurrentIndex(int(photographs.palette));
+    m_ui->emissivitySpin->setValue(photographs.emissivity);
     m_ui->layoutCombo->setCurrentIndex(indexOfLayout(photographs));
     m_ui->unitCombo->setCurrentIndex(photographs.fahrenheit ? 1 : 0);
     m_ui->machineSpin->setValue(int(photographs.machineId));
@@ -177,6 +176,8 @@ void ControlPanel::applyPhotographSettings()
     if (m_isShowing)
         return;
     PhotographSettings settings = m_imager.photographSettings();
+    settings.palette = Palette(m_ui->paletteCombo->currentIndex());
+    settings.emissivity = m_ui->emissivitySpin->value();
     const FileLayout& layout = fileLayouts.at(std::size_t(m_ui->layoutCombo->currentIndex()));
     settings.modelIndex = layout.modelIndex;
     settings.raw = layout.raw;

@@ -78,18 +78,6 @@ void SimulatedImager::setThreshold(double celsius)
     emit changed();
 }
 
-void SimulatedImager::setEmissivity(double emissivity)
-{
-    m_photograph.emissivity = emissivity;
-    emit changed();
-}
-
-void SimulatedImager::setPalette(Palette palette)
-{
-    m_photograph.palette = palette;
-    emit changed();
-}
-
 void SimulatedImager::setFrameRate(int framesPerSecond)
 {
     m_frameRate = std::max(0, framesPerSecond);
@@ -107,8 +95,8 @@ bool SimulatedImager::sendFrame()
 {
     pass(1.0 / (m_frameRate > 0 ? m_frameRate : usualFrameRate));
     const bool isSent = SimulatedCamera::instance().isRunning() &&
-                        SimulatedCamera::instance().deliver(
-                            liveFrame(field(), palette(), m_threshold, m_photograph.emissivity));
+                        SimulatedCamera::instance().deliver(liveFrame(
+                            field(), m_photograph.palette, m_threshold, m_photograph.emissivity));
     if (isSent)
         emit frameSent();
     return isSent;

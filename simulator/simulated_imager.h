@@ -52,16 +52,13 @@ public:
 
     double threshold() const { return m_threshold; } ///< °C
     void setThreshold(double celsius);
-    double emissivity() const { return m_photograph.emissivity; }
-    void setEmissivity(double emissivity);
-    Palette palette() const { return m_photograph.palette; }
-    void setPalette(Palette palette);
 
     static constexpr int usualFrameRate = 25;
     int frameRate() const { return m_frameRate; } ///< frames per second
     /// 0 stops the timer; frames then come from sendFrame() alone.
     void setFrameRate(int framesPerSecond);
 
+    /// Palette and emissivity hold for the live picture, too.
     const PhotographSettings& photographSettings() const { return m_photograph; }
     void setPhotographSettings(const PhotographSettings& settings);
 
@@ -91,7 +88,7 @@ private:
 
     std::unique_ptr<Scene> m_scene;
     SimulatedDisk m_disk;
-    PhotographSettings m_photograph; ///< its palette and emissivity hold for the live picture too
+    PhotographSettings m_photograph;
     double m_seconds = 0;
     double m_hotSpot = 0;
     double m_reachedHotSpot = 0;

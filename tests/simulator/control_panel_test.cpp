@@ -128,7 +128,7 @@ void ControlPanelTest::setsTheScene()
     QCOMPARE(m_imager->hotSpot(), 41.3);
     QCOMPARE(widget<QSlider>("hotSpotSlider").value(), 41);
     widget<QComboBox>("paletteCombo").setCurrentIndex(2);
-    QCOMPARE(m_imager->palette(), simulator::Palette::WhiteHot);
+    QCOMPARE(m_imager->photographSettings().palette, simulator::Palette::WhiteHot);
 }
 
 void ControlPanelTest::heatsAndCools()
@@ -145,7 +145,7 @@ void ControlPanelTest::setsTheImager()
     widget<QDoubleSpinBox>("thresholdSpin").setValue(88.8);
     QCOMPARE(m_imager->threshold(), 88.8);
     widget<QDoubleSpinBox>("emissivitySpin").setValue(0.61);
-    QCOMPARE(m_imager->emissivity(), 0.61);
+    QCOMPARE(m_imager->photographSettings().emissivity, 0.61);
     widget<QSpinBox>("frameRateSpin").setValue(0);
     QCOMPARE(m_imager->frameRate(), 0);
     QCOMPARE(widget<QSpinBox>("frameRateSpin").text(), QStringLiteral("Paused"));

@@ -92,7 +92,9 @@ void SimulatedImagerTest::wordsFollowTheSettings()
 {
     Cast cast;
     cast.imager.setThreshold(81.3);
-    cast.imager.setEmissivity(0.62);
+    simulator::PhotographSettings settings;
+    settings.emissivity = 0.62;
+    cast.imager.setPhotographSettings(settings);
     cast.imager.sendFrame();
     QCOMPARE(word(cast.surface.pictures.last(), 153602), 813);
     QCOMPARE(word(cast.surface.pictures.last(), 153604), 62);
