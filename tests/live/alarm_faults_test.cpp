@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "live/alarm_records.h"
-#include "simulator/simulated_camera.h"
-#include "tests/live/page.h"
+#include "tests/live/camera.h"
 #include "tests/support/dialogs.h"
+#include "tests/support/full_disk.h"
 #include "tests/support/test_run.h"
 
 #include <QDir>
@@ -11,37 +11,13 @@
 #include <QListWidget>
 #include <QPushButton>
 
-#include <csignal>
-#include <sys/resource.h>
-
 using testing::Page;
 
 namespace {
 
 const QDir::Filters everything = QDir::AllEntries | QDir::NoDotAndDotDot;
 
-/// While this lives, no file can grow beyond so many bytes: writing stops in the middle of a
-/// picture, as on a disk that fills up.
-class FullDisk
-{
-public:
-    explicit FullDisk(rlim_t bytes)
-    {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        rlimit limit = m_before;
-        limit.rlim_cur = bytes;
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &m_before); }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-
-private:
-    rlimit m_before{};
-};
-
-constexpr rlim_t diskBytes = 8000; // between a plain picture's file and a busy one's
+constexpr int diskBytes = 8000; // between a plain picture's file and a busy one's
 
 /// A frame whose picture is plain, or so busy that its file is large.
 QByteArray frame(bool busy, int maximumTenths)
@@ -55,7 +31,7 @@ QByteArray frame(bool busy, int maximumTenths)
 
 bool deliver(bool busy, int maximumTenths)
 {
-    return simulator::SimulatedCamera::instance().deliver(frame(busy, maximumTenths));
+    return testing::camera().deliver(frame(busy, maximumTenths));
 }
 
 /// Eight frames above and one below; the pictures from `firstBusy` on are busy.
@@ -78,23 +54,20 @@ void verifyAlive(const Page& page)
 
 } // namespace
 
-class AlarmFaultsTest : public QObject
+class AlarmFaultsTest : public testing::CameraPageTest
 {
     Q_OBJECT
 
 private slots:
-    void init()
+    void init() override
     {
-        testing::profile().reset();
-        m_folder = testing::makeFolder();
-        testing::configure(QStringLiteral("EN"), m_folder);
+        CameraPageTest::init();
         m_working = std::make_unique<QTemporaryDir>();
         QVERIFY(QDir::setCurrent(m_working->path()));
-        simulator::SimulatedCamera::instance().plug();
     }
-    void cleanup()
+    void cleanup() override
     {
-        simulator::SimulatedCamera::instance().unplug();
+        CameraPageTest::cleanup();
         // Whatever went wrong, nothing is left where the program was started.
         QCOMPARE(QDir::current().entryList(everything), QStringList());
     }
@@ -112,8 +85,7 @@ private slots:
     {
         QFETCH(QString, folder);
         const Page page;
-        page.check("checkBox");
-        page.check("checkBox_3");
+        page.enableAlarm();
         page->setAlarmFolder(folder);
         excursion();
         excursion();
@@ -125,8 +97,7 @@ private slots:
     void removedWhileRunning()
     {
         const Page page;
-        page.check("checkBox");
-        page.check("checkBox_3");
+        page.enableAlarm();
         excursion();
         QCOMPARE(page.rows("listWidget").size(), 1);
         QVERIFY(QDir(m_folder).removeRecursively());
@@ -145,12 +116,11 @@ private slots:
     void diskFillsUpBehindThreePictures()
     {
         const Page page;
-        page.check("checkBox");
-        page.check("checkBox_3");
+        page.enableAlarm();
         excursion();
         const QString whole = page.rows("listWidget").value(0);
         {
-            const FullDisk full(diskBytes);
+            const testing::FullDisk full(diskBytes);
             excursion(5); // the ring holds frames 2 to 8: three plain pictures, four busy ones
             verifyAlive(page);
         }
@@ -175,10 +145,9 @@ private slots:
     void fullDiskLeavesNothing()
     {
         const Page page;
-        page.check("checkBox");
-        page.check("checkBox_3");
+        page.enableAlarm();
         {
-            const FullDisk full(diskBytes);
+            const testing::FullDisk full(diskBytes);
             excursion(1);
             verifyAlive(page);
         }
@@ -198,7 +167,7 @@ private slots:
             static_cast<QDialog&>(dialog).done(QDialog::Accepted);
         });
         {
-            const FullDisk full(diskBytes);
+            const testing::FullDisk full(diskBytes);
             page.get<QPushButton>("pushButton")->click();
         }
         QVERIFY(answer.wasAsked());
@@ -213,8 +182,7 @@ private slots:
         const QString whole = testing::makeFolder(QStringLiteral("alarms,cut"));
         testing::configure(QStringLiteral("EN"), whole);
         const Page page;
-        page.check("checkBox");
-        page.check("checkBox_3");
+        page.enableAlarm();
         QCOMPARE(page->historyFolder, m_folder);
         excursion();
         QCOMPARE(live::recordNames(m_folder).size(), 1);
@@ -238,8 +206,7 @@ private slots:
         const QString folder = testing::makeFolder(name);
         testing::configure(QStringLiteral("EN"), folder);
         const Page page;
-        page.check("checkBox");
-        page.check("checkBox_3");
+        page.enableAlarm();
         excursion();
         QCOMPARE(page.rows("listWidget").size(), 1);
         auto* const list = page.get<QListWidget>("listWidget_2");
@@ -249,7 +216,6 @@ private slots:
     }
 
 private:
-    QString m_folder;
     std::unique_ptr<QTemporaryDir> m_working;
 };
 

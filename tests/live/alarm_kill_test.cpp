@@ -2,6 +2,7 @@
 // Records of a program that is killed in between, and pipes that would make one wait for ever.
 #include "live/alarm_records.h"
 #include "tests/live/page.h"
+#include "tests/live/seven_pictures.h"
 #include "tests/support/test_run.h"
 
 #include <QDir>
@@ -17,20 +18,11 @@
 #include <unistd.h>
 
 using testing::Page;
+using testing::sevenPictures;
 
 namespace {
 
 const QString recordName = QStringLiteral("20240101120000");
-
-QList<QImage> sevenPictures()
-{
-    QImage picture(240, 320, QImage::Format_RGB888);
-    picture.fill(Qt::darkYellow);
-    QList<QImage> pictures;
-    for (int i = 0; i < live::recordPictures; ++i)
-        pictures.append(picture);
-    return pictures;
-}
 
 /// A program that does nothing but write records until it is killed.
 class Writer
@@ -64,18 +56,11 @@ void makePipe(const QString& path)
 
 } // namespace
 
-class AlarmKillTest : public QObject
+class AlarmKillTest : public testing::PageTest
 {
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        testing::profile().reset();
-        m_folder = testing::makeFolder();
-        testing::configure(QStringLiteral("EN"), m_folder);
-    }
-
     /// Killed at another picture each time: what is listed is whole, what is not whole is gone with
     /// the next record.
     void killedAtAnyPicture_data()
@@ -187,8 +172,6 @@ private slots:
     }
 
 private:
-    QString path(const QString& name) const { return m_folder + QLatin1Char('/') + name; }
-
     /// True when a record in the making has that many files.
     bool makingHas(int files) const
     {
@@ -209,8 +192,6 @@ private:
             QVERIFY(!live::recordReadings(m_folder, name).emissivity.isEmpty());
         }
     }
-
-    QString m_folder;
 };
 
 int main(int argc, char** argv)

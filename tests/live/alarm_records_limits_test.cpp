@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Records beside what others have put into the history folder, and in every country.
 #include "live/alarm_records.h"
+#include "tests/live/seven_pictures.h"
 #include "tests/support/folder.h"
 #include "tests/support/test_run.h"
 
@@ -8,6 +9,8 @@
 #include <QFile>
 #include <QGuiApplication>
 #include <QProcess>
+
+using testing::sevenPictures;
 
 namespace {
 
@@ -17,22 +20,6 @@ const char* const writeRecordAndEnd = "--write-record-and-end";
 const QDateTime moment(QDate(2024, 3, 9), QTime(7, 5, 2, 999));
 const QString momentName = QStringLiteral("20240309070502");
 const QString readOuts = QStringLiteral("36.2,34.0,0.97");
-
-QList<QImage> sevenPictures()
-{
-    QImage picture(240, 320, QImage::Format_RGB888);
-    picture.fill(Qt::darkYellow);
-    QList<QImage> pictures;
-    for (int i = 0; i < live::recordPictures; ++i)
-        pictures.append(picture);
-    return pictures;
-}
-
-QByteArray contents(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
-}
 
 /// Hidden ones, too.
 QStringList everythingIn(const QString& folder)
@@ -115,7 +102,8 @@ private slots:
                          "a picture");
         testing::putFile(path(whole + QStringLiteral(".ini")), "1,2,3");
         QCOMPARE(live::writeRecord(path(), moment, sevenPictures(), readOuts), momentName);
-        QCOMPARE(contents(path(whole + QStringLiteral("/F1.JPG"))), QByteArray("a picture"));
+        QCOMPARE(testing::fileBytes(path(whole + QStringLiteral("/F1.JPG"))),
+                 QByteArray("a picture"));
         QCOMPARE(live::recordReadings(path(), whole).threshold, QStringLiteral("2"));
         QVERIFY(!QFile::exists(path(QStringLiteral(".making"))));
     }
@@ -125,7 +113,7 @@ private slots:
         const QString theirs = path(QStringLiteral(".making/20230101000000/holiday.jpg"));
         testing::putFile(theirs, "theirs");
         QCOMPARE(live::writeRecord(path(), moment, sevenPictures(), readOuts), momentName);
-        QCOMPARE(contents(theirs), QByteArray("theirs"));
+        QCOMPARE(testing::fileBytes(theirs), QByteArray("theirs"));
     }
 
     void theTextIsTheLastLineOfTheFirstFourKilobytes_data()

@@ -4,7 +4,6 @@
 #include "tests/support/test_run.h"
 
 #include <QDir>
-#include <QFile>
 #include <QImageReader>
 
 namespace {
@@ -22,12 +21,6 @@ QList<QImage> grays(int count)
         pictures.append(picture);
     }
     return pictures;
-}
-
-QByteArray contents(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
 }
 
 QStringList everythingIn(const QString& folder)
@@ -49,7 +42,8 @@ private slots:
         QCOMPARE(live::writeRecord(path(), moment, grays(7), readOuts), momentName);
         QCOMPARE(everythingIn(path()),
                  QStringList({momentName, momentName + QStringLiteral(".ini")}));
-        QCOMPARE(contents(path(momentName + QStringLiteral(".ini"))), QByteArray("36.2,34.0,0.97"));
+        QCOMPARE(testing::fileBytes(path(momentName + QStringLiteral(".ini"))),
+                 QByteArray("36.2,34.0,0.97"));
         const QStringList oldestFirst{"F1.JPG", "F2.JPG", "F3.JPG", "Alarm.JPG",
                                       "L1.JPG", "L2.JPG", "L3.JPG"};
         QCOMPARE(everythingIn(path(momentName)).size(), 7);
@@ -70,14 +64,15 @@ private slots:
                 pictures[0].setPixelColor(x, y, QColor(x, y & 0xFF, (x * y) & 0xFF));
         live::writeRecord(path(), moment, pictures, readOuts);
         QVERIFY(pictures[0].save(path(QStringLiteral("expected.jpg")), "jpg", -1));
-        QCOMPARE(contents(path(momentName + QStringLiteral("/F1.JPG"))),
-                 contents(path(QStringLiteral("expected.jpg"))));
+        QCOMPARE(testing::fileBytes(path(momentName + QStringLiteral("/F1.JPG"))),
+                 testing::fileBytes(path(QStringLiteral("expected.jpg"))));
     }
 
     void textIsUtf8()
     {
         live::writeRecord(path(), moment, grays(7), QStringLiteral("36,2,°"));
-        QCOMPARE(contents(path(momentName + QStringLiteral(".ini"))), QByteArray("36,2,\xC2\xB0"));
+        QCOMPARE(testing::fileBytes(path(momentName + QStringLiteral(".ini"))),
+                 QByteArray("36,2,\xC2\xB0"));
     }
 
     void oneSecondHoldsManyRecords()
@@ -87,7 +82,7 @@ private slots:
             QCOMPARE(live::writeRecord(path(), moment, pictures, QLatin1String(name)),
                      QLatin1String(name));
         for (const char* name : {"20240309070502", "20240309070502-2", "20240309070502-3"}) {
-            QCOMPARE(contents(path(QLatin1String(name) + QStringLiteral(".ini"))),
+            QCOMPARE(testing::fileBytes(path(QLatin1String(name) + QStringLiteral(".ini"))),
                      QByteArray(name));
             QCOMPARE(live::recordPicturePaths(path(), QLatin1String(name)).size(), 7);
         }
@@ -99,7 +94,7 @@ private slots:
         testing::putFile(path(momentName + QStringLiteral(".ini")), "older and longer than ours");
         QCOMPARE(live::writeRecord(path(), moment, grays(7), readOuts),
                  momentName + QStringLiteral("-2"));
-        QCOMPARE(contents(path(momentName + QStringLiteral(".ini"))),
+        QCOMPARE(testing::fileBytes(path(momentName + QStringLiteral(".ini"))),
                  QByteArray("older and longer than ours"));
     }
 
@@ -108,7 +103,7 @@ private slots:
         testing::putFile(path(momentName), "a file");
         QCOMPARE(live::writeRecord(path(), moment, grays(7), readOuts),
                  momentName + QStringLiteral("-2"));
-        QCOMPARE(contents(path(momentName)), QByteArray("a file"));
+        QCOMPARE(testing::fileBytes(path(momentName)), QByteArray("a file"));
     }
 
     void onlySevenPicturesMakeARecord()

@@ -5,7 +5,6 @@
 #include "tests/support/test_run.h"
 
 #include <QDir>
-#include <QFile>
 
 using testing::Page;
 
@@ -13,12 +12,6 @@ namespace {
 
 constexpr float over = 50.0F;
 constexpr float below = 39.9F;
-
-QByteArray contents(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(none)");
-}
 
 } // namespace
 
@@ -134,7 +127,8 @@ void CamerWindowRecordsTest::textHoldsTheReadOutsOfTheFrameBefore()
     for (int i = 1; i <= 9; ++i)
         page.frame(50.0F + float(i), 40.0F + float(i), 0.9F + 0.01F * float(i));
     QCOMPARE(page->lastAlarmText, QStringLiteral("57.0,47.0,0.97"));
-    QCOMPARE(contents(m_folder + QLatin1Char('/') + recordsOnDisk()[0] + QStringLiteral(".ini")),
+    QCOMPARE(testing::fileBytes(m_folder + QLatin1Char('/') + recordsOnDisk()[0] +
+                                QStringLiteral(".ini")),
              QByteArray("57.0,47.0,0.97"));
 }
 
@@ -184,7 +178,8 @@ void CamerWindowRecordsTest::everyRecordIsKept()
     QCOMPARE(recordsOnDisk().size(), 5);
     QSet<QByteArray> texts;
     for (const QString& name : recordsOnDisk()) {
-        texts.insert(contents(m_folder + QLatin1Char('/') + name + QStringLiteral(".ini")));
+        texts.insert(
+            testing::fileBytes(m_folder + QLatin1Char('/') + name + QStringLiteral(".ini")));
         QCOMPARE(QDir(m_folder + QLatin1Char('/') + name).entryList(QDir::Files).size(), 7);
     }
     QCOMPARE(texts, QSet<QByteArray>({"51.0,40.0,0.95", "52.0,40.0,0.95", "53.0,40.0,0.95",
