@@ -80,6 +80,11 @@ void addToolFiles(const Seeds& seeds)
                   "rectangles": [[9, 8, 7, 6], [0, 0, 240, 320]], "circles": [[120, 160, 5]],
                   "names": ["P3", "L0", "R1", "R2", "C7"],
                   "colours": {"L0": "#0000ff", "C7": "#80123456"}})");
+    seeds.add("tool_table_fuzz", QStringLiteral("commas"),
+              "name,type,x1,y1,x2,y2,radius,colour\nP3,point,1,2,,,,#0000ff\n"
+              "R0,rectangle,9,8,7,6,,\nC7,circle,120,160,,,5,#80123456\n");
+    seeds.add("tool_table_fuzz", QStringLiteral("another-order"),
+              "name;type;x1;y1;x2;y2;radius;colour\r\n\"L1\";line;1;2;3;4\r\nL0;line;5;6;7;8\r\n");
     seeds.add("tool_file_fuzz", QStringLiteral("outside"), R"({"circles": [[1, 2, 3]]})");
 }
 
