@@ -37,17 +37,15 @@ ToolNumbers numbersOfNew(ToolKind kind)
     constexpr int x = imageColumns / 2;
     constexpr int y = imageRows / 2;
     constexpr int reach = 40;
-    switch (kind) {
-    case ToolKind::Point:
-        return {x, y};
-    case ToolKind::Line:
-        return {x - reach, y, x + reach, y};
-    case ToolKind::Rect:
-        return {x - reach, y - reach, x + reach, y + reach};
-    case ToolKind::Circle:
-        return {x, y, reach};
-    }
-    return {};
+    ToolNumbers numbers{};
+    Tools tools;
+    visitTool(tools, kind, insertNew(tools, kind, {}), [&](auto& tool) {
+        place(tool, x, y);
+        if (rowOf(kind).isDragged)
+            drag(tool, x + reach, y + reach);
+        numbers = numbersOf(tool);
+    });
+    return numbers;
 }
 
 void addTool(Tools& tools, ToolKind kind, const ToolNumbers& numbers, const QColor& colour)

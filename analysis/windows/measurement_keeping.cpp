@@ -52,23 +52,29 @@ void MeasurementKeeping::choose()
         warn(tr("此选择未能保存。"));
         return;
     }
+    m_key = presentKey();
     keep();
 }
 
 void MeasurementKeeping::bringBack()
 {
-    Analysis_Widget& window = m_commands.window();
-    m_key.clear();
-    if (window.readCount <= 0)
-        return;
-    const QString key = KeptMeasurements::keyOf(window.fileBuffer.bytes(), window.readCount);
+    m_key.clear(); // nothing is kept of what happens here
     if (config::keepMeasurements()) {
+        const QString key = presentKey();
         if (const std::optional<Measurements> kept = m_store.find(key))
             show(*kept);
+        m_key = key;
     }
-    m_path = window.path;
-    m_key = key;
     m_known = now();
+}
+
+/// Empty without a photograph.
+QString MeasurementKeeping::presentKey() const
+{
+    const Analysis_Widget& window = m_commands.window();
+    return window.readCount > 0
+               ? KeptMeasurements::keyOf(window.fileBuffer.bytes(), window.readCount)
+               : QString();
 }
 
 Measurements MeasurementKeeping::now() const
@@ -99,13 +105,14 @@ void MeasurementKeeping::keep()
         warn(tr("测量未能与照片一起保存。\n%1").arg(outcomeText(outcome)));
 }
 
-/// A photograph that was opened past bringBack() is another one.
+/// While another photograph is being read into the window, its unit changes with the tools still
+/// those of the one before.
 files::Outcome MeasurementKeeping::store()
 {
-    if (m_key.isEmpty() || m_path != m_commands.window().path || !config::keepMeasurements())
+    if (m_key.isEmpty() || !config::keepMeasurements())
         return {};
     const Measurements measurements = now();
-    if (measurements == m_known)
+    if (measurements == m_known || m_key != presentKey())
         return {};
     const files::Outcome outcome = m_store.keep(m_key, measurements);
     if (outcome.isGood())

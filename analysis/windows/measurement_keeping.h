@@ -38,6 +38,7 @@ public:
 
 private:
     void choose();
+    QString presentKey() const;
     Measurements now() const;
     void show(const Measurements& measurements);
     void keep();
@@ -48,8 +49,7 @@ private:
     const Ui::Analysis_Widget& m_form;
     QAction* m_choice;
     const KeptMeasurements m_store;
-    QString m_path;       ///< of the photograph that m_key stands for
-    QString m_key;        ///< empty: nothing is kept
+    QString m_key;        ///< of the photograph; empty until the user has made the choice
     Measurements m_known; ///< as kept; at first as the photograph opens
     QPointer<QMessageBox> m_warning;
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/test_run.h"
 
+#include "config/choices.h"
 #include "config/configuration_record.h"
 
 #include <QDir>
@@ -54,6 +55,9 @@ void Profile::reset()
     QDir documents(config::documentsPath());
     documents.removeRecursively();
     documents.mkpath(QStringLiteral("."));
+    QDir(home() + QStringLiteral("/.local/share/thermadesk")).removeRecursively();
+    if (qEnvironmentVariableIsSet("THERMADESK_TEST_KEEPING"))
+        config::setKeepMeasurements(true);
 }
 
 Profile& profile()

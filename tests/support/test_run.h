@@ -19,7 +19,8 @@ public:
     Profile();
     /// The home folder, without a trailing slash.
     QString home() const { return m_home.path(); }
-    /// Back to a fresh profile: documents folder there and empty.
+    /// Back to a fresh profile: documents folder there and empty, nothing kept of photographs; with
+    /// THERMADESK_TEST_KEEPING set, the user has chosen to keep measurements with photographs.
     void reset();
 
 private:

@@ -2,6 +2,8 @@
 #pragma once
 
 #include "analysis/windows/analysis_widget.h"
+#include "analysis/windows/measurement_keeping.h"
+#include "analysis/windows/tool_commands.h"
 #include "overlay/my_color_slider.h"
 #include "overlay/my_label.h"
 #include "resources/resources.h"
@@ -83,10 +85,14 @@ protected:
         putFile(path, bytes);
         return path;
     }
+    /// As the browser opens photographs.
     bool load(const Shot& shot)
     {
-        return window->set_Image_addr(file(QStringLiteral("shot.bmp"), photographBytes(shot)),
-                                      shot.model);
+        const bool isRead = window->set_Image_addr(
+            file(QStringLiteral("shot.bmp"), photographBytes(shot)), shot.model);
+        if (isRead)
+            window->commands().keeping().bringBack();
+        return isRead;
     }
     void show()
     {

@@ -80,7 +80,6 @@ class MeasurementKeepingTest : public testing::BrowserTest
     /// The browser over two photographs, and nothing kept yet.
     void begin()
     {
-        QDir(keptFolder()).removeRecursively();
         const QString root = addDrive(QStringLiteral("disk"));
         addPhotographs(root, {QStringLiteral("a.bmp")}, shot(100));
         addPhotographs(root, {QStringLiteral("b.bmp")}, shot(200));
@@ -228,6 +227,23 @@ private slots:
         open(QStringLiteral("a.bmp"));
         QVERIFY(shown > 1);
         QCOMPARE(tools().rowCount(), 1);
+    }
+
+    /// What was kept once stays, for the day when the choice is made again.
+    void switchedOffNothingComesBack()
+    {
+        begin();
+        config::setKeepMeasurements(true);
+        open(QStringLiteral("a.bmp"));
+        placePoint();
+        choice()->trigger();
+        QVERIFY(!config::keepMeasurements());
+        open(QStringLiteral("b.bmp"));
+        open(QStringLiteral("a.bmp"));
+        QCOMPARE(tools().rowCount(), 0);
+        QCOMPARE(keptFiles().size(), 1);
+        choice()->trigger();
+        QCOMPARE(KeptMeasurements().find(keptFiles().first().left(64))->tools.pointList.size(), 1);
     }
 
     void whatIsDraggedWhenTheWindowGoesIsKeptToo()
