@@ -64,7 +64,7 @@ protected:
     }
     static QLayout* modeArea(const MainWindow& window)
     {
-        return window.findChild<QLayout*>(QStringLiteral("horizontalLayout"));
+        return part<QLayout>(&window, "horizontalLayout");
     }
     static QAction* fileAction(const MainWindow& window, Entry entry)
     {
