@@ -61,7 +61,7 @@ void ToolCommands::addOwnEntries()
          }});
     add({Group::History,
          tr("撤销"),
-         [this] { goTo(m_history.undo()); },
+         [this] { goTo(&overlay::ToolHistory::undo); },
          {QKeySequence(Qt::CTRL + Qt::Key_Z)},
          Focus::Window,
          Menus::Both,
@@ -70,7 +70,7 @@ void ToolCommands::addOwnEntries()
          }});
     add({Group::History,
          tr("重做"),
-         [this] { goTo(m_history.redo()); },
+         [this] { goTo(&overlay::ToolHistory::redo); },
          {QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_Z), QKeySequence(Qt::CTRL + Qt::Key_Y)},
          Focus::Window,
          Menus::Both,
@@ -156,11 +156,11 @@ void ToolCommands::edit(const std::function<void(ToolEditing&)>& editing)
     show();
 }
 
-void ToolCommands::goTo(const overlay::ToolsState& state)
+void ToolCommands::goTo(const overlay::ToolsState& (overlay::ToolHistory::*step)())
 {
     if (m_isHeld || m_isStepOpen)
         return;
-    overlay::restore(*m_form.label, state);
+    overlay::restore(*m_form.label, (m_history.*step)());
     show();
     tell();
 }

@@ -123,7 +123,7 @@ private:
 
     void addOwnEntries();
     void listen(QAction* action, Focus focus);
-    void goTo(const overlay::ToolsState& state);
+    void goTo(const overlay::ToolsState& (overlay::ToolHistory::*step)());
     void show();
     void tell();
     void showTableMenu(const QPoint& place);

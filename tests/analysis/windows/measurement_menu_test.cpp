@@ -3,13 +3,11 @@
 #include "overlay/tool_file.h"
 #include "tests/analysis/windows/tool_keys_test.h"
 #include "tests/support/dialogs.h"
+#include "tests/support/full_disk.h"
 
 #include <QClipboard>
 #include <QMenu>
 #include <QMessageBox>
-
-#include <csignal>
-#include <sys/resource.h>
 
 using testing::flat;
 
@@ -156,17 +154,12 @@ private slots:
         start();
         drawOneOfEach();
         folder->write(QStringLiteral("a.json"), "old");
-        rlimit before{};
-        getrlimit(RLIMIT_FSIZE, &before);
-        const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-        rlimit limit = before;
-        limit.rlim_cur = 10;
-        setrlimit(RLIMIT_FSIZE, &limit);
         const testing::Answer<QMessageBox> replace(
             [](QMessageBox& box) { box.button(QMessageBox::Yes)->click(); });
-        choose("保存测量...", *folder / QStringLiteral("a.json"));
-        setrlimit(RLIMIT_FSIZE, &before);
-        std::signal(SIGXFSZ, handler);
+        {
+            const testing::FullDisk full(10);
+            choose("保存测量...", *folder / QStringLiteral("a.json"));
+        }
         QVERIFY(replace.wasAsked());
         takeMessage(QStringLiteral("文件“") +
                     QDir::toNativeSeparators(*folder / QStringLiteral("a.json")) +

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/analysis/windows/tool_keys_test.h"
 
-using testing::flat;
-
 /// Plain keys in the analysis window, on the picture and beside it.
 class PictureKeysTest : public testing::ToolKeysTest
 {

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "analysis/windows/tool_commands.h"
 #include "tests/analysis/windows/tool_keys_test.h"
+#include "tests/support/dialogs.h"
 
-#include <QMenu>
-
-using testing::flat;
-using testing::placedPoint;
+#include <QColorDialog>
+#include <QPointer>
+#include <QSignalSpy>
 
 /// Undo and redo, keys and context menus of the analysis window.
 class ToolCommandsTest : public testing::ToolKeysTest
@@ -51,6 +51,216 @@ private slots:
         QCOMPARE(names(), QString());
         redo();
         QCOMPARE(names(), QString());
+    }
+
+    void deletingIsAStepWhoeverDeletes()
+    {
+        begin();
+        drawOneOfEach();
+        key(Qt::Key_Delete);
+        QCOMPARE(names(), QStringLiteral("P0 L0 R0"));
+        QCOMPARE(marked(), QString());
+        key(Qt::Key_Delete); // nothing is selected
+        QCOMPARE(names(), QStringLiteral("P0 L0 R0"));
+        undo();
+        QCOMPARE(names(), QStringLiteral("P0 L0 R0 C0"));
+        QCOMPARE(marked(), QStringLiteral("C0"));
+        key(Qt::Key_PageUp);
+        click("pushButton_3");
+        QCOMPARE(names(), QStringLiteral("P0 L0 C0"));
+        undo();
+        QCOMPARE(names(), QStringLiteral("P0 L0 R0 C0"));
+        QCOMPARE(marked(), QStringLiteral("R0"));
+        QCOMPARE(label().currentType, QStringLiteral("R"));
+        redo();
+        QCOMPARE(names(), QStringLiteral("P0 L0 C0"));
+    }
+
+    void deletingByKeyKeepsTheToolInHand()
+    {
+        begin();
+        drawOneOfEach();
+        key(Qt::Key_2);
+        key(Qt::Key_Delete);
+        QVERIFY(child<QPushButton>("pushButton_8").hasFocus());
+        QTest::mouseClick(&label(), Qt::LeftButton, {}, at(20, 30));
+        QCOMPARE(names(), QStringLiteral("P0 P1 L0 R0"));
+    }
+
+    void theColourOfNewToolsIsAStep()
+    {
+        begin();
+        const testing::Answer<QColorDialog> blue([](QColorDialog& dialog) {
+            dialog.setCurrentColor(Qt::blue);
+            dialog.accept();
+        });
+        click("pushButton_4");
+        QVERIFY(blue.wasAsked());
+        QApplication::setActiveWindow(window.get());
+        QVERIFY(label().toolColor == QColor(Qt::blue));
+        window->setFocus(-1);
+        undo();
+        QVERIFY(label().toolColor == QColor(Qt::red));
+        redo();
+        QVERIFY(label().toolColor == QColor(Qt::blue));
+    }
+
+    void aPressThatPlacesNothingIsNoStep()
+    {
+        begin();
+        drawOneOfEach();
+        click("pushButton_7");
+        QTest::mouseClick(&label(), Qt::LeftButton, {}, at(20, 30)); // no line without a drag
+        click("pushButton_9");
+        QTest::mouseClick(&label(), Qt::LeftButton, {}, at(150, 30)); // selects
+        QCOMPARE(marked(), QStringLiteral("R0"));
+        undo();
+        QCOMPARE(names(), QStringLiteral("P0 L0 R0"));
+        redo();
+        QCOMPARE(names(), QStringLiteral("P0 L0 R0 C0"));
+        QCOMPARE(marked(), QStringLiteral("R0"));
+    }
+
+    void inAModeThatPlacesToolsOneStandsPreparedAfterUndo()
+    {
+        begin();
+        drawOneOfEach();
+        click("pushButton_8");
+        QTest::mouseClick(&label(), Qt::LeftButton, {}, at(20, 30));
+        undo();
+        QCOMPARE(names(), QStringLiteral("P0 L0 R0 C0"));
+        QTest::mouseClick(&label(), Qt::LeftButton, {}, at(40, 50));
+        QCOMPARE(names(), QStringLiteral("P0 P1 L0 R0 C0"));
+        QCOMPARE(marked(), QStringLiteral("P1"));
+        QCOMPARE(label().pointList.at(0).x, 50);
+        QCOMPARE(label().pointList.at(1).x, 40);
+    }
+
+    void whileAButtonIsHeldNothingElseChangesTools()
+    {
+        begin();
+        drawOneOfEach();
+        click("pushButton_6");
+        QTest::mousePress(&label(), Qt::LeftButton, {}, at(10, 100));
+        QMouseEvent move(QEvent::MouseMove, at(60, 150), Qt::NoButton, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(&label(), &move);
+        undo();
+        key(Qt::Key_Delete);
+        key(Qt::Key_Left);
+        key(Qt::Key_PageUp);
+        key(Qt::Key_Escape);
+        QCOMPARE(label().toolMode, 4);
+        QVERIFY(label().drawing);
+        QTest::mouseRelease(&label(), Qt::LeftButton, {}, at(60, 150));
+        QCOMPARE(names(), QStringLiteral("P0 L0 R0 R1 C0"));
+        QCOMPARE(label().rectList.at(1).x2, 60);
+        undo();
+        QCOMPARE(names(), QStringLiteral("P0 L0 R0 C0"));
+    }
+
+    void theMenuOfThePictureOpensInSelectModeOnly()
+    {
+        begin();
+        drawOneOfEach();
+        QMenu* menu = rightClick(label(), at(150, 30));
+        QVERIFY(menu);
+        // The press itself has selected, as ever.
+        QCOMPARE(marked(), QStringLiteral("R0"));
+        QVERIFY(greyed(*menu).startsWith(QStringLiteral("重做")));
+        choose(menu, "删除所选工具");
+        QCOMPARE(names(), QStringLiteral("P0 L0 C0"));
+        undo();
+        for (const char* button :
+             {"pushButton_8", "pushButton_7", "pushButton_6", "pushButton_5"}) {
+            click(button);
+            QVERIFY(!rightClick(label(), at(20, 30)));
+            QTest::mouseRelease(&label(), Qt::RightButton, {}, at(20, 30));
+        }
+        QCOMPARE(names(), QStringLiteral("P0 P1 L0 R0 C0")); // the right button places tools, too
+    }
+
+    void theMenuOfThePictureOpensByKeyAsWell()
+    {
+        begin();
+        drawOneOfEach();
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, {}, {});
+        QApplication::sendEvent(&child<QPushButton>("pushButton_9"), &event);
+        QVERIFY(openMenu());
+        QVERIFY(entryOf(*openMenu(), "上一张照片"));
+        openMenu()->close();
+    }
+
+    void anEmptyWindowHasNothingToUndoOrDelete()
+    {
+        begin();
+        QMenu* menu = rightClick(label(), at(150, 30));
+        QVERIFY(greyed(*menu).startsWith(QStringLiteral("删除所选工具 撤销 重做 保存测量...")));
+        menu->close();
+        // What was not possible in the menu works by key once it is.
+        drawOneOfEach();
+        key(Qt::Key_Delete);
+        undo();
+        QCOMPARE(names(), QStringLiteral("P0 L0 R0 C0"));
+    }
+
+    void theMenuOfTheTableMeansTheMarkedRow()
+    {
+        begin();
+        drawOneOfEach();
+        tools().setFocus(Qt::MouseFocusReason);
+        const QPoint row = tools().visualItemRect(tools().item(1, 0)).center();
+        QMenu* menu = rightClick(*tools().viewport(), row);
+        QVERIFY(menu);
+        QVERIFY(!entryOf(*menu, "上一张照片"));
+        choose(menu, "删除所选工具");
+        QCOMPARE(names(), QStringLiteral("P0 R0 C0"));
+        // And so does the key.
+        tools().selectRow(1);
+        key(Qt::Key_Delete);
+        QCOMPARE(names(), QStringLiteral("P0 C0"));
+        undo();
+        QCOMPARE(names(), QStringLiteral("P0 R0 C0"));
+        QCOMPARE(marked(), QStringLiteral("R0"));
+    }
+
+    void theRowThatIsMarkedIsCountedWithoutTheToolInPreparation()
+    {
+        begin();
+        drawOneOfEach();
+        click("pushButton_8");
+        QTest::mouseClick(&label(), Qt::LeftButton, {}, at(20, 30));
+        tools().setFocus(Qt::MouseFocusReason);
+        tools().selectRow(0);
+        key(Qt::Key_Delete); // P0: the next to be placed stands first in the list
+        QCOMPARE(names(), QStringLiteral("P1 L0 R0 C0"));
+        tools().selectRow(0);
+        key(Qt::Key_Delete);
+        QCOMPARE(names(), QStringLiteral("L0 R0 C0"));
+    }
+
+    void whoHangsInIsToldOfEachChange()
+    {
+        begin();
+        QSignalSpy changed(&window->commands(), &analysis::ToolCommands::changed);
+        drawOneOfEach();
+        QCOMPARE(changed.count(), 4);
+        undo();
+        QCOMPARE(changed.count(), 5);
+        key(Qt::Key_Left);
+        QCOMPARE(changed.count(), 6);
+        window->commands().record();
+        undo();
+        undo();
+        QCOMPARE(changed.count(), 8);
+    }
+
+    void theWindowMayGoWhileItsMenuIsOpen()
+    {
+        begin();
+        const QPointer<QMenu> menu = rightClick(label(), at(150, 30));
+        QVERIFY(menu);
+        window.reset();
+        QVERIFY(!menu);
     }
 };
 

@@ -3,9 +3,12 @@
 
 #include "tests/analysis/windows/analysis_window_test.h"
 
+#include <QContextMenuEvent>
+#include <QMenu>
+
 namespace testing {
 
-/// The analysis window as somebody at the keyboard has it.
+/// The analysis window as somebody at the keyboard has it, and its context menus.
 class ToolKeysTest : public AnalysisWindowTest
 {
     Q_OBJECT
@@ -27,6 +30,43 @@ protected:
     }
     void undo() const { key(Qt::Key_Z, Qt::ControlModifier); }
     void redo() const { key(Qt::Key_Y, Qt::ControlModifier); }
+    /// What a right click opens; null where nothing does.
+    static QMenu* rightClick(QWidget& widget, const QPoint& place)
+    {
+        QTest::mousePress(&widget, Qt::RightButton, {}, place);
+        QContextMenuEvent event(QContextMenuEvent::Mouse, place, widget.mapToGlobal(place));
+        QApplication::sendEvent(&widget, &event);
+        return openMenu();
+    }
+    static QMenu* openMenu() { return qobject_cast<QMenu*>(QApplication::activePopupWidget()); }
+    static QAction* entryOf(const QMenu& menu, const char* text)
+    {
+        for (QAction* action : menu.actions()) {
+            if (action->text() == QString::fromUtf8(text))
+                return action;
+        }
+        return nullptr;
+    }
+    /// As a click on the entry does.
+    static void choose(QMenu* menu, const char* text)
+    {
+        QAction* entry = entryOf(*menu, text);
+        QVERIFY2(entry, text);
+        QVERIFY2(entry->isEnabled(), text);
+        menu->close();
+        entry->trigger();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    /// The entries that are not possible now.
+    static QString greyed(const QMenu& menu)
+    {
+        QStringList texts;
+        for (const QAction* action : menu.actions()) {
+            if (!action->isSeparator() && !action->isEnabled())
+                texts.append(action->text());
+        }
+        return texts.join(QLatin1Char(' '));
+    }
     /// As the table lists them.
     QString names() const
     {
