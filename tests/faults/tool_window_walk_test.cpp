@@ -56,6 +56,7 @@ private:
             verifyTools();
             if (roll(20) == 0)
                 QCoreApplication::processEvents();
+            QApplication::setActiveWindow(window.get()); // as a window manager does
         }
         while (m_present > 0 && !QTest::currentTestFailed())
             undoOne();
@@ -76,7 +77,7 @@ private:
         else if (kind < 70)
             moveSomething();
         else if (kind < 85)
-            key(oneOf(m_keys));
+            pressKey(oneOf(m_keys));
         else if (kind < 92)
             useButtons();
         else if (kind < 96)
@@ -134,8 +135,10 @@ private:
     /// A gesture of either button, in whichever mode, with keys pressed meanwhile.
     void drawSomething()
     {
-        if (roll(2) == 0)
+        if (roll(2) == 0) {
             click(oneOf(m_modeButtons));
+            note(); // where a tool that was only prepared goes, the selection can move on
+        }
         const Qt::MouseButton button = roll(8) == 0 ? Qt::RightButton : Qt::LeftButton;
         QTest::mousePress(&label(), button, {}, anywhere());
         QPoint place;
@@ -175,7 +178,6 @@ private:
                 dialog.accept();
             });
             click("pushButton_4");
-            QApplication::setActiveWindow(window.get());
         } else if (kind == 2) {
             unit().setCurrentIndex(roll(2));
         } else {
@@ -188,11 +190,28 @@ private:
         if (tools().rowCount() == 0)
             return;
         const QRect row = tools().visualItemRect(tools().item(roll(tools().rowCount()), 0));
+        tools().setFocus(Qt::MouseFocusReason);
         QTest::mouseClick(tools().viewport(), Qt::LeftButton, {}, row.center());
+        note();
         for (int keys = roll(4); keys > 0; --keys)
             key(oneOf(m_arrows));
         if (roll(3) == 0)
-            key(Qt::Key_Delete);
+            pressKey(Qt::Key_Delete);
+    }
+
+    /// In the table, Delete first selects the tool that is marked there, and undo selects it again.
+    void pressKey(Qt::Key pressed)
+    {
+        if (pressed == Qt::Key_Delete && window->focusWidget() == &tools()) {
+            Tools& present = m_states[m_present].tools;
+            forEachList(present, [&](const auto& list) {
+                for (int index = 0; index < list.size(); ++index) {
+                    if (list.at(index).name == marked())
+                        select(present, kindOf(list), index);
+                }
+            });
+        }
+        key(pressed);
     }
 
     void useMenu()
