@@ -27,6 +27,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <stdexcept>
 
 namespace tour {
 namespace {
@@ -138,37 +139,113 @@ void typeCoordinates(Walk& walk)
                [&] { return !walk.window().findChild<CoordinatesDialog*>(); });
 }
 
-QMenu* openPictureMenu(Walk& walk)
+/// By a click of the right button on the middle of the widget's upper left quarter.
+QMenu& openMenuOf(Walk& walk, QWidget& widget)
 {
-    auto& label = find<MyLabel>(analysisOf(walk), "label");
-    const QPoint place(label.width() / 4, label.height() / 8);
-    QContextMenuEvent event(QContextMenuEvent::Mouse, place, label.mapToGlobal(place));
-    QCoreApplication::sendEvent(&label, &event);
+    const QPoint place(widget.width() / 4, widget.height() / 8);
+    QContextMenuEvent event(QContextMenuEvent::Mouse, place, widget.mapToGlobal(place));
+    QCoreApplication::sendEvent(&widget, &event);
     const auto menu = [] {
         return qobject_cast<QMenu*>(QApplication::activePopupWidget());
     };
-    walk.await("the picture's menu opens", [&] { return menu() && menu()->isVisible(); });
-    return menu();
+    walk.await("a context menu opens", [&] { return menu() && menu()->isVisible(); });
+    return *menu();
+}
+
+void chooseFrom(Walk& walk, QMenu& menu, const QString& text)
+{
+    for (QAction* action : menu.actions()) {
+        if (action->text() == text) {
+            walk.click(menu, menu.actionGeometry(action));
+            return;
+        }
+    }
+    throw std::runtime_error(qPrintable(text));
+}
+
+void chooseForMeasurements(Walk& walk, const char* text)
+{
+    chooseFrom(walk, openMenuOf(walk, find<MyLabel>(analysisOf(walk), "label")),
+               QCoreApplication::translate("MeasurementMenu", text));
+}
+
+/// Answers the file dialog that is open, or opens.
+void nameAFile(Walk& walk, const QString& path)
+{
+    auto& name = find<QLineEdit>(shownDialog<QFileDialog>(walk), "fileNameEdit");
+    name.setText(path);
+    QTest::keyClick(&name, Qt::Key_Return);
+    walk.await("the dialog is gone", [&] { return !walk.window().findChild<QFileDialog*>(); });
+}
+
+void workByKeys(Walk& walk)
+{
+    auto& label = find<MyLabel>(analysisOf(walk), "label");
+    auto& table = find<QTableWidget>(analysisOf(walk), "tableWidget");
+    const auto press = [&](Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QTest::keyClick(analysisOf(walk).focusWidget(), key, modifiers);
+    };
+    press(Qt::Key_Escape);
+    press(Qt::Key_PageUp);
+    walk.await("the rectangle is selected",
+               [&] { return label.currentType == QLatin1String("R"); });
+    const overlay::RectTool drawn = label.rectList.first();
+    press(Qt::Key_Right, Qt::ShiftModifier);
+    press(Qt::Key_Down, Qt::AltModifier);
+    walk.await("it has moved, and its corner", [&] {
+        const overlay::RectTool& moved = label.rectList.first();
+        return moved.x1 == drawn.x1 + 10 && moved.y1 == drawn.y1 && moved.y2 == drawn.y2 + 1;
+    });
+    press(Qt::Key_Delete);
+    walk.await("it is gone", [&] { return table.rowCount() == 3; });
+    for (int steps = 0; steps < 3; ++steps)
+        press(Qt::Key_Z, Qt::ControlModifier);
+    walk.await("all is as before",
+               [&] { return table.rowCount() == 4 && label.rectList.first() == drawn; });
+    table.setFocus();
+    openMenuOf(walk, *table.viewport());
+    walk.shoot("table-menu");
+    QApplication::activePopupWidget()->close();
+}
+
+/// Saved in a file, and carried over to the next photograph.
+void keepMeasurements(Walk& walk)
+{
+    const QString path = QFileInfo(walk.pathOf(QStringLiteral("tools.json"))).absoluteFilePath();
+    chooseForMeasurements(walk, "保存测量...");
+    nameAFile(walk, path);
+    walk.await("the measurements are there", [&] { return QFileInfo(path).size() > 0; });
+    const auto step = [&](Qt::Key key, int index) {
+        QTest::keyClick(analysisOf(walk).focusWidget(), key, Qt::ControlModifier);
+        walk.await("the other photograph opens", [&] {
+            return analysisOf(walk).fileName == browser(walk).fileNames.value(index) &&
+                   analysisOf(walk).isVisible();
+        });
+    };
+    const auto rows = [&] {
+        return find<QTableWidget>(analysisOf(walk), "tableWidget").rowCount();
+    };
+    step(Qt::Key_PageDown, 1);
+    chooseForMeasurements(walk, "应用上次的测量");
+    walk.await("it is measured in the same way", [&] { return rows() == 4; });
+    walk.shoot("next-photograph");
+    step(Qt::Key_PageUp, 0);
+    chooseForMeasurements(walk, "加载测量...");
+    nameAFile(walk, path);
+    walk.await("the measurements are back", [&] { return rows() == 4; });
 }
 
 void savePicture(Walk& walk)
 {
-    QMenu* menu = openPictureMenu(walk);
+    QMenu& menu = openMenuOf(walk, find<MyLabel>(analysisOf(walk), "label"));
     walk.shoot("picture-menu");
-    const QString text = QCoreApplication::translate("ViewMenu", "保存图片...");
-    for (QAction* action : menu->actions()) {
-        if (action->text() == text)
-            walk.click(*menu, menu->actionGeometry(action));
-    }
+    chooseFrom(walk, menu, QCoreApplication::translate("ViewMenu", "保存图片..."));
     auto& how = shownDialog<PictureDialog>(walk);
     walk.click(find<QCheckBox>(how, "values"));
     walk.shoot("save-picture");
     how.accept();
-    auto& where = shownDialog<QFileDialog>(walk);
     const QString path = QFileInfo(walk.pathOf(QStringLiteral("saved.png"))).absoluteFilePath();
-    auto& name = find<QLineEdit>(where, "fileNameEdit");
-    name.setText(path);
-    QTest::keyClick(&name, Qt::Key_Return);
+    nameAFile(walk, path);
     walk.await("the picture is there", [&] { return QFileInfo(path).size() > 0; });
     std::puts(qPrintable(walk.pathOf(QStringLiteral("saved.png"))));
 }
@@ -247,7 +324,9 @@ void takeDiskSteps(Walk& walk)
     openAPhotograph(walk);
     placeTools(walk);
     typeCoordinates(walk);
+    workByKeys(walk);
     savePicture(walk);
+    keepMeasurements(walk);
     changeTheUnit(walk);
     narrowTheSpan(walk);
     writeAReport(walk);
