@@ -3,6 +3,8 @@
 
 #include <QString>
 
+#include <system_error>
+
 namespace files {
 
 /// Why a file, a photograph, or a file made of one could not be had.
@@ -28,5 +30,11 @@ struct Outcome
 
     bool isGood() const { return problem == Problem::None; }
 };
+
+/// The system's reason, in its language.
+inline QString textOf(const std::error_code& error)
+{
+    return QString::fromLocal8Bit(error.message().c_str());
+}
 
 } // namespace files

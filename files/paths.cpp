@@ -10,6 +10,11 @@ QString localPath(const QString& path)
     return path.startsWith(QLatin1Char(':')) ? QStringLiteral("./") + path : path;
 }
 
+std::filesystem::path nativePath(const QString& path)
+{
+    return std::filesystem::u8path(path.toUtf8().constData());
+}
+
 QString pathIn(const QString& folder, const QString& name)
 {
     if (folder.isEmpty())

@@ -185,4 +185,11 @@ QPixmap pictureInFile(const QString& path)
     return {};
 }
 
+QByteArray encoded(const QImage& picture, const char* format)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    return picture.save(&buffer, format) ? bytes : QByteArray();
+}
+
 } // namespace files

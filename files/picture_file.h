@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QByteArray>
 #include <QPixmap>
 #include <QString>
 
@@ -13,5 +14,9 @@ namespace files {
 /// limits: a bitmap of 4096 × 4096 pixels, not packed by run lengths; 4 million pixels of a PNG or
 /// JPEG, 1 million of a progressive JPEG. Texts in a PNG are left out.
 QPixmap pictureInFile(const QString& path);
+
+/// The bytes of a picture file in a format ("png"); empty when there is no such format, or no
+/// picture.
+QByteArray encoded(const QImage& picture, const char* format);
 
 } // namespace files

@@ -15,16 +15,6 @@ namespace fs = std::filesystem;
 namespace files {
 namespace {
 
-fs::path native(const QString& path)
-{
-    return fs::u8path(path.toUtf8().constData());
-}
-
-QString textOf(const std::error_code& error)
-{
-    return QString::fromLocal8Bit(error.message().c_str());
-}
-
 Outcome cannotWrite(std::errc error)
 {
     return {Problem::CannotWrite, textOf(std::make_error_code(error))};
@@ -136,9 +126,9 @@ Outcome WholeFile::finish()
         return {Problem::CannotWrite, textOf(error)};
 
     if (m_existing == Existing::Replace)
-        fs::rename(native(m_aside.fileName()), native(m_path), error);
+        fs::rename(nativePath(m_aside.fileName()), nativePath(m_path), error);
     else
-        error = moveToFreeName(native(m_aside.fileName()), native(m_path));
+        error = moveToFreeName(nativePath(m_aside.fileName()), nativePath(m_path));
     if (error == std::errc::file_exists)
         return {Problem::AlreadyThere, {}};
     if (error)
@@ -150,7 +140,7 @@ Outcome WholeFile::finish()
 Outcome makeFolder(const QString& path)
 {
     std::error_code error;
-    fs::create_directories(native(path), error);
+    fs::create_directories(nativePath(path), error);
     return error ? Outcome{Problem::CannotWrite, textOf(error)} : Outcome();
 }
 

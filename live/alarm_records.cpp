@@ -2,9 +2,9 @@
 #include "live/alarm_records.h"
 
 #include "files/paths.h"
+#include "files/picture_file.h"
 #include "files/reading.h"
 
-#include <QBuffer>
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
@@ -92,14 +92,6 @@ bool writeWhole(const QString& path, const QByteArray& bytes)
     return false;
 }
 
-QByteArray jpeg(const QImage& picture)
-{
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    picture.save(&buffer, "jpg");
-    return bytes;
-}
-
 /// A record in the making.
 class Making
 {
@@ -134,7 +126,7 @@ public:
     {
         int saved = 0;
         for (int i = 0; i < recordPictures; ++i) {
-            const QByteArray bytes = jpeg(pictures[i]);
+            const QByteArray bytes = files::encoded(pictures[i], "jpg");
             if (!bytes.isEmpty() && writeWhole(path(QLatin1String(pictureNames[i])), bytes))
                 ++saved;
         }

@@ -1,22 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "live/saved_picture.h"
 
+#include "files/picture_file.h"
 #include "files/whole_file.h"
 
-#include <QBuffer>
 #include <QFileInfo>
 #include <QMimeDatabase>
 
 namespace live {
 namespace {
-
-/// The bytes of a picture file; empty when there is no such format.
-QByteArray encoded(const QImage& picture, const QByteArray& format)
-{
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    return picture.save(&buffer, format.constData()) ? bytes : QByteArray();
-}
 
 bool namesPictureFormat(const QString& path)
 {
@@ -39,9 +31,9 @@ QString freePngName(const QString& path)
 QString savePicture(const QString& path, const QImage& picture)
 {
     QString name = path;
-    QByteArray bytes = encoded(picture, QFileInfo(path).suffix().toLatin1());
+    QByteArray bytes = files::encoded(picture, QFileInfo(path).suffix().toLatin1().constData());
     if (bytes.isEmpty()) {
-        bytes = encoded(picture, "PNG");
+        bytes = files::encoded(picture, "PNG");
         if (namesPictureFormat(path))
             name = freePngName(path);
     }

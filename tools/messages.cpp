@@ -26,7 +26,7 @@ bool flushOutput()
 void printOutputError()
 {
     printError(QStringLiteral("the output cannot be written: ") +
-               QString::fromLocal8Bit(std::generic_category().message(errno).c_str()));
+               files::textOf({errno, std::generic_category()}));
 }
 
 void printError(const QString& text)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/photograph_list.h"
 
+#include "files/outcome.h"
 #include "files/paths.h"
 
 #include <algorithm>
@@ -10,11 +11,6 @@ namespace fs = std::filesystem;
 
 namespace tools {
 namespace {
-
-fs::path native(const QString& path)
-{
-    return fs::u8path(path.toUtf8().constData());
-}
 
 /// A pipe, a socket or a device is none. What cannot be told, as of a link to nowhere, is left to
 /// whoever reads it, so that its reason is heard.
@@ -39,11 +35,11 @@ public:
         QStringList photographs;
         QStringList folders;
         std::error_code error;
-        fs::directory_iterator entry(native(folder), error);
+        fs::directory_iterator entry(files::nativePath(folder), error);
         for (; !error && entry != fs::directory_iterator(); entry.increment(error))
             sort(*entry, folder, photographs, folders);
         if (error)
-            fail(folder, QString::fromLocal8Bit(error.message().c_str()));
+            fail(folder, files::textOf(error));
 
         photographs.sort();
         folders.sort();
@@ -90,7 +86,7 @@ std::vector<Entry> listPhotographs(const QStringList& paths, bool recursive)
     std::vector<Entry> entries;
     for (const QString& path : paths) {
         std::error_code error;
-        if (!fs::is_directory(native(path), error)) {
+        if (!fs::is_directory(files::nativePath(path), error)) {
             entries.push_back({path, {}, {}, {}});
             continue;
         }

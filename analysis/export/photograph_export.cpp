@@ -6,6 +6,7 @@
 #include "analysis/export/tiff.h"
 #include "analysis/photograph/false_colour.h"
 #include "files/paths.h"
+#include "files/picture_file.h"
 
 #include <QFileInfo>
 
@@ -23,7 +24,8 @@ QByteArray exported(const PhotographReader& reader, const ExportOptions& options
 {
     const Photograph& photograph = reader.photograph();
     if (options.format == ExportFormat::Png)
-        return pngOf(falseColourPicture(photograph, options.startValue, options.endValue));
+        return files::encoded(falseColourPicture(photograph, options.startValue, options.endValue),
+                              "png");
 
     const ShownUnit unit = shownUnit(options.unit, photograph.parameters.unit, reader.isRaw());
     return temperatureFile(photograph, unit, options.format, options.csv);

@@ -6,7 +6,6 @@
 #include "overlay/colour_bar_scale.h"
 #include "overlay/tool_painting.h"
 
-#include <QBuffer>
 #include <QCoreApplication>
 #include <QFontMetrics>
 #include <QPainter>
@@ -215,13 +214,6 @@ QImage pictureWithTools(const ShownPicture& shown, const Geometry& geometry)
 QImage exportedPicture(const ShownPicture& shown, const PictureOptions& options)
 {
     return Composition(shown, options).paint();
-}
-
-QByteArray pngOf(const QImage& picture)
-{
-    QBuffer buffer;
-    picture.save(&buffer, "png");
-    return buffer.data();
 }
 
 } // namespace analysis

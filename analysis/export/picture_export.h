@@ -8,7 +8,6 @@
 #include "overlay/spots.h"
 #include "overlay/tools.h"
 
-#include <QByteArray>
 #include <QImage>
 
 #include <vector>
@@ -52,8 +51,5 @@ struct PictureOptions
 
 /// The picture at a multiple of its own size, on white, with what was asked for round it.
 QImage exportedPicture(const ShownPicture& shown, const PictureOptions& options);
-
-/// The bytes of a PNG file.
-QByteArray pngOf(const QImage& picture);
 
 } // namespace analysis

@@ -48,9 +48,8 @@ std::vector<fs::path> keptFiles(const QString& folder)
 {
     std::vector<fs::path> kept;
     std::error_code error;
-    const fs::path place = fs::u8path(folder.toUtf8().constData());
-    for (fs::directory_iterator entry(place, error), end; !error && entry != end;
-         entry.increment(error)) {
+    for (fs::directory_iterator entry(files::nativePath(folder), error), end;
+         !error && entry != end; entry.increment(error)) {
         const fs::path name = entry->path().filename();
         if (name.stem().u8string().size() == keyLength && name.extension() == ".json")
             kept.push_back(entry->path());

@@ -7,6 +7,7 @@
 #include "config/configuration_record.h"
 #include "dialogs/dialogs.h"
 #include "files/paths.h"
+#include "files/picture_file.h"
 #include "files/whole_file.h"
 
 #include <QClipboard>
@@ -98,9 +99,10 @@ void ViewExport::savePicture(const ShownPicture& shown, const QString& photograp
         const QImage picture = how->picture();
         auto* where = saveDialog(tr("保存图片"), photograph, suffixOf(ExportFormat::Png), window);
         where->setNameFilter(QStringLiteral("PNG (*.png)"));
-        QObject::connect(
-            where, &QFileDialog::fileSelected, window,
-            [picture, window](const QString& path) { write(path, pngOf(picture), window); });
+        QObject::connect(where, &QFileDialog::fileSelected, window,
+                         [picture, window](const QString& path) {
+                             write(path, files::encoded(picture, "png"), window);
+                         });
         dialogs::open(where, page);
     });
     dialogs::open(how, page);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "analysis/export/picture_export.h"
 #include "analysis/photograph/false_colour.h"
+#include "files/picture_file.h"
 #include "overlay/tool_coordinates.h"
 #include "overlay/tool_painting.h"
 #include "tests/support/test_run.h"
@@ -210,7 +211,7 @@ private slots:
     void theBytesAreThePicture()
     {
         const QImage picture = exportedPicture(shown(someTools()), {});
-        const QByteArray bytes = pngOf(picture);
+        const QByteArray bytes = files::encoded(picture, "png");
         QVERIFY(bytes.startsWith("\x89PNG"));
         QCOMPARE(QImage::fromData(bytes).convertToFormat(picture.format()), picture);
     }
