@@ -20,9 +20,9 @@ using overlay::ToolEditing;
 ToolCommands::ToolCommands(Analysis_Widget& window, const Ui::Analysis_Widget& form)
     : m_window(window), m_form(form), m_keys(std::make_unique<PictureKeys>(*this, form))
 {
+    CoordinatesMenu::addTo(*this);
     addOwnEntries();
     MeasurementMenu::addTo(*this);
-    CoordinatesMenu::addTo(*this);
     ViewMenu::addTo(*this, form);
     m_keeping = std::make_unique<MeasurementKeeping>(*this, form);
     m_history.restart(state());

@@ -112,14 +112,14 @@ void placeTools(Walk& walk)
     walk.shoot("tools");
 }
 
-/// A dialog that nobody waits for, as soon as it is on the screen.
+/// A dialog that nobody waits for, as soon as it has the keys.
 template<typename Dialog>
 Dialog& shownDialog(Walk& walk)
 {
     const auto find = [&] {
         return walk.window().findChild<Dialog*>();
     };
-    walk.await("a dialog opens", [&] { return find() && find()->isVisible(); });
+    walk.await("a dialog opens", [&] { return find() && find()->isActiveWindow(); });
     return *find();
 }
 
@@ -185,6 +185,8 @@ void workByKeys(Walk& walk)
     const auto press = [&](Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
         QTest::keyClick(analysisOf(walk).focusWidget(), key, modifiers);
     };
+    walk.await("the keys are the program's again",
+               [&] { return analysisOf(walk).isActiveWindow(); });
     press(Qt::Key_Escape);
     press(Qt::Key_PageUp);
     walk.await("the rectangle is selected",
@@ -216,6 +218,7 @@ void keepMeasurements(Walk& walk)
     nameAFile(walk, path);
     walk.await("the measurements are there", [&] { return QFileInfo(path).size() > 0; });
     const auto step = [&](Qt::Key key, int index) {
+        walk.await("the window is active", [&] { return analysisOf(walk).isActiveWindow(); });
         QTest::keyClick(analysisOf(walk).focusWidget(), key, Qt::ControlModifier);
         walk.await("the other photograph opens", [&] {
             return analysisOf(walk).fileName == browser(walk).fileNames.value(index) &&
