@@ -100,6 +100,7 @@ void CoordinatesDialog::addNumbers(QGridLayout& grid)
         NumberLine& line = m_lines[number];
         line = {new QLabel, new QSpinBox, new QLabel};
         line.caption->setBuddy(line.box);
+        line.box->setLocale(QLocale::c()); // the digits of limits and tables
         line.box->setObjectName(QStringLiteral("number%1").arg(number + 1));
         line.limits->setObjectName(QStringLiteral("limits%1").arg(number + 1));
         const int row = grid.rowCount();
@@ -170,8 +171,10 @@ void CoordinatesDialog::showLimits(const ToolNumbers& numbers, bool possible)
 {
     for (int number = 0; number < rowOf(m_kind).numbers; ++number) {
         const auto limits = limitsOf(m_kind, numbers, number);
-        m_lines[std::size_t(number)].limits->setText(
-            limits ? tr("%1 … %2").arg(limits->first).arg(limits->last) : QString());
+        const NumberLine& line = m_lines[std::size_t(number)];
+        line.limits->setText(limits ? tr("%1 … %2").arg(limits->first).arg(limits->last)
+                                    : QString());
+        line.box->setAccessibleDescription(line.limits->text());
     }
     m_problem->setVisible(!possible);
     m_buttons->button(QDialogButtonBox::Ok)->setEnabled(possible);

@@ -51,7 +51,7 @@ void ViewMenu::addTo(ToolCommands& commands, const Form& form)
     using Group = ToolCommands::Group;
     using Focus = ToolCommands::Focus;
     using Menus = ToolCommands::Menus;
-    const QKeySequence copy(Qt::CTRL + Qt::Key_C);
+    const QKeySequence copy(QKeySequence::Copy);
     const auto hasRows = [&form] {
         return form.tableWidget->rowCount() > 0;
     };

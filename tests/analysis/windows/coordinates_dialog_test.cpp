@@ -100,6 +100,8 @@ private slots:
         QVERIFY(!testing::part<QComboBox>(dialog, "kind")->isEnabled());
         QCOMPARE(shownNumbers(), 3);
         QCOMPARE(box(1).value(), 120);
+        QCOMPARE(box(1).text(), QStringLiteral("120")); // whatever digits the computer has
+        QCOMPARE(box(1).accessibleDescription(), limits(1));
         QCOMPARE(box(2).value(), 160);
         QCOMPARE(box(3).value(), 40);
         QCOMPARE(limits(1), QStringLiteral("41 … 199"));
