@@ -181,7 +181,8 @@ ShownPicture shownPicture(const Photograph& photograph, const ShownUnit& unit,
     ShownPicture shown;
     shown.falseColours = falseColourPicture(photograph, startValue, endValue);
     shown.tools = tools;
-    shown.spots = photograph;
+    const overlay::Spots& spots = photograph;
+    shown.spots = spots;
     shown.colourStrip = colourStrip(photograph.palette);
     shown.startValue = startValue;
     shown.endValue = endValue;

@@ -12,7 +12,6 @@
 
 using analysis::KeptMeasurements;
 using testing::part;
-using testing::photographBytes;
 using testing::Shot;
 
 /// Measurements that come back with their photograph, from the browser on.
@@ -259,6 +258,24 @@ private slots:
         QCOMPARE(keptFiles(), QStringList());
         window.reset();
         QCOMPARE(keptFiles().size(), 1);
+    }
+
+    /// Its unit changes while the tools are still those of the photograph before.
+    void anotherPhotographIsReadIntoTheWindow()
+    {
+        begin();
+        config::setKeepMeasurements(true);
+        Shot other = shot(50);
+        other.unit = 1;
+        addPhotographs(drives.first(), {QStringLiteral("f.bmp")}, other);
+        open(QStringLiteral("a.bmp"));
+        placePoint();
+        const QString key = keptFiles().first().left(64);
+        QVERIFY(opened()->set_Image_addr(window->imageFolder + QStringLiteral("/f.bmp"), 0));
+        QCOMPARE(unit().currentIndex(), 1);
+        window.reset();
+        QCOMPARE(keptFiles().size(), 1);
+        QVERIFY(KeptMeasurements().find(key)->unit == analysis::Unit::Celsius);
     }
 
     void aBrokenFileIsAsIfItWereNotThere()
