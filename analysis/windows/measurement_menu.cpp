@@ -86,14 +86,14 @@ void MeasurementMenu::addTo(ToolCommands& commands)
     commands.add({Group::Measurements,
                   tr("复制测量"),
                   [&commands] { copy(commands); },
-                  {QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_C)},
+                  {QKeySequence::fromString(QStringLiteral("Ctrl+Shift+C"))},
                   Focus::Window,
                   Menus::Both,
                   hasTools});
     commands.add({Group::Measurements,
                   tr("粘贴"),
                   [&commands] { paste(commands); },
-                  {QKeySequence(Qt::CTRL + Qt::Key_V)},
+                  {QKeySequence::fromString(QStringLiteral("Ctrl+V"))},
                   Focus::Window,
                   Menus::Both,
                   hasText});

@@ -62,7 +62,7 @@ void ToolCommands::addOwnEntries()
     add({Group::History,
          tr("撤销"),
          [this] { goTo(&overlay::ToolHistory::undo); },
-         {QKeySequence(Qt::CTRL + Qt::Key_Z)},
+         {QKeySequence::fromString(QStringLiteral("Ctrl+Z"))},
          Focus::Window,
          Menus::Both,
          [this] {
@@ -71,7 +71,8 @@ void ToolCommands::addOwnEntries()
     add({Group::History,
          tr("重做"),
          [this] { goTo(&overlay::ToolHistory::redo); },
-         {QKeySequence(Qt::CTRL + Qt::SHIFT + Qt::Key_Z), QKeySequence(Qt::CTRL + Qt::Key_Y)},
+         {QKeySequence::fromString(QStringLiteral("Ctrl+Shift+Z")),
+          QKeySequence::fromString(QStringLiteral("Ctrl+Y"))},
          Focus::Window,
          Menus::Both,
          [this] {
@@ -80,13 +81,13 @@ void ToolCommands::addOwnEntries()
     add({Group::Photographs,
          tr("上一张照片"),
          [this] { emit stepRequested(-1); },
-         {QKeySequence(Qt::CTRL + Qt::Key_PageUp)},
+         {QKeySequence::fromString(QStringLiteral("Ctrl+PgUp"))},
          Focus::Window,
          Menus::Picture});
     add({Group::Photographs,
          tr("下一张照片"),
          [this] { emit stepRequested(1); },
-         {QKeySequence(Qt::CTRL + Qt::Key_PageDown)},
+         {QKeySequence::fromString(QStringLiteral("Ctrl+PgDown"))},
          Focus::Window,
          Menus::Picture});
 }

@@ -86,9 +86,9 @@ public:
     bool isHeld() const { return m_isHeld; }
 
     /// Changes tools or selection and shows them; one step to undo.
-    void change(const std::function<void(overlay::ToolEditing&)>& edit);
+    void change(const std::function<void(overlay::ToolEditing&)>& editing);
     /// The same, but a step only when record() is called, or before the next command.
-    void edit(const std::function<void(overlay::ToolEditing&)>& edit);
+    void edit(const std::function<void(overlay::ToolEditing&)>& editing);
     /// Makes a step of what is other than after the last one.
     void record();
 
