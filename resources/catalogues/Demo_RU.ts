@@ -255,7 +255,7 @@
     </message>
     <message>
         <source>这些数值不能构成图像内的工具。</source>
-        <translation>Такой инструмент не помещается в снимок.</translation>
+        <translation>Эти числа не дают инструмента внутри снимка.</translation>
     </message>
     <message>
         <source>类型</source>
