@@ -23,6 +23,7 @@ CommandLine::CommandLine(const QString& command, const QString& summary)
     add({QStringLiteral("j"), QStringLiteral("jobs")},
         QStringLiteral("Photographs worked on at the same time. Default: one for each core."),
         QStringLiteral("N"));
+    m_takesJobs = true;
 }
 
 CommandLine::CommandLine(const QString& command, const QString& summary,
@@ -55,7 +56,8 @@ bool CommandLine::parse(const QStringList& arguments)
     } else if (paths().size() < m_least)
         refuse(m_missing);
     constexpr int mostJobs = 1024;
-    m_jobs = number(QStringLiteral("jobs"), 1, mostJobs).value_or(QThread::idealThreadCount());
+    if (m_takesJobs)
+        m_jobs = number(QStringLiteral("jobs"), 1, mostJobs).value_or(QThread::idealThreadCount());
     return isGood();
 }
 

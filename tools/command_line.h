@@ -93,6 +93,7 @@ private:
     QString m_missing;
     QCommandLineParser m_parser;
     QString m_error;
+    bool m_takesJobs = false;
     int m_jobs = 1;
     int m_status = status::good;
 };
