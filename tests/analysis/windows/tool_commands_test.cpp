@@ -66,7 +66,9 @@ private slots:
         QCOMPARE(names(), QStringLiteral("P0 L0 R0 C0"));
         QCOMPARE(marked(), QStringLiteral("C0"));
         key(Qt::Key_PageUp);
+        const QSignalSpy changed(&window->commands(), &analysis::ToolCommands::changed);
         click("pushButton_3");
+        QCOMPARE(changed.count(), 1);
         QCOMPARE(names(), QStringLiteral("P0 L0 C0"));
         undo();
         QCOMPARE(names(), QStringLiteral("P0 L0 R0 C0"));
@@ -94,8 +96,10 @@ private slots:
             dialog.setCurrentColor(Qt::blue);
             dialog.accept();
         });
+        const QSignalSpy changed(&window->commands(), &analysis::ToolCommands::changed);
         click("pushButton_4");
         QVERIFY(blue.wasAsked());
+        QCOMPARE(changed.count(), 1);
         QApplication::setActiveWindow(window.get());
         QVERIFY(label().toolColor == QColor(Qt::blue));
         window->setFocus(-1);
@@ -199,6 +203,7 @@ private slots:
         // What was not possible in the menu works by key once it is.
         drawOneOfEach();
         key(Qt::Key_Delete);
+        QCOMPARE(names(), QStringLiteral("P0 L0 R0"));
         undo();
         QCOMPARE(names(), QStringLiteral("P0 L0 R0 C0"));
     }
