@@ -29,7 +29,8 @@ bool isPossible(ToolKind kind, const ToolNumbers& numbers);
 /// largestTyped(): such a value stays within its limits until another is typed.
 std::optional<Limits> limitsOf(ToolKind kind, const ToolNumbers& numbers, int number);
 
-/// Where a new tool begins that nobody has placed: as if dragged out from the middle of the picture.
+/// Where a new tool begins that nobody has placed: as if dragged out from the middle of the
+/// picture.
 ToolNumbers numbersOfNew(ToolKind kind);
 
 /// Makes a new tool with the lowest free number, these coordinates and this colour, and selects it.

@@ -49,8 +49,8 @@ void CoordinatesMenu::open(ToolCommands& commands, CoordinatesDialog::Of of)
                                          window.window());
     // Beside the picture, which follows what is typed.
     constexpr int margin = 40;
-    dialog->move(window.mapToGlobal(
-        {window.width() - dialog->sizeHint().width() - margin, 2 * margin}));
+    dialog->move(
+        window.mapToGlobal({window.width() - dialog->sizeHint().width() - margin, 2 * margin}));
     commands.beginStep();
     QObject::connect(
         dialog, &CoordinatesDialog::changed, &commands, [&commands](const Tools& tools) {
