@@ -131,6 +131,7 @@ private:
         }
         QCOMPARE(m_window->mode(), -1);
         QToolTip::hideText(); // would go by itself, ten seconds later
+        QApplication::clipboard()->clear(); // what was copied from a message is a document
         tidyUp();
     }
 
