@@ -130,7 +130,7 @@ private:
             m_window->settingsDialog()->close();
         }
         QCOMPARE(m_window->mode(), -1);
-        QToolTip::hideText(); // would go by itself, ten seconds later
+        QToolTip::hideText();               // would go by itself, ten seconds later
         QApplication::clipboard()->clear(); // what was copied from a message is a document
         tidyUp();
     }
