@@ -9,8 +9,6 @@
 #include <QMenu>
 #include <QMessageBox>
 
-using testing::flat;
-
 /// Measurements on their way to files, to the clipboard and to the next photograph, and back.
 class MeasurementMenuTest : public testing::ToolKeysTest
 {
@@ -138,7 +136,7 @@ private slots:
         QFETCH(const QByteArray, bytes);
         start();
         drawOneOfEach();
-        const overlay::Tools drawn = label();
+        const auto drawn = static_cast<const overlay::Tools&>(label());
         const QString path = folder->write(QStringLiteral("bad.json"), bytes);
         choose("加载测量...", path);
         takeMessage(QStringLiteral("未能从文件“") + QDir::toNativeSeparators(path) +

@@ -5,8 +5,6 @@
 
 #include <QPointer>
 
-using testing::Shot;
-
 /// From one photograph of the folder to the next, without the list.
 class PhotoSteppingTest : public testing::BrowserTest
 {

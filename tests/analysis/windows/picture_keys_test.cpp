@@ -94,7 +94,7 @@ private slots:
     {
         begin();
         drawOneOfEach();
-        const overlay::Tools drawn = label();
+        const auto drawn = static_cast<const overlay::Tools&>(label());
         child<QPushButton>("pushButton_8").setFocus(Qt::TabFocusReason);
         key(Qt::Key_Right);
         QVERIFY(child<QPushButton>("pushButton_7").hasFocus());
@@ -120,7 +120,7 @@ private slots:
     {
         begin();
         drawOneOfEach();
-        const overlay::Tools drawn = label();
+        const auto drawn = static_cast<const overlay::Tools&>(label());
         tools().setFocus(Qt::TabFocusReason);
         QCOMPARE(tools().currentRow(), 3);
         key(Qt::Key_Up);
