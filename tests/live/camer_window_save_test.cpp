@@ -11,7 +11,6 @@
 #include <QPushButton>
 
 using testing::Answer;
-using testing::camera;
 using testing::deliver;
 using testing::Page;
 

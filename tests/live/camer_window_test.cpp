@@ -12,7 +12,6 @@
 #include <QTabBar>
 #include <QTabWidget>
 
-using testing::camera;
 using testing::deliver;
 using testing::Owner;
 using testing::Page;
