@@ -8,6 +8,7 @@
 #include "analysis/report/report_overlay.h"
 #include "analysis/windows/analysis_tables.h"
 #include "analysis/windows/tool_commands.h"
+#include "analysis/windows/viewed_photograph.h"
 #include "config/configuration_record.h"
 #include "dialogs/dialogs.h"
 #include "files/paths.h"
@@ -95,6 +96,7 @@ bool Analysis_Widget::set_Image_addr(const QString& imagePath, int modelIndex)
     fillInformation();
     showScale();
     showGrayImage();
+    m_commands->viewed().takePhotograph();
     return true;
 }
 

@@ -3,11 +3,13 @@
 
 #include "analysis/windows/analysis_tables.h"
 #include "analysis/windows/analysis_widget.h"
+#include "analysis/windows/beside_window.h"
 #include "analysis/windows/coordinates_menu.h"
 #include "analysis/windows/measurement_keeping.h"
 #include "analysis/windows/measurement_menu.h"
 #include "analysis/windows/picture_keys.h"
 #include "analysis/windows/view_menu.h"
+#include "analysis/windows/viewed_photograph.h"
 
 #include "ui_analysis_widget.h"
 
@@ -18,7 +20,8 @@ namespace analysis {
 using overlay::ToolEditing;
 
 ToolCommands::ToolCommands(Analysis_Widget& window, const Ui::Analysis_Widget& form)
-    : m_window(window), m_form(form), m_keys(std::make_unique<PictureKeys>(*this, form))
+    : m_window(window), m_form(form), m_viewed(std::make_unique<ViewedPhotograph>(window, form)),
+      m_keys(std::make_unique<PictureKeys>(*this, form))
 {
     CoordinatesMenu::addTo(*this);
     addOwnEntries();
@@ -42,9 +45,11 @@ ToolCommands::ToolCommands(Analysis_Widget& window, const Ui::Analysis_Widget& f
             &ToolCommands::showTableMenu);
 }
 
-/// Whatever closes the photograph, its tools are not lost.
+/// Whatever closes the photograph, its tools are not lost. The windows beside it go before what they
+/// look at.
 ToolCommands::~ToolCommands()
 {
+    qDeleteAll(m_window.findChildren<BesideWindow*>(QString(), Qt::FindDirectChildrenOnly));
     MeasurementMenu::remember(state().tools);
 }
 
@@ -172,6 +177,7 @@ void ToolCommands::show()
     m_form.label->update();
     m_window.selectedRow = rowOfSelection(state().tools);
     m_window.updat_Tool_Temp();
+    m_viewed->look();
 }
 
 void ToolCommands::record()
@@ -208,6 +214,7 @@ void ToolCommands::tell()
     if (now == m_told)
         return;
     m_told = std::move(now);
+    m_viewed->look();
     emit changed();
 }
 

@@ -21,6 +21,7 @@ namespace analysis {
 
 class MeasurementKeeping;
 class PictureKeys;
+class ViewedPhotograph;
 
 /// What can be done in an analysis window beside its own buttons: undo and redo, and the entries of
 /// two context menus, with their shortcuts. Whoever offers more hangs it in here.
@@ -35,7 +36,8 @@ public:
     /// Each is a group of its own in the menus, in this order.
     enum class Group
     {
-        Tool, ///< the selected tool
+        Tool,    ///< the selected tool
+        Looking, ///< windows beside the picture, and other ways to see it
         History,
         Copies,       ///< pictures, temperatures and tables, copied or saved
         Measurements, ///< all tools, copied or saved
@@ -100,6 +102,7 @@ public:
     void restart(const overlay::ToolsState& state);
 
     MeasurementKeeping& keeping() { return *m_keeping; }
+    ViewedPhotograph& viewed() const { return *m_viewed; }
 
     /// Opens the picture's menu in select mode; in the other modes a press places a tool. The place
     /// is in the label's pixels.
@@ -132,6 +135,7 @@ private:
 
     Analysis_Widget& m_window;
     const Ui::Analysis_Widget& m_form;
+    const std::unique_ptr<ViewedPhotograph> m_viewed;
     const std::unique_ptr<PictureKeys> m_keys;
     std::vector<Hung> m_entries;
     overlay::ToolHistory m_history;

@@ -5,6 +5,7 @@
 #include "analysis/windows/analysis_widget.h"
 #include "analysis/windows/tool_commands.h"
 #include "analysis/windows/view_export.h"
+#include "analysis/windows/viewed_photograph.h"
 
 #include "ui_analysis_widget.h"
 
@@ -13,16 +14,10 @@ namespace {
 
 using Form = Ui::Analysis_Widget;
 
-ShownUnit unitOf(const ToolCommands& commands, const Form& form)
-{
-    return {unitAt(form.comboBox->currentIndex()).value_or(Unit::Celsius),
-            commands.window().conversion};
-}
-
 ShownPicture seen(const ToolCommands& commands, const Form& form)
 {
     ShownPicture shown =
-        shownPicture(commands.window().photograph, unitOf(commands, form), commands.state().tools,
+        shownPicture(commands.window().photograph, commands.viewed().unit(), commands.state().tools,
                      form.widget->startValue, form.widget->endValue);
     shown.language = commands.window().configurationField;
     return shown;
@@ -93,7 +88,7 @@ void ViewMenu::addTo(ToolCommands& commands, const Form& form)
                   tr("保存温度..."),
                   [&] {
                       ViewExport::saveTemperatures(commands.window().photograph,
-                                                   unitOf(commands, form),
+                                                   commands.viewed().unit(),
                                                    commands.window().fileName, &commands.window());
                   },
                   {},
