@@ -96,7 +96,7 @@ bool Analysis_Widget::set_Image_addr(const QString& imagePath, int modelIndex)
     fillInformation();
     showScale();
     showGrayImage();
-    m_commands->viewed().takePhotograph();
+    m_commands->viewed().becomeOther();
     return true;
 }
 

@@ -13,7 +13,7 @@ ViewedPhotograph::ViewedPhotograph(Analysis_Widget& window, const Ui::Analysis_W
     : m_window(window), m_form(form)
 {
     m_soon.setSingleShot(true);
-    connect(&m_soon, &QTimer::timeout, this, &ViewedPhotograph::changed);
+    connect(&m_soon, &QTimer::timeout, this, &ViewedPhotograph::tell);
     connect(form.label, &MyLabel::Point_XY, this, [this](int x, int y) {
         emit pointed(std::clamp(x, 0, format::columns - 1), std::clamp(y, 0, format::rows - 1));
         look();
@@ -21,7 +21,7 @@ ViewedPhotograph::ViewedPhotograph(Analysis_Widget& window, const Ui::Analysis_W
     connect(form.label, &MyLabel::updat_Tool, this, &ViewedPhotograph::look);
     connect(form.label, &MyLabel::Set_Select, this, &ViewedPhotograph::look);
     connect(form.comboBox, qOverload<int>(&QComboBox::currentIndexChanged), this,
-            &ViewedPhotograph::takePhotograph);
+            &ViewedPhotograph::becomeOther);
 }
 
 QString ViewedPhotograph::name() const
@@ -52,18 +52,26 @@ void ViewedPhotograph::mark(const QObject& owner, const std::vector<PictureMark>
         m_marks->show(owner, marks);
 }
 
+/// Later, because the label says where the mouse is before a drag has changed the tool.
 void ViewedPhotograph::look()
 {
-    overlay::ToolsState now = overlay::stateOf(*m_form.label);
-    if (now == m_seen)
-        return;
-    m_seen = std::move(now);
     m_soon.start(0);
 }
 
-void ViewedPhotograph::takePhotograph()
+void ViewedPhotograph::becomeOther()
 {
-    m_soon.start(0);
+    m_isOther = true;
+    look();
+}
+
+void ViewedPhotograph::tell()
+{
+    overlay::ToolsState now = overlay::stateOf(*m_form.label);
+    if (now == m_seen && !m_isOther)
+        return;
+    m_seen = std::move(now);
+    m_isOther = false;
+    emit changed();
 }
 
 } // namespace analysis

@@ -40,8 +40,8 @@ public:
 
     /// To be called after anything that may have changed the tools without a signal of the label.
     void look();
-    /// To be called when another photograph has been read.
-    void takePhotograph();
+    /// To be called when another photograph has been read, or this one is shown in another way.
+    void becomeOther();
 
 signals:
     /// Photograph, unit, tools or selection are other than before; told once for all that changed
@@ -51,9 +51,12 @@ signals:
     void pointed(int x, int y);
 
 private:
+    void tell();
+
     Analysis_Widget& m_window;
     const Ui::Analysis_Widget& m_form;
     overlay::ToolsState m_seen;
+    bool m_isOther = false; ///< than tools alone could tell
     QTimer m_soon;
     QPointer<PictureMarks> m_marks; ///< a child of the label, made for the first mark
 };
