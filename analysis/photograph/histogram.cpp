@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MIT
+#include "analysis/photograph/histogram.h"
+
+#include "analysis/photograph/details.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace analysis {
+
+double Bins::edge(int bin) const
+{
+    return bin == count ? to : from + (to - from) * bin / count;
+}
+
+std::optional<int> Bins::binOf(double value) const
+{
+    if (!(value >= from && value <= to))
+        return std::nullopt;
+    // Rounded: what decides are the edges as they are told.
+    int bin = std::clamp(int((value - from) / (to - from) * count), 0, count - 1);
+    while (bin > 0 && value < edge(bin))
+        --bin;
+    while (bin < count - 1 && value >= edge(bin + 1))
+        ++bin;
+    return bin;
+}
+
+std::optional<Bins> binsByCount(double from, double to, int count)
+{
+    if (!(std::isfinite(to - from) && to > from && count >= 1 && count <= Bins::most))
+        return std::nullopt;
+    return Bins{from, to, count};
+}
+
+std::optional<Bins> binsByWidth(double from, double to, double width)
+{
+    // A range of three tenths holds three bins of a tenth, whatever the last digit says.
+    constexpr double slack = 1e-9;
+    const double count = std::ceil((to - from) / width - slack);
+    if (!(width > 0.0 && count >= 1.0 && count <= Bins::most))
+        return std::nullopt;
+    return binsByCount(from, std::max(to, from + count * width), int(count));
+}
+
+std::optional<Bins> suitingBins(const Area& area, int most)
+{
+    const std::optional<Details> details = detailsOf(area);
+    if (!details || most < 2)
+        return std::nullopt;
+    const double low = details->low.value;
+    const double high = details->high.value;
+    // Finer than any photograph tells temperatures apart.
+    constexpr int smallestPower = -3;
+    for (int power = smallestPower;; ++power) {
+        for (const double digit : {1.0, 2.0, 5.0}) {
+            const double width = digit * std::pow(10.0, power);
+            const double first = std::floor(low / width);
+            const double count = std::floor(high / width) + 1.0 - first;
+            // Products are rounded: the extremes themselves stay inside.
+            if (count <= most)
+                return binsByCount(std::min(low, first * width),
+                                   std::max(high, (first + count) * width), int(count));
+        }
+    }
+}
+
+Histogram histogramOf(const Area& area, const Bins& bins)
+{
+    Histogram histogram{bins, std::vector<int>(std::size_t(bins.count)), 0, 0, 0};
+    for (const Reading& reading : area.readings) {
+        const std::optional<int> bin = bins.binOf(reading.value);
+        if (!reading.isNumber())
+            ++histogram.withoutReading;
+        else if (bin)
+            ++histogram.counts[std::size_t(*bin)];
+        else
+            ++(reading.value < bins.from ? histogram.below : histogram.above);
+    }
+    return histogram;
+}
+
+double shareBetween(const Area& area, double limit, double other)
+{
+    int pixels = 0;
+    int inside = 0;
+    for (const Reading& reading : area.readings) {
+        if (!reading.isNumber())
+            continue;
+        ++pixels;
+        if (reading.value >= std::min(limit, other) && reading.value <= std::max(limit, other))
+            ++inside;
+    }
+    return pixels > 0 ? double(inside) / pixels : 0.0;
+}
+
+} // namespace analysis
