@@ -34,6 +34,23 @@ constexpr std::optional<Unit> unitAt(int index)
     return index >= 0 && index < int(units.size()) ? std::optional(Unit(index)) : std::nullopt;
 }
 
+/// The unit of a photograph's temperatures: °C where they come from a raw image, else what its unit
+/// byte says; nothing where that says nothing.
+constexpr std::optional<Unit> storedUnit(int fileUnit, bool raw)
+{
+    return raw ? std::optional(Unit::Celsius) : unitAt(fileUnit);
+}
+
+/// Between the scales as they are defined: for reckoning, not for showing.
+constexpr double celsiusOf(double temperature, Unit unit)
+{
+    return unit == Unit::Fahrenheit ? (temperature - 32) * 5 / 9 : temperature;
+}
+constexpr double inUnit(double celsius, Unit unit)
+{
+    return unit == Unit::Fahrenheit ? celsius * 9 / 5 + 32 : celsius;
+}
+
 QString letterOf(Unit unit);
 QString signOf(Unit unit);
 
