@@ -2,10 +2,20 @@
 #pragma once
 
 #include <cmath>
+#include <vector>
 
 /// What a black body radiates in a band, by other means than the product's: the series for the part
 /// of its radiation below a wavelength, times the law of the fourth power.
 namespace testing {
+
+/// From the first to the last at the most.
+inline std::vector<double> steps(double first, double last, double step)
+{
+    std::vector<double> all;
+    while (first + step * double(all.size()) <= last)
+        all.push_back(first + step * double(all.size()));
+    return all;
+}
 
 /// The part of a black body's radiation below a wavelength (metres).
 inline double partBelow(double wavelength, double kelvin)

@@ -54,7 +54,7 @@ private slots:
 
     void theIntegralIsThatOfTheSeries()
     {
-        for (double celsius = -150; celsius <= 1000; celsius += 2.5) {
+        for (const double celsius : testing::steps(-150, 1000, 2.5)) {
             const double error = (radiance::integrated(celsius) - testing::bandEmission(celsius)) /
                                  perDegree(celsius);
             QVERIFY2(std::abs(error) < 0.0003, qPrintable(QString::number(celsius)));
@@ -64,8 +64,8 @@ private slots:
     // Between two of its entries, where lines are farthest from the curve.
     void theTableIsCloseToTheCurve()
     {
-        for (double celsius = radiance::lowest + radiance::step / 2; celsius < radiance::highest;
-             celsius += 7 * radiance::step) {
+        for (const double celsius : testing::steps(radiance::lowest + radiance::step / 2,
+                                                   radiance::highest, 7 * radiance::step)) {
             const double error =
                 (radiance::of(celsius) - testing::bandEmission(celsius)) / perDegree(celsius);
             QVERIFY2(std::abs(error) < (celsius <= 1000 ? 0.0005 : 0.003),
@@ -75,7 +75,7 @@ private slots:
 
     void thereAndBack()
     {
-        for (double celsius = radiance::lowest; celsius <= radiance::highest; celsius += 0.1)
+        for (const double celsius : testing::steps(radiance::lowest, radiance::highest, 0.1))
             QVERIFY(std::abs(radiance::temperatureOf(radiance::of(celsius)) - celsius) < 1e-9);
         QCOMPARE(radiance::temperatureOf(radiance::of(radiance::highest)), radiance::highest);
         QCOMPARE(radiance::temperatureOf(radiance::of(radiance::lowest)), radiance::lowest);
@@ -83,9 +83,9 @@ private slots:
 
     void moreRadianceIsHotter()
     {
-        double before = radiance::temperatureOf(0.2);
-        for (double radiance = 0.2; radiance < 15600; radiance *= 1.0001) {
-            const double now = radiance::temperatureOf(radiance * 1.0001);
+        double before = radiance::lowest;
+        for (const double step : testing::steps(0, 11.2, 0.0001)) {
+            const double now = radiance::temperatureOf(0.2 * std::exp(step));
             QVERIFY(now > before);
             before = now;
         }
