@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QMenu>
+#include <QMessageBox>
 
 namespace dialogs {
 namespace {
@@ -93,6 +94,16 @@ void open(QDialog* dialog, const QWidget* page)
     dialog->open();
 }
 
+QMessageBox* warn(const QString& text, QWidget* window, const QWidget* page)
+{
+    auto* box =
+        new QMessageBox(QMessageBox::Warning, QCoreApplication::translate("dialogs", "警告"), text,
+                        QMessageBox::Ok, window);
+    box->setTextFormat(Qt::PlainText);
+    open(box, page);
+    return box;
+}
+
 void end(QWidget* page)
 {
     closePopups(page);
@@ -103,12 +114,11 @@ void end(QWidget* page)
         return;
     }
     page->close();
-    for (const QObject* mark : page->findChildren<QObject*>(markName)) {
+    for (const QObject* mark : page->findChildren<QObject*>(markName))
         QObject::connect(mark, &QObject::destroyed, page, [page] {
             if (!isWaiting(page))
                 page->deleteLater();
         });
-    }
 }
 
 } // namespace dialogs

@@ -213,9 +213,10 @@ RecordReadings recordReadings(const QString& historyFolder, const QString& name)
     if (!files::openForReading(file).isGood())
         return {};
     QByteArray text = file.read(mostTextBytes);
-    for (const char end : {'\n', '\r'})
+    for (const char end : {'\n', '\r'}) {
         if (text.endsWith(end))
             text.chop(1);
+    }
     const QByteArray last = text.mid(text.lastIndexOf('\n') + 1);
     const QStringList parts = QString::fromUtf8(last).split(QLatin1Char(','));
     return {parts.value(0), parts.value(1), parts.value(2)};

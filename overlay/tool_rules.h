@@ -143,9 +143,10 @@ void forEachPixel(const Tool& tool, Visit visit)
     for (int x = std::max(box.firstX, 0); x <= std::min(box.lastX, imageColumns - 1); ++x) {
         const PixelBox column = boxOfColumn(tool, box, x);
         const int last = std::min(column.lastY, imageRows - 1);
-        for (int y = std::max(column.firstY, 0); y <= last; ++y)
+        for (int y = std::max(column.firstY, 0); y <= last; ++y) {
             if (covers(tool, x, y))
                 visit(x, y);
+        }
     }
 }
 

@@ -43,9 +43,10 @@ const std::vector<FileLayout> fileLayouts = makeFileLayouts();
 
 int indexOfLayout(const PhotographSettings& settings)
 {
-    for (std::size_t i = 0; i < fileLayouts.size(); ++i)
+    for (std::size_t i = 0; i < fileLayouts.size(); ++i) {
         if (fileLayouts[i].modelIndex == settings.modelIndex && fileLayouts[i].raw == settings.raw)
             return int(i);
+    }
     return -1;
 }
 

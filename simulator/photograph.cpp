@@ -54,7 +54,7 @@ qint16 tenths(double degrees)
 QByteArray rawImage(const Field& celsius)
 {
     QByteArray block(format::rawRows * format::rawColumns * 2, '\0');
-    for (int row = 0; row < format::rawRows; ++row)
+    for (int row = 0; row < format::rawRows; ++row) {
         for (int column = 0; column < format::rawColumns; ++column) {
             // The first pixel of the 240 × 320 picture that this one is shown in.
             const int y = (5 * row + 3) / 4;
@@ -63,6 +63,7 @@ QByteArray rawImage(const Field& celsius)
             put(block, 2 * (row * format::rawColumns + column),
                 quint16(std::clamp(std::lround(kelvin * 16), 0L, 65535L)));
         }
+    }
     return block;
 }
 

@@ -52,7 +52,7 @@ void Scene::Layer::paint(const Shape& distance, const Shape& own, const Shape& s
 {
     if (canvas.empty())
         canvas = cv::Mat3f(fieldRows + 2 * margin, fieldColumns + 2 * margin, {1, 0, 0});
-    for (int row = 0; row < canvas.rows; ++row)
+    for (int row = 0; row < canvas.rows; ++row) {
         for (int column = 0; column < canvas.cols; ++column) {
             const double x = column - margin;
             const double y = row - margin;
@@ -63,6 +63,7 @@ void Scene::Layer::paint(const Shape& distance, const Shape& own, const Shape& s
             const cv::Vec3d painted(0, (1 - part) * own(x, y), part);
             canvas(row, column) = (1 - cover) * cv::Vec3d(canvas(row, column)) + cover * painted;
         }
+    }
 }
 
 void Scene::Layer::compose(Field& field, double dx, double dy, float hotSpot) const
@@ -140,10 +141,11 @@ void Scene::addMovingAir(Field& field, double seconds, double hotSpot, double dx
     case SceneKind::Motor:
         addPlume(field, 118 + dx, 84 + dy, -84, 20, 0.02 * (hotSpot - 23), seconds);
         // The fan behind its cover: cool blades passing the slots.
-        for (int y = 126; y < 226; ++y)
+        for (int y = 126; y < 226; ++y) {
             for (int x = 24; x < 44; ++x)
                 field[fieldIndex(x, y)] +=
                     float((0.02 * (hotSpot - 23)) * std::sin(0.25 * y - 11 * seconds));
+        }
         break;
     }
 }
@@ -171,11 +173,12 @@ Field Scene::field(double seconds, double hotSpot) const
     const auto frame = quint64(std::llround(seconds * 1000));
     const quint64 mixed = (frame + 1) * 0x9E3779B97F4A7C15ULL;
     const float* noise = m_noise.data() + (mixed >> 32) % quint64(noiseSize - fieldSize);
-    for (int row = 0; row < fieldRows; ++row)
+    for (int row = 0; row < fieldRows; ++row) {
         for (int column = 0; column < fieldColumns; ++column) {
             const std::size_t at = fieldIndex(column, row);
             field[at] += frameNoise * noise[at] + columnNoise * m_noise[std::size_t(column)];
         }
+    }
     return field;
 }
 

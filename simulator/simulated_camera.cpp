@@ -51,9 +51,10 @@ void SimulatedCamera::unplug(const CameraIdentity& identity)
         return;
     const QString deviceName = identity.deviceName;
     m_plugged.removeAt(index);
-    for (const QPointer<CameraSession>& session : activeSessions())
+    for (const QPointer<CameraSession>& session : activeSessions()) {
         if (session && session->deviceName() == deviceName)
             session->fail(QStringLiteral("The camera was pulled out."));
+    }
     emit pluggedChanged();
 }
 
@@ -64,9 +65,10 @@ bool SimulatedCamera::isPlugged(const CameraIdentity& identity) const
 
 void SimulatedCamera::reportError()
 {
-    for (const QPointer<CameraSession>& session : activeSessions())
+    for (const QPointer<CameraSession>& session : activeSessions()) {
         if (session)
             session->fail(QStringLiteral("The camera reported an error."));
+    }
 }
 
 bool SimulatedCamera::deliver(const QByteArray& frameBytes)
@@ -115,9 +117,10 @@ void SimulatedCamera::updateRunning()
 QList<QPointer<CameraSession>> SimulatedCamera::activeSessions() const
 {
     QList<QPointer<CameraSession>> active;
-    for (CameraSession* session : m_sessions)
+    for (CameraSession* session : m_sessions) {
         if (session->isActive())
             active.append(session);
+    }
     return active;
 }
 

@@ -43,9 +43,10 @@ public:
     int defaultDevice() const override { return cameras().isEmpty() ? -1 : 0; }
     int selectedDevice() const override
     {
-        for (int i = 0; i < deviceCount(); ++i)
+        for (int i = 0; i < deviceCount(); ++i) {
             if (deviceName(i) == m_session.deviceName())
                 return i;
+        }
         return -1;
     }
     void setSelectedDevice(int index) override
@@ -104,20 +105,23 @@ void SimulatedCameraPlugin::release(QMediaService* service)
 QList<QByteArray> SimulatedCameraPlugin::devices(const QByteArray& service) const
 {
     QList<QByteArray> names;
-    if (service == Q_MEDIASERVICE_CAMERA)
+    if (service == Q_MEDIASERVICE_CAMERA) {
         for (const simulator::CameraIdentity& camera :
              simulator::SimulatedCamera::instance().plugged())
             names.append(camera.deviceName.toUtf8());
+    }
     return names;
 }
 
 QString SimulatedCameraPlugin::deviceDescription(const QByteArray& service,
                                                  const QByteArray& device)
 {
-    if (service == Q_MEDIASERVICE_CAMERA)
+    if (service == Q_MEDIASERVICE_CAMERA) {
         for (const simulator::CameraIdentity& camera :
-             simulator::SimulatedCamera::instance().plugged())
+             simulator::SimulatedCamera::instance().plugged()) {
             if (camera.deviceName.toUtf8() == device)
                 return camera.description;
+        }
+    }
     return {};
 }

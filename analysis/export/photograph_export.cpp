@@ -51,9 +51,10 @@ std::vector<float> shownRows(const Photograph& photograph, Conversion conversion
 {
     std::vector<float> values;
     values.reserve(photograph.temperatures.size());
-    for (int y = 0; y < rows; ++y)
+    for (int y = 0; y < rows; ++y) {
         for (int x = 0; x < columns; ++x)
             values.push_back(shown(photograph.temperatures[temperatureIndex(x, y)], conversion));
+    }
     return values;
 }
 

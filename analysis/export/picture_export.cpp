@@ -50,7 +50,7 @@ class Composition
 public:
     Composition(const ShownPicture& shown, const PictureOptions& options)
         : m_shown(shown), m_scale(std::clamp(options.scale, 1, PictureOptions::largestScale)),
-          m_picture(pictureWithTools(shown, geometryAt(m_scale))),
+          m_picture(overlay::imageColumns * m_scale, overlay::imageRows * m_scale),
           m_font(reportFont(textSize * m_scale, QFont::Normal, shown.language)),
           m_boldFont(reportFont(textSize * m_scale, QFont::Bold, shown.language)),
           m_hasColourBar(options.hasColourBar),
@@ -58,19 +58,24 @@ public:
     {
     }
 
-    QImage paint() const
+    QSize size() const
     {
-        QSize size = m_picture.size();
+        QSize size = m_picture;
         if (m_hasColourBar)
             size.rwidth() += barWidth();
         if (m_hasValues)
             size = {std::max(size.width(), columnEdges().back() + at(gap)),
                     size.height() + at(rowHeight) * (int(m_shown.measured.size()) + 2) + at(gap)};
-        QImage sheet(size, QImage::Format_RGB32);
+        return size;
+    }
+
+    QImage paint() const
+    {
+        QImage sheet(size(), QImage::Format_RGB32);
         sheet.fill(Qt::white);
         QPainter painter(&sheet);
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.drawImage(0, 0, m_picture);
+        painter.drawImage(0, 0, pictureWithTools(m_shown, geometryAt(m_scale)));
         if (m_hasColourBar)
             paintColourBar(painter);
         if (m_hasValues)
@@ -165,7 +170,7 @@ private:
 
     const ShownPicture& m_shown;
     const int m_scale;
-    const QImage m_picture;
+    const QSize m_picture; ///< within the sheet
     const QFont m_font;
     const QFont m_boldFont;
     const ToolCells m_captions = toolCaptions();
@@ -215,6 +220,11 @@ QImage pictureWithTools(const ShownPicture& shown, const Geometry& geometry)
 QImage exportedPicture(const ShownPicture& shown, const PictureOptions& options)
 {
     return Composition(shown, options).paint();
+}
+
+QSize exportedSize(const ShownPicture& shown, const PictureOptions& options)
+{
+    return Composition(shown, options).size();
 }
 
 } // namespace analysis

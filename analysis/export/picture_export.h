@@ -52,4 +52,7 @@ struct PictureOptions
 /// The picture at a multiple of its own size, on white, with what was asked for round it.
 QImage exportedPicture(const ShownPicture& shown, const PictureOptions& options);
 
+/// How large that will be, without painting it.
+QSize exportedSize(const ShownPicture& shown, const PictureOptions& options);
+
 } // namespace analysis

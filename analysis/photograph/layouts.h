@@ -46,26 +46,29 @@ constexpr std::array<Layout, 2> layouts{{
 
 constexpr bool isKnown(int modelIndex)
 {
-    for (const Layout& layout : layouts)
+    for (const Layout& layout : layouts) {
         if (layout.modelIndex == modelIndex)
             return true;
+    }
     return false;
 }
 
 /// The layout of a model index; the first one for an unknown index.
 constexpr const Layout& layoutOf(int modelIndex)
 {
-    for (const Layout& layout : layouts)
+    for (const Layout& layout : layouts) {
         if (layout.modelIndex == modelIndex)
             return layout;
+    }
     return layouts.front();
 }
 
 constexpr bool isSupported(const Layout& layout, std::uint32_t machineId)
 {
-    for (const std::uint32_t id : layout.machineIds)
+    for (const std::uint32_t id : layout.machineIds) {
         if (id == machineId)
             return true;
+    }
     return false;
 }
 

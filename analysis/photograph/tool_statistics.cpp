@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "analysis/photograph/tool_statistics.h"
 
+#include "overlay/tool_coordinates.h"
 #include "overlay/tool_rules.h"
 
 #include <QCoreApplication>
@@ -18,6 +19,36 @@ constexpr float lowBeforeAll = 2000.0F;
 constexpr float highBeforeAll(overlay::ToolKind kind)
 {
     return kind == overlay::ToolKind::Circle ? -50.0F : -10.0F;
+}
+
+/// What users read of a kind. The captions of its numbers are as many as its row in
+/// overlay::toolKinds tells.
+struct KindCaptions
+{
+    const char* kind;
+    std::array<const char*, std::tuple_size_v<overlay::ToolNumbers>> numbers;
+};
+
+const KindCaptions& captionsOf(overlay::ToolKind kind)
+{
+    static constexpr std::array<KindCaptions, overlay::toolKinds.size()> captions{{
+        {QT_TRANSLATE_NOOP("Analysis_Widget", "点"), {"X:", "Y:"}},
+        {QT_TRANSLATE_NOOP("Analysis_Widget", "线"),
+         {QT_TRANSLATE_NOOP("CoordinatesDialog", "起点 X:"),
+          QT_TRANSLATE_NOOP("CoordinatesDialog", "起点 Y:"),
+          QT_TRANSLATE_NOOP("CoordinatesDialog", "终点 X:"),
+          QT_TRANSLATE_NOOP("CoordinatesDialog", "终点 Y:")}},
+        {QT_TRANSLATE_NOOP("Analysis_Widget", "矩形"),
+         {QT_TRANSLATE_NOOP("CoordinatesDialog", "第一角 X:"),
+          QT_TRANSLATE_NOOP("CoordinatesDialog", "第一角 Y:"),
+          QT_TRANSLATE_NOOP("CoordinatesDialog", "对角 X:"),
+          QT_TRANSLATE_NOOP("CoordinatesDialog", "对角 Y:")}},
+        {QT_TRANSLATE_NOOP("Analysis_Widget", "圆"),
+         {QT_TRANSLATE_NOOP("CoordinatesDialog", "圆心 X:"),
+          QT_TRANSLATE_NOOP("CoordinatesDialog", "圆心 Y:"),
+          QT_TRANSLATE_NOOP("CoordinatesDialog", "半径:")}},
+    }};
+    return captions[std::size_t(kind)];
 }
 
 /// Sums in single precision depend on their order: column after column, and down each.
@@ -84,10 +115,13 @@ std::vector<ToolRow> toolRows(const overlay::Tools& tools, const Temperatures& t
 
 QString kindCaption(overlay::ToolKind kind)
 {
-    static constexpr std::array<const char*, overlay::toolKinds.size()> captions{
-        QT_TRANSLATE_NOOP("Analysis_Widget", "点"), QT_TRANSLATE_NOOP("Analysis_Widget", "线"),
-        QT_TRANSLATE_NOOP("Analysis_Widget", "矩形"), QT_TRANSLATE_NOOP("Analysis_Widget", "圆")};
-    return QCoreApplication::translate("Analysis_Widget", captions[std::size_t(kind)]);
+    return QCoreApplication::translate("Analysis_Widget", captionsOf(kind).kind);
+}
+
+QString numberCaption(overlay::ToolKind kind, int number)
+{
+    return QCoreApplication::translate("CoordinatesDialog",
+                                       captionsOf(kind).numbers[std::size_t(number)]);
 }
 
 ToolCells toolCaptions()

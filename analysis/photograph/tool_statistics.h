@@ -50,6 +50,10 @@ std::vector<ToolRow> toolRows(const overlay::Tools& tools, const Temperatures& t
 /// The kind as the table calls it, translated in the context of the analysis window.
 QString kindCaption(overlay::ToolKind kind);
 
+/// What its number at this place is called, in the order of overlay::numbersOf(), translated in the
+/// context of the coordinates dialog.
+QString numberCaption(overlay::ToolKind kind, int number);
+
 /// The row's texts: name, type, high, low, average.
 using ToolCells = std::array<QString, 5>;
 ToolCells toolCells(const ToolRow& row);

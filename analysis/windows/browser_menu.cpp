@@ -8,7 +8,6 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
-#include <QMessageBox>
 #include <QUrl>
 
 using analysis::SelectionOrder;
@@ -67,9 +66,5 @@ void BrowserMenu::showFolder()
     if (QDir(m_folder).exists() && QDesktopServices::openUrl(QUrl::fromLocalFile(m_folder)))
         return;
     QWidget* window = parentWidget()->window();
-    auto* box = new QMessageBox(QMessageBox::Warning, tr("警告"),
-                                tr("无法打开文件夹“%1”。").arg(QDir::toNativeSeparators(m_folder)),
-                                QMessageBox::Ok, window);
-    box->setTextFormat(Qt::PlainText);
-    dialogs::open(box);
+    dialogs::warn(tr("无法打开文件夹“%1”。").arg(QDir::toNativeSeparators(m_folder)), window);
 }

@@ -19,28 +19,6 @@ using overlay::KindRow;
 using overlay::ToolKind;
 using overlay::ToolNumbers;
 
-namespace {
-
-/// The captions of a kind's numbers, translated in the context of the dialog.
-constexpr std::array<std::array<const char*, std::tuple_size_v<ToolNumbers>>,
-                     overlay::toolKinds.size()>
-    captions{{
-        {"X:", "Y:"},
-        {QT_TRANSLATE_NOOP("CoordinatesDialog", "起点 X:"),
-         QT_TRANSLATE_NOOP("CoordinatesDialog", "起点 Y:"),
-         QT_TRANSLATE_NOOP("CoordinatesDialog", "终点 X:"),
-         QT_TRANSLATE_NOOP("CoordinatesDialog", "终点 Y:")},
-        {QT_TRANSLATE_NOOP("CoordinatesDialog", "第一角 X:"),
-         QT_TRANSLATE_NOOP("CoordinatesDialog", "第一角 Y:"),
-         QT_TRANSLATE_NOOP("CoordinatesDialog", "对角 X:"),
-         QT_TRANSLATE_NOOP("CoordinatesDialog", "对角 Y:")},
-        {QT_TRANSLATE_NOOP("CoordinatesDialog", "圆心 X:"),
-         QT_TRANSLATE_NOOP("CoordinatesDialog", "圆心 Y:"),
-         QT_TRANSLATE_NOOP("CoordinatesDialog", "半径:")},
-    }};
-
-} // namespace
-
 CoordinatesDialog::CoordinatesDialog(const overlay::Tools& tools, Of of, ToolKind kindOfNew,
                                      const QColor& colourOfNew, QWidget* parent)
     : QDialog(parent), m_before(tools), m_colour(colourOfNew), m_kind(kindOfNew), m_tools(tools),
@@ -132,7 +110,7 @@ void CoordinatesDialog::showNumbers(const ToolNumbers& numbers)
             widget->setVisible(isUsed);
         if (!isUsed)
             continue;
-        const QString caption = tr(captions[std::size_t(m_kind)][number]);
+        const QString caption = analysis::numberCaption(m_kind, int(number));
         line.caption->setText(caption);
         line.box->setAccessibleName(caption);
         line.box->setRange(0, std::max(overlay::largestTyped(int(number)), numbers[number]));

@@ -126,10 +126,7 @@ void MeasurementKeeping::warn(const QString& text)
     if (m_warning)
         return;
     Analysis_Widget& window = m_commands.window();
-    m_warning =
-        new QMessageBox(QMessageBox::Warning, tr("警告"), text, QMessageBox::Ok, window.window());
-    m_warning->setTextFormat(Qt::PlainText);
-    dialogs::open(m_warning, &window);
+    m_warning = dialogs::warn(text, window.window(), &window);
 }
 
 } // namespace analysis

@@ -17,7 +17,6 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QGuiApplication>
-#include <QMessageBox>
 
 namespace analysis {
 namespace {
@@ -139,8 +138,9 @@ void MeasurementMenu::read(ToolCommands& commands, const QString& path)
     if (wrong.isEmpty())
         replaceBy(commands, tools);
     else
-        warn(commands, tr("未能从文件“%1”加载测量，现有工具保持不变。\n%2")
-                           .arg(QDir::toNativeSeparators(path), wrong));
+        dialogs::warn(tr("未能从文件“%1”加载测量，现有工具保持不变。\n%2")
+                          .arg(QDir::toNativeSeparators(path), wrong),
+                      commands.window().window());
 }
 
 void MeasurementMenu::applyLast(ToolCommands& commands)
@@ -161,7 +161,7 @@ void MeasurementMenu::paste(ToolCommands& commands)
     Tools tools;
     const QString wrong = parse(QGuiApplication::clipboard()->text().toUtf8(), tools);
     if (!wrong.isEmpty()) {
-        warn(commands, tr("剪贴板中没有测量数据。\n%1").arg(wrong));
+        dialogs::warn(tr("剪贴板中没有测量数据。\n%1").arg(wrong), commands.window().window());
         return;
     }
     commands.change([&tools](ToolEditing& edited) {
@@ -183,14 +183,6 @@ QString MeasurementMenu::parse(const QByteArray& json, Tools& tools)
         return tr("工具过多：%1（最多 %2）").arg(count).arg(mostTools);
     tools = read;
     return {};
-}
-
-void MeasurementMenu::warn(ToolCommands& commands, const QString& text)
-{
-    auto* box = new QMessageBox(QMessageBox::Warning, tr("警告"), text, QMessageBox::Ok,
-                                commands.window().window());
-    box->setTextFormat(Qt::PlainText);
-    dialogs::open(box);
 }
 
 } // namespace analysis

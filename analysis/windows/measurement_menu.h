@@ -35,7 +35,6 @@ private:
     static void copy(const ToolCommands& commands);
     static void paste(ToolCommands& commands);
     static QString parse(const QByteArray& json, overlay::Tools& tools);
-    static void warn(ToolCommands& commands, const QString& text);
 };
 
 } // namespace analysis

@@ -63,6 +63,6 @@ QImage PictureDialog::picture() const
 
 void PictureDialog::showSize()
 {
-    const QSize size = picture().size();
+    const QSize size = exportedSize(m_shown, options());
     m_size->setText(tr("%1 × %2 像素").arg(size.width()).arg(size.height()));
 }

@@ -45,8 +45,8 @@ ToolCommands::ToolCommands(Analysis_Widget& window, const Ui::Analysis_Widget& f
             &ToolCommands::showTableMenu);
 }
 
-/// Whatever closes the photograph, its tools are not lost. The windows beside it go before what they
-/// look at.
+/// Whatever closes the photograph, its tools are not lost. The windows beside it go before what
+/// they look at.
 ToolCommands::~ToolCommands()
 {
     qDeleteAll(m_window.findChildren<BesideWindow*>(QString(), Qt::FindDirectChildrenOnly));

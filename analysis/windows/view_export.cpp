@@ -15,7 +15,6 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QMessageBox>
 #include <QMimeData>
 
 #include <array>
@@ -134,10 +133,7 @@ void ViewExport::write(const QString& path, const QByteArray& bytes, QWidget* wi
     const files::Outcome outcome = files::writeWholeFile(path, bytes, files::Existing::Replace);
     if (outcome.isGood())
         return;
-    auto* box = new QMessageBox(QMessageBox::Warning, tr("警告"),
-                                tr("文件“%1”未能写入，原有文件保持不变。\n%2")
-                                    .arg(QDir::toNativeSeparators(path), outcomeText(outcome)),
-                                QMessageBox::Ok, window);
-    box->setTextFormat(Qt::PlainText);
-    dialogs::open(box);
+    dialogs::warn(tr("文件“%1”未能写入，原有文件保持不变。\n%2")
+                      .arg(QDir::toNativeSeparators(path), outcomeText(outcome)),
+                  window);
 }

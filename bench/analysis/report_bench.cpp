@@ -33,9 +33,10 @@ void wholeReport(benchmark::State& state)
     const QTemporaryDir folder;
     const QString path = folder.filePath("report.pdf");
     const analysis::Report report = testing::sampleReport("EN", 0, int(state.range(0)));
-    for ([[maybe_unused]] auto _ : state)
+    for ([[maybe_unused]] auto _ : state) {
         if (!analysis::writeReport(report, path))
             state.SkipWithError("the report was not written");
+    }
     state.counters["bytes"] = double(QFileInfo(path).size());
 }
 BENCHMARK(wholeReport)->Arg(20)->Arg(200)->Unit(benchmark::kMillisecond);

@@ -187,10 +187,6 @@
         <translation>Select a folder</translation>
     </message>
     <message>
-        <source>警告</source>
-        <translation>Warning</translation>
-    </message>
-    <message>
         <source>无法打开文件夹“%1”。</source>
         <translation>The folder “%1” cannot be opened.</translation>
     </message>
@@ -374,10 +370,6 @@
         <source>工具过多：%1（最多 %2）</source>
         <translation>too many tools: %1 (at most %2)</translation>
     </message>
-    <message>
-        <source>警告</source>
-        <translation>Warning</translation>
-    </message>
 </context>
 <context>
     <name>MyLabel</name>
@@ -525,10 +517,6 @@
         <translation>Save temperatures</translation>
     </message>
     <message>
-        <source>警告</source>
-        <translation>Warning</translation>
-    </message>
-    <message>
         <source>文件“%1”未能写入，原有文件保持不变。
 %2</source>
         <translation>The file “%1” could not be written; a file that was there stays as it was.
@@ -573,10 +561,6 @@
 %1</source>
         <translation>The measurements could not be kept with the photograph.
 %1</translation>
-    </message>
-    <message>
-        <source>警告</source>
-        <translation>Warning</translation>
     </message>
 </context>
 <context>
@@ -676,6 +660,13 @@
     <message>
         <source>记录的图像</source>
         <translation>Pictures of the record</translation>
+    </message>
+</context>
+<context>
+    <name>dialogs</name>
+    <message>
+        <source>警告</source>
+        <translation>Warning</translation>
     </message>
 </context>
 <context>

@@ -187,10 +187,6 @@
         <translation>폴더 선택</translation>
     </message>
     <message>
-        <source>警告</source>
-        <translation>경고</translation>
-    </message>
-    <message>
         <source>无法打开文件夹“%1”。</source>
         <translation>폴더 “%1”을(를) 열 수 없습니다.</translation>
     </message>
@@ -374,10 +370,6 @@
         <source>工具过多：%1（最多 %2）</source>
         <translation>도구가 너무 많습니다: %1(최대 %2)</translation>
     </message>
-    <message>
-        <source>警告</source>
-        <translation>경고</translation>
-    </message>
 </context>
 <context>
     <name>MyLabel</name>
@@ -521,10 +513,6 @@
         <translation>온도 저장</translation>
     </message>
     <message>
-        <source>警告</source>
-        <translation>경고</translation>
-    </message>
-    <message>
         <source>文件“%1”未能写入，原有文件保持不变。
 %2</source>
         <translation>파일 “%1”을(를) 쓸 수 없습니다. 기존 파일은 그대로 남아 있습니다.
@@ -569,10 +557,6 @@
 %1</source>
         <translation>측정을 사진과 함께 보관하지 못했습니다.
 %1</translation>
-    </message>
-    <message>
-        <source>警告</source>
-        <translation>경고</translation>
     </message>
 </context>
 <context>
@@ -672,6 +656,13 @@
     <message>
         <source>记录的图像</source>
         <translation>기록의 이미지</translation>
+    </message>
+</context>
+<context>
+    <name>dialogs</name>
+    <message>
+        <source>警告</source>
+        <translation>경고</translation>
     </message>
 </context>
 <context>

@@ -187,10 +187,6 @@
         <translation>Выберите папку</translation>
     </message>
     <message>
-        <source>警告</source>
-        <translation>Предупреждение</translation>
-    </message>
-    <message>
         <source>无法打开文件夹“%1”。</source>
         <translation>Не удалось открыть папку «%1».</translation>
     </message>
@@ -374,10 +370,6 @@
         <source>工具过多：%1（最多 %2）</source>
         <translation>слишком много инструментов: %1 (не более %2)</translation>
     </message>
-    <message>
-        <source>警告</source>
-        <translation>Предупреждение</translation>
-    </message>
 </context>
 <context>
     <name>MyLabel</name>
@@ -529,10 +521,6 @@
         <translation>Сохранение температур</translation>
     </message>
     <message>
-        <source>警告</source>
-        <translation>Предупреждение</translation>
-    </message>
-    <message>
         <source>文件“%1”未能写入，原有文件保持不变。
 %2</source>
         <translation>Не удалось записать файл «%1»; прежний файл остался без изменений.
@@ -577,10 +565,6 @@
 %1</source>
         <translation>Не удалось сохранить измерения вместе со снимком.
 %1</translation>
-    </message>
-    <message>
-        <source>警告</source>
-        <translation>Предупреждение</translation>
     </message>
 </context>
 <context>
@@ -680,6 +664,13 @@
     <message>
         <source>记录的图像</source>
         <translation>Изображения записи</translation>
+    </message>
+</context>
+<context>
+    <name>dialogs</name>
+    <message>
+        <source>警告</source>
+        <translation>Предупреждение</translation>
     </message>
 </context>
 <context>

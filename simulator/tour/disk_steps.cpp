@@ -76,9 +76,10 @@ void openAPhotograph(Walk& walk)
 {
     const QString first = browser(walk).fileNames.value(0);
     QListWidget* list = nullptr;
-    for (QListWidget* each : browser(walk).findChildren<QListWidget*>())
+    for (QListWidget* each : browser(walk).findChildren<QListWidget*>()) {
         if (each->count() > 0 && each->item(0)->text() == first)
             list = each;
+    }
     walk.await("the thumbnails are listed", [list] { return list != nullptr; });
     walk.doubleClick(*list->viewport(), list->visualItemRect(list->item(0)));
     walk.await("the photograph is open", [&] {

@@ -144,9 +144,10 @@ void Walk::shoot(const char* name)
 {
     QTest::qWait(glance);
     QRect shown;
-    for (const QWidget* widget : QApplication::topLevelWidgets())
+    for (const QWidget* widget : QApplication::topLevelWidgets()) {
         if (widget->isVisible())
             shown |= widget->frameGeometry();
+    }
     QScreen* screen = QGuiApplication::primaryScreen();
     shown &= screen->geometry();
     const QString path = pathOf(QStringLiteral("%1-%2.png")

@@ -50,9 +50,10 @@ QString pdfInfo(const QString& path, const QString& key)
 {
     const QStringList lines =
         QString::fromUtf8(output(QStringLiteral("pdfinfo"), {path})).split(QLatin1Char('\n'));
-    for (const QString& line : lines)
+    for (const QString& line : lines) {
         if (line.startsWith(key + QLatin1Char(':')))
             return line.mid(key.size() + 1).trimmed();
+    }
     return {};
 }
 

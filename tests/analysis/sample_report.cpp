@@ -48,12 +48,13 @@ analysis::Report sampleReport(const QString& language, int unitIndex, int toolCo
     // Sensor noise is what makes pictures large.
     quint32 noise = 1;
     QImage picture = grayPicture();
-    for (int y = 0; y < picture.height(); ++y)
+    for (int y = 0; y < picture.height(); ++y) {
         for (int x = 0; x < picture.width(); ++x) {
             noise = noise * 1664525U + 1013904223U;
             uchar& pixel = picture.scanLine(y)[x];
             pixel = uchar(qBound(0, pixel + int(noise >> 30U) - 2, 255));
         }
+    }
     const std::array<QRgb, 256> iron = ironPalette();
     picture.reinterpretAsFormat(QImage::Format_Indexed8);
     picture.setColorTable(QVector<QRgb>(iron.begin(), iron.end()));

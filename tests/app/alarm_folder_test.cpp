@@ -69,9 +69,10 @@ private:
     static void choose(const QString& folder)
     {
         seting* dialog = nullptr;
-        for (QWidget* const widget : QApplication::topLevelWidgets())
+        for (QWidget* const widget : QApplication::topLevelWidgets()) {
             if (auto* const settings = qobject_cast<seting*>(widget))
                 dialog = settings;
+        }
         QVERIFY(dialog);
         const testing::Answer<QFileDialog> answer(
             [&folder](QFileDialog& chooser) { testing::choose(chooser, folder); });

@@ -36,9 +36,10 @@ class WindowsDriveTest : public QObject
 
     static QListWidget* thumbnails(const photo_window& browser)
     {
-        for (auto* list : browser.findChildren<QListWidget*>())
+        for (auto* list : browser.findChildren<QListWidget*>()) {
             if (list->objectName() != QLatin1String("listWidget")) // the drives
                 return list;
+        }
         return nullptr;
     }
 

@@ -81,6 +81,21 @@ private slots:
         QVERIFY(!m_page && !dialog);
     }
 
+    void aMessageOfFailureIsNoMarkUpAndGoesWithItsPage()
+    {
+        const QPointer<QMessageBox> box =
+            dialogs::warn(QStringLiteral("<b>name</b>"), m_window.get(), m_page);
+        QVERIFY(box->isVisible());
+        QCOMPARE(box->parentWidget(), m_window.get());
+        QCOMPARE(box->icon(), QMessageBox::Warning);
+        QCOMPARE(box->windowTitle(), QStringLiteral("警告"));
+        QCOMPARE(box->text(), QStringLiteral("<b>name</b>"));
+        QCOMPARE(box->textFormat(), Qt::PlainText);
+        dialogs::end(m_page);
+        QVERIFY(!m_page);
+        QTRY_VERIFY(!box);
+    }
+
     void aPageThatWaitsGoesWhenItsFunctionHasEnded()
     {
         bool wasWaiting = false;

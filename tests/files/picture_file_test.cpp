@@ -34,9 +34,10 @@ class PictureFileTest : public QObject
     static QPixmap picture()
     {
         QImage image(60, 80, QImage::Format_RGB888);
-        for (int y = 0; y < image.height(); ++y)
+        for (int y = 0; y < image.height(); ++y) {
             for (int x = 0; x < image.width(); ++x)
                 image.setPixelColor(x, y, QColor(x * 4, y * 3, (x * y) % 256));
+        }
         return QPixmap::fromImage(image);
     }
 

@@ -11,6 +11,8 @@ import pathlib
 import re
 import sys
 
+import braces
+
 # From the ground up: a folder includes only what stands in the same line or above it.
 ROOMS = [
     "config",
@@ -107,6 +109,12 @@ def long_sources(checkout):
             yield f"{name}: {lines} lines, more than {MOST_LINES}"
 
 
+def wrong_braces(checkout):
+    for name in sources(checkout, ".cpp", ".h") + sources_beside(checkout):
+        for line, complaint in braces.complaints((checkout / name).read_text(encoding="utf-8")):
+            yield f"{name}:{line}: {complaint}"
+
+
 def tested_elsewhere(checkout):
     """File -> reason. A paragraph is a reason, the indented one below it names the files."""
     reasons = {}
@@ -161,6 +169,7 @@ def complaints(checkout):
     yield from names_of_no_source(checkout)
     yield from without_licence(checkout)
     yield from long_sources(checkout)
+    yield from wrong_braces(checkout)
     yield from wrong_includes(checkout)
     yield from other_orders(checkout)
     yield from sources_without_tests(checkout)

@@ -96,6 +96,33 @@ class House(unittest.TestCase):
             self.write(name, "\n" * 350)
             self.assertEqual(self.complaints(), [])
 
+    def test_braces(self):
+        good = """void f()
+{
+    if (a)
+        call(b, [] { return c; });
+    if (a) {
+        one();
+    } else if (b) {
+        two();
+    }
+    for (int x = 0; x < 9; ++x) {
+        if (x)
+            call("if (a) for (;;)", '{'); // while (x) if (y)
+    }
+    do
+        ++x;
+    while (x);
+}
+"""
+        self.write("live/frame.cpp", good)
+        self.assertEqual(self.complaints(), [])
+        for broken, line in (("if (a) for (;;)\n;", 2), ("while (a)\nif (b)\nc();", 2),
+                             ("if (a)\nb();\nelse\nfor (;;)\nc();", 4),
+                             ("if (a) {\nb(\nc);\n}", 2), ("for (auto x : y) { z(); }", 2)):
+            self.write("live/frame.cpp", broken)
+            self.assertOneComplaint(f"live/frame.cpp:{line}: ", "braces")
+
     def test_a_source_without_a_test(self):
         self.write("live/other.cpp", "")
         self.assertOneComplaint("live/other.cpp", "other_test.cpp")

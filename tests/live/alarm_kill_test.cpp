@@ -176,9 +176,10 @@ private:
     bool makingHas(int files) const
     {
         const QDir making(path(QStringLiteral(".making")));
-        for (const QString& record : making.entryList(QDir::Dirs | QDir::NoDotAndDotDot))
+        for (const QString& record : making.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
             if (QDir(making.filePath(record)).entryList(QDir::Files).size() >= files)
                 return true;
+        }
         return false;
     }
 

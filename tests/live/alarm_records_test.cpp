@@ -59,9 +59,10 @@ private slots:
     void picturesHaveTheDefaultQuality()
     {
         QList<QImage> pictures = grays(7);
-        for (int x = 0; x < 240; ++x)
+        for (int x = 0; x < 240; ++x) {
             for (int y = 0; y < 320; ++y)
                 pictures[0].setPixelColor(x, y, QColor(x, y & 0xFF, (x * y) & 0xFF));
+        }
         live::writeRecord(path(), moment, pictures, readOuts);
         QVERIFY(pictures[0].save(path(QStringLiteral("expected.jpg")), "jpg", -1));
         QCOMPARE(testing::fileBytes(path(momentName + QStringLiteral("/F1.JPG"))),

@@ -50,9 +50,10 @@ void CamerWindowCameraTest::pictureIsScaledSmoothly()
     const Page page;
     page->show();
     QImage stripes(240, 320, QImage::Format_RGB888);
-    for (int y = 0; y < stripes.height(); ++y)
+    for (int y = 0; y < stripes.height(); ++y) {
         for (int x = 0; x < stripes.width(); ++x)
             stripes.setPixelColor(x, y, x % 2 == 0 ? Qt::black : Qt::white);
+    }
     page->display_cap(stripes);
     const QImage shown = page.get<QLabel>("label_17")->pixmap()->toImage();
     QVERIFY(shown.width() != 240);

@@ -20,7 +20,7 @@ namespace {
 /// The opaque pixels of a resource as they must show inside `shown`, at any place.
 bool shows(const QImage& shown, const QImage& icon)
 {
-    for (int top = 0; top + icon.height() <= shown.height(); ++top)
+    for (int top = 0; top + icon.height() <= shown.height(); ++top) {
         for (int left = 0; left + icon.width() <= shown.width(); ++left) {
             bool same = true;
             for (int i = 0; same && i < icon.width() * icon.height(); ++i) {
@@ -33,6 +33,7 @@ bool shows(const QImage& shown, const QImage& icon)
             if (same)
                 return true;
         }
+    }
     return false;
 }
 

@@ -125,9 +125,10 @@ void CamerWindowSaveTest::savedPictureIsScaledSmoothly()
 {
     const Page page;
     QImage stripes(240, 320, QImage::Format_RGB888);
-    for (int y = 0; y < stripes.height(); ++y)
+    for (int y = 0; y < stripes.height(); ++y) {
         for (int x = 0; x < stripes.width(); ++x)
             stripes.setPixelColor(x, y, x % 2 == 0 ? Qt::black : Qt::white);
+    }
     page->display_cap(stripes);
     const Answer<QFileDialog> answer(
         [](QFileDialog& dialog) { testing::choose(dialog, QStringLiteral("cap.png")); });

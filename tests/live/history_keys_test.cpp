@@ -183,9 +183,10 @@ private slots:
     void pictureIsScaledSmoothly()
     {
         QImage stripes(240, 320, QImage::Format_RGB888);
-        for (int y = 0; y < stripes.height(); ++y)
+        for (int y = 0; y < stripes.height(); ++y) {
             for (int x = 0; x < stripes.width(); ++x)
                 stripes.setPixelColor(x, y, x % 2 == 0 ? Qt::black : Qt::white);
+        }
         QVERIFY(stripes.save(path(names[0] + QStringLiteral("/a.png"))));
         const Page page;
         page->resize(1100, 760);

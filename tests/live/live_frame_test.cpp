@@ -132,14 +132,17 @@ private slots:
         const auto luma = [](int x, int y) {
             return uchar((x * 7 + y * 13 + x * y) & 0xFF);
         };
-        for (int y = 0; y < live::frameRows; ++y)
+        for (int y = 0; y < live::frameRows; ++y) {
             for (int x = 0; x < live::frameColumns; ++x)
                 frame[std::size_t(y * 480 + x * 2)] = luma(x, y);
+        }
         const std::vector<uchar> rgb = converted(frame);
-        for (int y = 0; y < live::frameRows; ++y)
-            for (int x = 0; x < live::frameColumns; ++x)
+        for (int y = 0; y < live::frameRows; ++y) {
+            for (int x = 0; x < live::frameColumns; ++x) {
                 for (int channel = 0; channel < 3; ++channel)
                     QCOMPARE(int(rgb[std::size_t(y * 720 + x * 3 + channel)]), int(luma(x, y)));
+            }
+        }
     }
 
     void stopsAtTheEndOfThePicture()

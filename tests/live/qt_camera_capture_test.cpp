@@ -47,9 +47,10 @@ QVideoFrame frameOf(const QByteArray& bytes, bool mappable = true, const QSize& 
 QByteArray bytesOf(int luma, int u = 128, int v = 128)
 {
     QByteArray bytes;
-    for (int pair = 0; pair < 240 * 320 / 2; ++pair)
+    for (int pair = 0; pair < 240 * 320 / 2; ++pair) {
         for (const int byte : {luma, u, luma, v})
             bytes.append(char(byte));
+    }
     return bytes + QByteArray::fromHex("6a0154016100");
 }
 

@@ -312,13 +312,14 @@ private slots:
             }
             return darkest;
         };
-        for (const QPoint& tip : {bar->startMarker, bar->endMarker})
+        for (const QPoint& tip : {bar->startMarker, bar->endMarker}) {
             for (const QPointF& middle : {QPointF(7.5, -5), QPointF(7.5, 5), QPointF(15, 0)})
                 QVERIFY2(darkestNear(tip + middle + QPointF(0.5, 0.5)) < 160,
                          qPrintable(QStringLiteral("%1, %2: %3")
                                         .arg(middle.x())
                                         .arg(middle.y())
                                         .arg(darkestNear(tip + middle + QPointF(0.5, 0.5)))));
+        }
     }
 
 private:

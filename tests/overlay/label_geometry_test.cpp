@@ -72,20 +72,24 @@ class LabelGeometryTest : public QObject
 private slots:
     void widgetToImageOverAllSizes()
     {
-        for (const int width : sizes)
-            for (const int height : sizes)
+        for (const int width : sizes) {
+            for (const int height : sizes) {
                 for (const QSize& image :
                      {fitted(width, height), QSize(width, height), QSize(240, 320)})
                     checkToImage({width, image.width(), height, image.height()});
+            }
+        }
     }
 
     void imageToWidgetOverAllSizes()
     {
-        for (const int width : sizes)
-            for (const int height : sizes)
+        for (const int width : sizes) {
+            for (const int height : sizes) {
                 for (const QSize& image :
                      {fitted(width, height), QSize(width, height), QSize(240, 320)})
                     checkToWidget({width, image.width(), height, image.height()});
+            }
+        }
     }
 
     void spotsWorkedOutByHand_data()
@@ -215,7 +219,7 @@ private:
                                      g.labelWidth - 1,
                                      g.labelWidth,
                                      g.labelWidth + 9};
-        for (const int x : xs)
+        for (const int x : xs) {
             for (const double part : {-0.1, 0.0, 0.21, 0.5, 0.77, 0.999, 1.0, 1.2}) {
                 const int y = int(part * g.labelHeight);
                 const Box result = overlay::toImage(g, {x, y, 12, 16}, before);
@@ -232,11 +236,12 @@ private:
                 if (!right)
                     QFAIL(qPrintable(describe(g, x, y, result)));
             }
+        }
     }
 
     static void checkToWidget(const Geometry& g)
     {
-        for (const int x : {-1, 0, 1, 2, 59, 119, 120, 121, 200, 239, 240})
+        for (const int x : {-1, 0, 1, 2, 59, 119, 120, 121, 200, 239, 240}) {
             for (const int y : {-1, 0, 1, 3, 77, 160, 161, 300, 319, 320}) {
                 const Box result = overlay::toWidget(g, {x, y, 9, 13});
                 const int marginX = std::max(g.labelWidth - g.imageWidth, 0);
@@ -251,6 +256,7 @@ private:
                 if (!right)
                     QFAIL(qPrintable(describe(g, x, y, result)));
             }
+        }
     }
 
     static QString describe(const Geometry& g, int x, int y, const Box& result)

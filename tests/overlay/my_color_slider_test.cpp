@@ -19,9 +19,10 @@ namespace {
 QList<QLabel*> scaleOf(const My_ColorSlider& bar)
 {
     QList<QLabel*> labels;
-    for (QLabel* label : bar.findChildren<QLabel*>())
+    for (QLabel* label : bar.findChildren<QLabel*>()) {
         if (label->objectName().startsWith(QLatin1String("scaleLabel")))
             labels.append(label);
+    }
     std::sort(labels.begin(), labels.end(),
               [](const QLabel* a, const QLabel* b) { return a->y() < b->y(); });
     return labels;

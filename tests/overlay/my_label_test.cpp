@@ -38,10 +38,11 @@ private slots:
     {
         const QMetaObject& meta = MyLabel::staticMetaObject;
         QStringList found;
-        for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
+        for (int i = meta.methodOffset(); i < meta.methodCount(); ++i) {
             if (meta.method(i).methodType() == QMetaMethod::Signal)
                 found.append(QString::fromLatin1(meta.method(i).methodSignature()) + ' ' +
                              QString::fromLatin1(meta.method(i).parameterNames().join(',')));
+        }
         QCOMPARE(found, QStringList({"Point_XY(int,int) px,py", "updat_Tool() ",
                                      "Focus_idev(int) bt_st", "Set_Select(int) dev"}));
     }

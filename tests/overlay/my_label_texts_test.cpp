@@ -240,12 +240,13 @@ private slots:
 private:
     static void addSpot(Description& description, const QPointF& centre, const QColor& colour)
     {
-        for (const QPointF& arm : {QPointF(-1, 0), QPointF(1, 0), QPointF(0, -1), QPointF(0, 1)})
+        for (const QPointF& arm : {QPointF(-1, 0), QPointF(1, 0), QPointF(0, -1), QPointF(0, 1)}) {
             for (const double side : {-2.0, 2.0}) {
                 const QPointF across(side * arm.y(), side * arm.x());
                 description.strokes.push_back(
                     {{centre + across + 4 * arm, centre + across + 2 * arm}, colour});
             }
+        }
     }
 
     /// The picture with a text whose upper left corner is `place`, in the label's pixels.
@@ -270,30 +271,36 @@ private:
     static int differingPixels(const QImage& actual, const QImage& expected, const QRect& area)
     {
         int count = 0;
-        for (int y = area.top(); y <= area.bottom(); ++y)
-            for (int x = area.left(); x <= area.right(); ++x)
+        for (int y = area.top(); y <= area.bottom(); ++y) {
+            for (int x = area.left(); x <= area.right(); ++x) {
                 if (!alike(actual.pixelColor(x, y), expected.pixelColor(x, y)))
                     ++count;
+            }
+        }
         return count;
     }
 
     static QRect changedArea(const QImage& before, const QImage& after)
     {
         QRect area;
-        for (int y = 0; y < after.height(); ++y)
-            for (int x = 0; x < after.width(); ++x)
+        for (int y = 0; y < after.height(); ++y) {
+            for (int x = 0; x < after.width(); ++x) {
                 if (before.pixel(x, y) != after.pixel(x, y))
                     area |= QRect(x, y, 1, 1);
+            }
+        }
         return area;
     }
 
     static bool holdsColour(const QImage& image, double ratio, const QRect& area,
                             const QColor& colour)
     {
-        for (int y = int(area.top() * ratio); y < area.bottom() * ratio; ++y)
-            for (int x = int(area.left() * ratio); x < area.right() * ratio; ++x)
+        for (int y = int(area.top() * ratio); y < area.bottom() * ratio; ++y) {
+            for (int x = int(area.left() * ratio); x < area.right() * ratio; ++x) {
                 if (alike(image.pixelColor(x, y), colour))
                     return true;
+            }
+        }
         return false;
     }
 };

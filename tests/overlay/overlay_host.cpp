@@ -52,7 +52,7 @@ std::array<QRgb, 256> ironPalette()
                                          {235, 255, 225, 60},
                                          {255, 255, 255, 245}}};
     std::array<QRgb, 256> palette{};
-    for (std::size_t k = 0; k + 1 < stops.size(); ++k)
+    for (std::size_t k = 0; k + 1 < stops.size(); ++k) {
         for (int i = stops[k].at; i <= stops[k + 1].at; ++i) {
             const auto mix = [&](int from, int to) {
                 return from + (to - from) * (i - stops[k].at) / (stops[k + 1].at - stops[k].at);
@@ -61,6 +61,7 @@ std::array<QRgb, 256> ironPalette()
                 qRgb(mix(stops[k].red, stops[k + 1].red), mix(stops[k].green, stops[k + 1].green),
                      mix(stops[k].blue, stops[k + 1].blue));
         }
+    }
     return palette;
 }
 

@@ -54,7 +54,7 @@ Verdict judge(double away, double penWidth, bool upright, double pixel)
 QString firstDifference(const QImage& image, double ratio, const Description& description)
 {
     const double pixel = 1 / ratio;
-    for (int row = 0; row < image.height(); ++row)
+    for (int row = 0; row < image.height(); ++row) {
         for (int column = 0; column < image.width(); ++column) {
             const QPointF at((column + 0.5) * pixel, (row + 0.5) * pixel);
             const auto hides = [&](const QRect& area) {
@@ -97,6 +97,7 @@ QString firstDifference(const QImage& image, double ratio, const Description& de
                     .arg(at.y())
                     .arg(actual.name(), expected.name());
         }
+    }
     return {};
 }
 

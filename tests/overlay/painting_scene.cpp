@@ -106,14 +106,16 @@ QString difference(const QImage& actual, const QImage& expected, unsigned number
     if (found.size() != expected.size()) {
         where = QStringLiteral("%1 x %2").arg(found.width()).arg(found.height());
     } else {
-        for (int y = 0; y < found.height() && where.isEmpty(); ++y)
-            for (int x = 0; x < found.width() && where.isEmpty(); ++x)
+        for (int y = 0; y < found.height() && where.isEmpty(); ++y) {
+            for (int x = 0; x < found.width() && where.isEmpty(); ++x) {
                 if (found.pixel(x, y) != expected.pixel(x, y))
                     where = QStringLiteral("(%1, %2) is %3 instead of %4")
                                 .arg(x)
                                 .arg(y)
                                 .arg(found.pixel(x, y), 8, 16)
                                 .arg(expected.pixel(x, y), 8, 16);
+            }
+        }
     }
     const QDir folder(QCoreApplication::applicationDirPath());
     found.save(folder.filePath(QStringLiteral("tool_painting_found.png")));

@@ -76,19 +76,23 @@ QString faultIn(const MyLabel& label, Selection selection)
 
 QString misplacedTool(const MyLabel& label)
 {
-    for (const auto& point : label.pointList)
+    for (const auto& point : label.pointList) {
         if (!isInPicture(point.x, point.y))
             return point.name;
-    for (const auto& line : label.lineList)
+    }
+    for (const auto& line : label.lineList) {
         if (!isInPicture(line.x1, line.y1) || !isInPicture(line.x2, line.y2))
             return line.name;
-    for (const auto& rect : label.rectList)
+    }
+    for (const auto& rect : label.rectList) {
         if (!isInPicture(rect.x1, rect.y1) || !isInPicture(rect.x2, rect.y2))
             return rect.name;
-    for (const auto& circle : label.circleList)
+    }
+    for (const auto& circle : label.circleList) {
         if (!isInPicture(circle.cx, circle.cy) || !isInPicture(circle.x2, circle.y2) ||
             circle.radius > 160)
             return circle.name;
+    }
     return {};
 }
 

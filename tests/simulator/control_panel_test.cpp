@@ -76,10 +76,11 @@ void ControlPanelTest::cleanup()
 QList<QWidget*> ControlPanelTest::controls() const
 {
     QList<QWidget*> found;
-    for (QWidget* child : m_panel->findChildren<QWidget*>())
+    for (QWidget* child : m_panel->findChildren<QWidget*>()) {
         if ((child->focusPolicy() & Qt::TabFocus) == Qt::TabFocus &&
             qobject_cast<QGroupBox*>(child->parentWidget()) != nullptr)
             found.append(child);
+    }
     return found;
 }
 

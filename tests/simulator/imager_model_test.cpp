@@ -13,9 +13,10 @@ namespace {
 Field ramp()
 {
     Field field;
-    for (int y = 0; y < 320; ++y)
+    for (int y = 0; y < 320; ++y) {
         for (int x = 0; x < 240; ++x)
             field.push_back(20.0F + 0.1F * float(x));
+    }
     return field;
 }
 

@@ -24,7 +24,7 @@ void PhotographRoundTripTest::readsWhatTheImagerSaw_data()
     QTest::addColumn<bool>("raw");
     QTest::addColumn<bool>("fahrenheit");
     QTest::addColumn<uint>("machineId");
-    for (int scene = 0; scene < 4; ++scene)
+    for (int scene = 0; scene < 4; ++scene) {
         for (int variant = 0; variant < 5; ++variant) {
             const bool raw = variant == 1;
             const bool fahrenheit = variant == 2 || variant == 4;
@@ -33,6 +33,7 @@ void PhotographRoundTripTest::readsWhatTheImagerSaw_data()
                           fahrenheit ? ", °F" : "")
                 << scene << modelIndex << raw << fahrenheit << uint(5 + variant % 2);
         }
+    }
 }
 
 void PhotographRoundTripTest::readsWhatTheImagerSaw()
@@ -68,7 +69,7 @@ void PhotographRoundTripTest::readsWhatTheImagerSaw()
         (raw ? 0.03125 : span / (read->parameters.grayMaximum - read->parameters.grayMinimum) / 2);
     double hottest = -1000;
     QPoint hottestPlace;
-    for (int y = 0; y < 320; ++y)
+    for (int y = 0; y < 320; ++y) {
         for (int x = 0; x < 240; ++x) {
             const float celsius = field[simulator::fieldIndex(x, y)];
             if (double(celsius) > hottest) {
@@ -86,6 +87,7 @@ void PhotographRoundTripTest::readsWhatTheImagerSaw()
                                     .arg(x)
                                     .arg(y)));
         }
+    }
     QCOMPARE(QPoint(read->markerB.x, read->markerB.y), hottestPlace);
     QCOMPARE(QPoint(read->markerC.x, read->markerC.y), QPoint(120, 160));
     QCOMPARE(int(read->parameters.emissivity100), 88);

@@ -44,7 +44,7 @@ void SceneTest::hotSpotIsTheHottestPlace()
 {
     QFETCH(SceneKind, kind);
     const Scene scene(kind);
-    for (const double hotSpot : {30.0, scene.usualHotSpot(), 150.0})
+    for (const double hotSpot : {30.0, scene.usualHotSpot(), 150.0}) {
         for (const double seconds : {0.0, 0.7, 3.3, 61.4, 3600.0}) {
             const Field field = scene.field(seconds, hotSpot);
             QCOMPARE(field.size(), std::size_t(76800));
@@ -52,6 +52,7 @@ void SceneTest::hotSpotIsTheHottestPlace()
             QVERIFY2(std::abs(hottest - hotSpot) < 0.3,
                      qPrintable(QStringLiteral("%1 instead of %2").arg(hottest).arg(hotSpot)));
         }
+    }
 }
 
 void SceneTest::temperaturesArePlausible()

@@ -14,9 +14,10 @@ namespace {
 Field slope()
 {
     Field field;
-    for (int y = 0; y < 320; ++y)
+    for (int y = 0; y < 320; ++y) {
         for (int x = 0; x < 240; ++x)
             field.push_back(-5 + float(y) / 8 + float(x) / 16);
+    }
     field[40 * 240 + 30] = 60;
     field[300 * 240 + 200] = -20;
     return field;
@@ -57,7 +58,7 @@ void compareBitmap(const QByteArray& file, int grayAt, bool isReversed, int pale
     QImage image;
     QVERIFY(image.loadFromData(file, "bmp"));
     QCOMPARE(image.size(), QSize(240, 320));
-    for (int y = 0; y < 320; ++y)
+    for (int y = 0; y < 320; ++y) {
         for (int x = 0; x < 240; ++x) {
             const int at = y * 240 + x;
             const int entry =
@@ -67,6 +68,7 @@ void compareBitmap(const QByteArray& file, int grayAt, bool isReversed, int pale
             QVERIFY(std::abs(qGreen(shown) - (entry >> 5 & 63) * 4) <= tolerance);
             QVERIFY(std::abs(qBlue(shown) - (entry & 31) * 8) <= tolerance);
         }
+    }
 }
 
 } // namespace
@@ -150,7 +152,7 @@ void SimulatedPhotographTest::rawVariant()
     QCOMPARE(raw(128, 96), 4730);  // (22.5 + 273.15) · 16 = 4730.4
     QCOMPARE(raw(1, 1), 4296);     // first shown at (2, 2): (−4.625 + 273.15) · 16 = 4296.4
     const Field field = slope();
-    for (int y = 0; y < 320; ++y)
+    for (int y = 0; y < 320; ++y) {
         for (int x = 0; x < 240; ++x) {
             const double celsius = raw(4 * y / 5, 4 * x / 5) * 0.0625 - 273.15;
             const double there = double(field[std::size_t(y) * 240 + std::size_t(x)]);
@@ -159,6 +161,7 @@ void SimulatedPhotographTest::rawVariant()
                                   (std::abs(x - 200) < 2 && std::abs(y - 300) < 2);
             QVERIFY(isAtSpot || std::abs(celsius - there) <= 0.1875 + 0.04);
         }
+    }
 
     settings.modelIndex = 1;
     const QByteArray turned = simulator::photograph(slope(), settings);

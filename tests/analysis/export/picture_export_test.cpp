@@ -39,9 +39,10 @@ overlay::Tools someTools()
 int countOf(const QImage& image, const QRect& place, QRgb colour)
 {
     int count = 0;
-    for (int y = place.top(); y <= place.bottom(); ++y)
+    for (int y = place.top(); y <= place.bottom(); ++y) {
         for (int x = place.left(); x <= place.right(); ++x)
             count += image.pixel(x, y) == colour ? 1 : 0;
+    }
     return count;
 }
 
@@ -120,13 +121,14 @@ private slots:
                                            geometry.imageWidth, geometry.imageHeight);
             // Wherever the tools are drawn without a doubt, the picture shows them.
             int drawn = 0;
-            for (int y = 0; y < tools.height(); ++y)
+            for (int y = 0; y < tools.height(); ++y) {
                 for (int x = 0; x < tools.width(); ++x) {
                     if (qAlpha(tools.pixel(x, y)) != 255)
                         continue;
                     ++drawn;
                     QCOMPARE(picture.pixel(x, y), tools.pixel(x, y));
                 }
+            }
             QVERIFY(drawn > 100);
         }
         QVERIFY(pictureWithTools(shown(), {}).isNull());
@@ -192,6 +194,19 @@ private slots:
         QVERIFY(countOf(with, {0, 642, with.width(), with.height() - 642}, qRgb(0, 0, 0)) > 200);
         // Nothing was measured: nothing stands below.
         QCOMPARE(exportedPicture(shown(), options).size(), QSize(480, 640));
+    }
+
+    void itsSizeIsKnownBefore()
+    {
+        for (const int scale : {0, 1, 2, 4, 9}) {
+            for (const bool hasColourBar : {false, true}) {
+                for (const bool hasValues : {false, true}) {
+                    const PictureOptions options{scale, hasColourBar, hasValues};
+                    QCOMPARE(exportedSize(shown(someTools()), options),
+                             exportedPicture(shown(someTools()), options).size());
+                }
+            }
+        }
     }
 
     /// A word that is longer than the picture is wide is not cut.

@@ -20,10 +20,12 @@ QStringList scaleTexts(qint16 maximum10, qint16 minimum10, analysis::Conversion 
 QRect inked(const QImage& picture, const QRect& within)
 {
     QRect ink;
-    for (int y = within.top(); y <= within.bottom(); ++y)
-        for (int x = within.left(); x <= within.right(); ++x)
+    for (int y = within.top(); y <= within.bottom(); ++y) {
+        for (int x = within.left(); x <= within.right(); ++x) {
             if (picture.rect().contains(x, y) && qAlpha(picture.pixel(x, y)) > 127)
                 ink |= QRect(x, y, 1, 1);
+        }
+    }
     return ink;
 }
 

@@ -143,7 +143,7 @@ bool stands(const QVector<PdfWord>& page, const QString& text, const QRectF& pri
 
 bool overlapping(const QVector<PdfWord>& page)
 {
-    for (int i = 0; i < page.size(); ++i)
+    for (int i = 0; i < page.size(); ++i) {
         for (int k = i + 1; k < page.size(); ++k) {
             // The boxes include the font's line spacing; letters reach only about that far.
             const QRectF a = page[i].box.adjusted(0, 3, 0, -2);
@@ -153,6 +153,7 @@ bool overlapping(const QVector<PdfWord>& page)
                 return true;
             }
         }
+    }
     return false;
 }
 } // namespace testing

@@ -153,9 +153,10 @@ private slots:
             }
             QStringList expected{"测温信息(°C)"};
             expected += words("CH").header;
-            for (int row = 0; row < rows[page]; ++row, ++tool)
+            for (int row = 0; row < rows[page]; ++row, ++tool) {
                 for (const QString& cell : report.tools[tool])
                     expected.append(cell);
+            }
             QCOMPARE(found, expected);
         }
         QCOMPARE(tool, report.tools.size());
@@ -172,9 +173,10 @@ private slots:
         QCOMPARE(images.size(), 1);
         const QImage canvas = analysis::reportCanvas(report).convertToFormat(QImage::Format_ARGB32);
         QCOMPARE(images[0].size(), QSize(930, 960));
-        for (int y = 0; y < 960; ++y)
+        for (int y = 0; y < 960; ++y) {
             for (int x = 210; x < 930; ++x)
                 QCOMPARE(images[0].pixel(x, y), canvas.pixel(x, y));
+        }
 
         // On the page its corner is at (600, 3400) and both directions have one scale, which takes
         // the canvas to the end of the rule.

@@ -35,10 +35,11 @@ private slots:
     {
         QTest::addColumn<QString>("language");
         QTest::addColumn<int>("unitIndex");
-        for (const char* language : {"CH", "EN", "RU", "KO"})
+        for (const char* language : {"CH", "EN", "RU", "KO"}) {
             for (const int unitIndex : {0, 1})
                 QTest::addRow("%s %s", language, unitIndex == 0 ? "°C" : "°F")
                     << language << unitIndex;
+        }
     }
     void languagesAndUnits()
     {
@@ -88,9 +89,10 @@ private slots:
         for (int row = -1; row < 20; ++row) {
             const QRectF start = printedTable[row + 2].first().box;
             QVector<testing::PdfWord> line;
-            for (const testing::PdfWord& word : pages[1])
+            for (const testing::PdfWord& word : pages[1]) {
                 if (std::abs(word.box.bottom() - start.bottom()) < halfMillimetre)
                     line.append(word);
+            }
             std::sort(line.begin(), line.end(),
                       [](const auto& a, const auto& b) { return a.box.left() < b.box.left(); });
             QCOMPARE(line.size(), 5);

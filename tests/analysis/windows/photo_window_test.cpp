@@ -128,9 +128,10 @@ private slots:
         const auto whitePixels = [this] {
             const QImage bar = tabs().tabBar()->grab(tabs().tabBar()->tabRect(0)).toImage();
             int count = 0;
-            for (int y = 3; y < bar.height() - 3; ++y)
+            for (int y = 3; y < bar.height() - 3; ++y) {
                 for (int x = 0; x < bar.width(); ++x)
                     count += bar.pixelColor(x, y).lightness() > 200 ? 1 : 0;
+            }
             return count;
         };
         driveList().setFocus();
