@@ -80,11 +80,13 @@ private slots:
         QTest::addColumn<double>("stored");
         QTest::addColumn<double>("emissivity");
         QTest::addColumn<double>("surroundings");
-        for (const double stored : {1.0, 0.95, 0.6, 0.1})
-            for (const double emissivity : {1.0, 0.98, 0.6, 0.3, 0.1})
+        for (const double stored : {1.0, 0.95, 0.6, 0.1}) {
+            for (const double emissivity : {1.0, 0.98, 0.6, 0.3, 0.1}) {
                 for (const double surroundings : {-40.0, 0.0, 20.0, 300.0})
                     QTest::addRow("%g to %g in %g °C", stored, emissivity, surroundings)
                         << stored << emissivity << surroundings;
+            }
+        }
     }
     // Wherever reading and corrected reading lie from −40 to 1,000 °C.
     void whatTheOtherEmissivityExplains()

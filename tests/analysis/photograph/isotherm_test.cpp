@@ -37,9 +37,10 @@ QString covered(const Isotherm& isotherm)
 std::unique_ptr<Temperatures> ramp()
 {
     auto temperatures = std::make_unique<Temperatures>();
-    for (int x = 0; x < 240; ++x)
+    for (int x = 0; x < 240; ++x) {
         for (int y = 0; y < 320; ++y)
             (*temperatures)[temperatureIndex(x, y)] = float(x + y / 1000.0);
+    }
     return temperatures;
 }
 

@@ -34,8 +34,8 @@ private slots:
         QVERIFY(tells([this] { key(Qt::Key_Left); }));
         QVERIFY(tells([this] { undo(); }));
         QVERIFY(tells([this] { redo(); }));
-        QVERIFY(tells([this] { unit().setCurrentIndex(1); }));
         QVERIFY(tells([this] { load(testing::flat(120)); }));
+        QVERIFY(tells([this] { unit().setCurrentIndex(1); }));
         QVERIFY(tells([this] { key(Qt::Key_Delete); }));
         QVERIFY(tells([this] { click("pushButton_2"); }));
         QVERIFY(tells([this] {
