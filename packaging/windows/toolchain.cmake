@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 # Cross-building for 64-bit Windows with Debian's mingw-w64 compiler and the SDK that build-sdk
-# makes (Qt, OpenCV, the compiler's run-time libraries). The SDK lies in the user's cache, or where
+# makes (Qt, OpenCV, Qwt, Highway, the compiler's run-time libraries). The SDK lies in the user's cache, or where
 # the environment variable THERMADESK_WINSDK says.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR AMD64)

@@ -21,6 +21,7 @@ ROOMS = [
     "resources",
     "dialogs",
     "overlay",
+    "plots",
     "live",
     "analysis/photograph",
     "analysis/report",

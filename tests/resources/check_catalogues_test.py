@@ -24,8 +24,8 @@ class CheckCatalogues(unittest.TestCase):
         scratch = tempfile.TemporaryDirectory()
         self.addCleanup(scratch.cleanup)
         self.tree = pathlib.Path(scratch.name)
-        for room in ("config", "platform", "files", "dialogs", "overlay", "live", "analysis", "app",
-                     "resources"):
+        for room in ("config", "platform", "files", "dialogs", "overlay", "plots", "live", "analysis",
+                     "app", "resources"):
             (self.tree / room).mkdir()
         self.catalogues = self.tree / "resources" / "catalogues"
         self.catalogues.mkdir()

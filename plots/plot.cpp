@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#include "plots/plot.h"
+
+#include <QLocale>
+
+#include <array>
+
+namespace plots {
+namespace {
+
+QString quotedIfNeeded(QString field)
+{
+    for (const QChar& special : QStringLiteral(",\"\r\n")) {
+        if (field.contains(special))
+            return QLatin1Char('"') + field.replace(QLatin1Char('"'), QLatin1String("\"\"")) +
+                   QLatin1Char('"');
+    }
+    return field;
+}
+
+QString csvLine(const QStringList& row)
+{
+    QStringList fields;
+    for (const QString& field : row)
+        fields.append(quotedIfNeeded(field));
+    return fields.join(QLatin1Char(',')) + QLatin1Char('\n');
+}
+
+QString tabLine(const QStringList& row)
+{
+    QStringList fields;
+    for (const QString& field : row)
+        fields.append(field.simplified());
+    return fields.join(QLatin1Char('\t')) + QLatin1Char('\n');
+}
+
+} // namespace
+
+QColor colourOf(int series)
+{
+    // Told apart with each kind of colour blindness; none is too light for white paper.
+    static constexpr std::array<QRgb, 7> colours{0xff0072b2, 0xffd55e00, 0xff009e73, 0xffcc79a7,
+                                                 0xffe69f00, 0xff56b4e9, 0xff000000};
+    return QColor::fromRgb(colours[std::size_t(series) % colours.size()]);
+}
+
+QString captionOf(const Axis& axis)
+{
+    return axis.unit.isEmpty() ? axis.title : QStringLiteral("%1 (%2)").arg(axis.title, axis.unit);
+}
+
+QString numberText(double value, int decimals)
+{
+    QLocale plain = QLocale::c();
+    plain.setNumberOptions(QLocale::OmitGroupSeparator);
+    return plain.toString(value, 'f', decimals);
+}
+
+QByteArray csvOf(const Table& table)
+{
+    QString text = csvLine(table.captions);
+    for (const QStringList& row : table.rows)
+        text += csvLine(row);
+    return text.toUtf8();
+}
+
+QString tabSeparated(const Table& table)
+{
+    QString text = tabLine(table.captions);
+    for (const QStringList& row : table.rows)
+        text += tabLine(row);
+    return text;
+}
+
+} // namespace plots
