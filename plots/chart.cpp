@@ -63,9 +63,11 @@ Chart::Chart(QWidget* parent) : QwtPlot(parent), m_limits(*this)
     setAutoReplot(false);
     setPalette(paper());
     setAutoFillBackground(true);
+    setContentsMargins(6, 6, 12, 6);
     auto* canvas = new QwtPlotCanvas;
     canvas->setObjectName(QStringLiteral("canvas"));
     canvas->setFrameStyle(int(QFrame::Box) | int(QFrame::Plain));
+    canvas->setLineWidth(1);
     canvas->setFocusPolicy(Qt::NoFocus);
     canvas->setMouseTracking(true);
     setCanvas(canvas);
@@ -74,7 +76,7 @@ Chart::Chart(QWidget* parent) : QwtPlot(parent), m_limits(*this)
         setAxisScaleDraw(axis, new PlainScale);
     // Longer numbers of a narrower range do not push the canvas about.
     axisScaleDraw(yLeft)->setMinimumExtent(
-        fontMetrics().horizontalAdvance(QStringLiteral("-000.00")));
+        fontMetrics().horizontalAdvance(QStringLiteral("-00.00")));
     plotLayout()->setAlignCanvasToScales(true);
     axisScaleEngine(xBottom)->setAttribute(QwtScaleEngine::Floating);
 
@@ -95,7 +97,6 @@ void Chart::setPlot(const Plot& plot)
     const bool otherScale = plot.y.isLogarithmic != m_plot.y.isLogarithmic;
     m_plot = plot;
     if (otherScale) {
-        setAxisScaleEngine(yLeft, nullptr);
         if (m_plot.y.isLogarithmic) {
             setAxisScaleEngine(yLeft, new QwtLogScaleEngine);
             axisScaleEngine(yLeft)->setAttribute(QwtScaleEngine::Floating);
@@ -135,6 +136,7 @@ void Chart::takeCurve(std::size_t number)
     item.setTitle(plain(curve.name));
     item.setPen(curve.colour, 2, curve.isDashed ? Qt::DashLine : Qt::SolidLine);
     item.setLegendAttribute(QwtPlotCurve::LegendShowLine);
+    item.setLegendIconSize({28, 10}); // enough for dashes
     item.setSamples(points);
 }
 
@@ -162,7 +164,11 @@ bool Chart::isDrawn(const QPointF& point) const
 
 void Chart::takeAxes()
 {
-    setTitle(plain(m_plot.title));
+    QwtText title = plain(m_plot.title);
+    QFont bold = font();
+    bold.setBold(true);
+    title.setFont(bold);
+    setTitle(title);
     setAxisTitle(xBottom, plain(captionOf(m_plot.x)));
     setAxisTitle(yLeft, plain(captionOf(m_plot.y)));
 }

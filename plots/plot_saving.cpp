@@ -12,7 +12,6 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QMessageBox>
 
 #include <array>
 
@@ -96,12 +95,9 @@ void PlotSaving::ask(Chart& chart, const QString& name, QWidget* page)
                 files::writeWholeFile(path, kind.bytes(chart), files::Existing::Replace);
             if (outcome.isGood())
                 return;
-            auto* box = new QMessageBox(QMessageBox::Warning, tr("警告"),
-                                        tr("文件“%1”未能写入，原有文件保持不变。\n%2")
-                                            .arg(QDir::toNativeSeparators(path), outcome.detail),
-                                        QMessageBox::Ok, window);
-            box->setTextFormat(Qt::PlainText);
-            dialogs::open(box);
+            dialogs::warn(tr("文件“%1”未能写入，原有文件保持不变。\n%2")
+                              .arg(QDir::toNativeSeparators(path), outcome.detail),
+                          window);
         });
     dialogs::open(where, page);
 }

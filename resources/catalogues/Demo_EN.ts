@@ -456,6 +456,19 @@
     </message>
 </context>
 <context>
+    <name>PlotSaving</name>
+    <message>
+        <source>保存曲线图</source>
+        <translation>Save plot</translation>
+    </message>
+    <message>
+        <source>文件“%1”未能写入，原有文件保持不变。
+%2</source>
+        <translation>The file “%1” could not be written; a file that was there stays as it was.
+%2</translation>
+    </message>
+</context>
+<context>
     <name>SelectionJob</name>
     <message>
         <source>正在写入文件</source>
@@ -732,6 +745,21 @@ Which shall be opened?</translation>
     <message>
         <source>照片</source>
         <translation>Photographs</translation>
+    </message>
+</context>
+<context>
+    <name>plots::PlotView</name>
+    <message>
+        <source>显示全部</source>
+        <translation>Show everything</translation>
+    </message>
+    <message>
+        <source>复制</source>
+        <translation>Copy</translation>
+    </message>
+    <message>
+        <source>保存...</source>
+        <translation>Save...</translation>
     </message>
 </context>
 <context>

@@ -456,6 +456,19 @@
     </message>
 </context>
 <context>
+    <name>PlotSaving</name>
+    <message>
+        <source>保存曲线图</source>
+        <translation>그래프 저장</translation>
+    </message>
+    <message>
+        <source>文件“%1”未能写入，原有文件保持不变。
+%2</source>
+        <translation>파일 “%1”을(를) 쓸 수 없습니다. 기존 파일은 그대로 남아 있습니다.
+%2</translation>
+    </message>
+</context>
+<context>
     <name>SelectionJob</name>
     <message>
         <source>正在写入文件</source>
@@ -728,6 +741,21 @@
     <message>
         <source>照片</source>
         <translation>사진</translation>
+    </message>
+</context>
+<context>
+    <name>plots::PlotView</name>
+    <message>
+        <source>显示全部</source>
+        <translation>전체 표시</translation>
+    </message>
+    <message>
+        <source>复制</source>
+        <translation>복사</translation>
+    </message>
+    <message>
+        <source>保存...</source>
+        <translation>저장...</translation>
     </message>
 </context>
 <context>

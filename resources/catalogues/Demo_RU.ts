@@ -456,6 +456,19 @@
     </message>
 </context>
 <context>
+    <name>PlotSaving</name>
+    <message>
+        <source>保存曲线图</source>
+        <translation>Сохранение графика</translation>
+    </message>
+    <message>
+        <source>文件“%1”未能写入，原有文件保持不变。
+%2</source>
+        <translation>Не удалось записать файл «%1»; прежний файл остался без изменений.
+%2</translation>
+    </message>
+</context>
+<context>
     <name>SelectionJob</name>
     <message>
         <source>正在写入文件</source>
@@ -736,6 +749,21 @@
     <message>
         <source>照片</source>
         <translation>Снимки</translation>
+    </message>
+</context>
+<context>
+    <name>plots::PlotView</name>
+    <message>
+        <source>显示全部</source>
+        <translation>Показать всё</translation>
+    </message>
+    <message>
+        <source>复制</source>
+        <translation>Копировать</translation>
+    </message>
+    <message>
+        <source>保存...</source>
+        <translation>Сохранить...</translation>
     </message>
 </context>
 <context>
