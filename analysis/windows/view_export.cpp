@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "analysis/windows/view_export.h"
 
-#include "analysis/export/tool_table_text.h"
 #include "analysis/windows/outcome_text.h"
 #include "analysis/windows/picture_dialog.h"
 #include "config/configuration_record.h"
@@ -82,7 +81,7 @@ void ViewExport::copyPicture(const ShownPicture& shown, const overlay::Geometry&
         QGuiApplication::clipboard()->setImage(picture);
 }
 
-void ViewExport::copyTable(const std::vector<ToolCells>& rows, bool header)
+void ViewExport::copyTable(const TextRows& rows, bool header)
 {
     auto* data = new QMimeData;
     data->setText(tabSeparated(rows));

@@ -3,11 +3,10 @@
 
 #include "analysis/export/photograph_export.h"
 #include "analysis/export/picture_export.h"
+#include "analysis/export/table_text.h"
 
 #include <QCoreApplication>
 #include <QString>
-
-#include <vector>
 
 class QWidget;
 
@@ -25,9 +24,9 @@ public:
     /// The picture with its tools, as large as it is shown.
     static void copyPicture(const analysis::ShownPicture& shown, const overlay::Geometry& geometry);
 
-    /// Rows of the tool table, as text for spreadsheets and as a table for documents. With
-    /// `header`, the first row holds the captions.
-    static void copyTable(const std::vector<analysis::ToolCells>& rows, bool header);
+    /// Rows of a table, as text for spreadsheets and as a table for documents. With `header`, the
+    /// first row holds the captions.
+    static void copyTable(const analysis::TextRows& rows, bool header);
 
     /// Asks how and where, then writes a PNG file. `photograph` is the name or path of the
     /// photograph's file, after which the new one is called.

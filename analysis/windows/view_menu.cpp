@@ -23,19 +23,25 @@ ShownPicture seen(const ToolCommands& commands, const Form& form)
     return shown;
 }
 
-std::vector<ToolCells> wholeTable(const Form& form)
+QStringList textsOf(const ToolCells& cells)
 {
-    std::vector<ToolCells> rows = shownTools(*form.tableWidget);
-    rows.insert(rows.begin(), toolCaptions());
+    return QStringList(cells.begin(), cells.end());
+}
+
+TextRows wholeTable(const Form& form)
+{
+    TextRows rows{textsOf(toolCaptions())};
+    for (const ToolCells& tool : shownTools(*form.tableWidget))
+        rows.push_back(textsOf(tool));
     return rows;
 }
 
-std::vector<ToolCells> chosenRows(const Form& form)
+TextRows chosenRows(const Form& form)
 {
     const std::vector<ToolCells> all = shownTools(*form.tableWidget);
-    std::vector<ToolCells> rows;
+    TextRows rows;
     for (const QModelIndex& index : form.tableWidget->selectionModel()->selectedRows())
-        rows.push_back(all[std::size_t(index.row())]);
+        rows.push_back(textsOf(all[std::size_t(index.row())]));
     return rows;
 }
 

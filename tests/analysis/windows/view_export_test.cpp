@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "analysis/export/tool_table_text.h"
+#include "analysis/export/table_text.h"
 #include "analysis/windows/picture_dialog.h"
 #include "analysis/windows/view_export.h"
 #include "dialogs/dialogs.h"
@@ -97,9 +97,12 @@ private slots:
 
     void theTableGoesToTheClipboardInTwoForms()
     {
-        std::vector<ToolCells> rows{toolCaptions()};
+        const auto textsOf = [](const ToolCells& cells) {
+            return QStringList(cells.begin(), cells.end());
+        };
+        TextRows rows{textsOf(toolCaptions())};
         for (const ToolCells& row : shown().measured)
-            rows.push_back(row);
+            rows.push_back(textsOf(row));
         ViewExport::copyTable(rows, true);
         const QMimeData* data = QGuiApplication::clipboard()->mimeData();
         QCOMPARE(data->text().count(QLatin1Char('\n')), 5);

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "analysis/export/tool_table_text.h"
+#include "analysis/export/table_text.h"
 
 namespace analysis {
 
-QString tabSeparated(const std::vector<ToolCells>& rows)
+QString tabSeparated(const TextRows& rows)
 {
     QString text;
-    for (const ToolCells& row : rows) {
+    for (const QStringList& row : rows) {
         for (const QString& cell : row) {
             if (&cell != &row.front())
                 text += QLatin1Char('\t');
@@ -17,11 +17,11 @@ QString tabSeparated(const std::vector<ToolCells>& rows)
     return text;
 }
 
-QString htmlTable(const std::vector<ToolCells>& rows, bool header)
+QString htmlTable(const TextRows& rows, bool header)
 {
     // Mail programs and word processors would take any other encoding for granted.
     QString html = QStringLiteral("<meta charset=\"utf-8\"><table border=\"1\">\n");
-    for (const ToolCells& row : rows) {
+    for (const QStringList& row : rows) {
         const bool isHeader = header && &row == &rows.front();
         const QString cellForm =
             isHeader ? QStringLiteral("<th>%1</th>") : QStringLiteral("<td>%1</td>");

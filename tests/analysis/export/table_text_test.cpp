@@ -1,39 +1,31 @@
 // SPDX-License-Identifier: MIT
-#include "analysis/export/tool_table_text.h"
+#include "analysis/export/table_text.h"
 #include "tests/support/test_run.h"
 
-using analysis::ToolCells;
-
-class ToolTableTextTest : public QObject
+class TableTextTest : public QObject
 {
     Q_OBJECT
-
-    static ToolCells row(const QStringList& texts)
-    {
-        ToolCells cells;
-        std::copy(texts.begin(), texts.end(), cells.begin());
-        return cells;
-    }
 
 private slots:
     void aRowOnEachLine()
     {
         const QString text =
-            analysis::tabSeparated({row({"Name", "Type", "High", "Low", "Average"}),
-                                    row({"P0", "点", "1.0", "-0.0", "2.5"})});
+            analysis::tabSeparated({QStringList({"Name", "Type", "High", "Low", "Average"}),
+                                    QStringList({"P0", "点", "1.0", "-0.0", "2.5"})});
         QCOMPARE(text, QStringLiteral("Name\tType\tHigh\tLow\tAverage\nP0\t点\t1.0\t-0.0\t2.5\n"));
     }
 
     void aTextStaysInItsCell()
     {
-        QCOMPARE(analysis::tabSeparated({row({"a\tb", "c\nd", "e\r\nf", "", " g"})}),
+        QCOMPARE(analysis::tabSeparated({QStringList({"a\tb", "c\nd", "e\r\nf", "", " g"})}),
                  QStringLiteral("a b\tc d\te f\t\tg\n"));
     }
 
     void aTableForDocuments()
     {
         const QString html = analysis::htmlTable(
-            {row({"a", "b", "c", "d", "e"}), row({"<b>", "&", "\"", "x", "点"})}, true);
+            {QStringList({"a", "b", "c", "d", "e"}), QStringList({"<b>", "&", "\"", "x", "点"})},
+            true);
         QCOMPARE(html,
                  QStringLiteral("<meta charset=\"utf-8\"><table border=\"1\">\n"
                                 "<tr><th>a</th><th>b</th><th>c</th><th>d</th><th>e</th></tr>\n"
@@ -43,7 +35,7 @@ private slots:
 
     void rowsWithoutCaptions()
     {
-        const QString html = analysis::htmlTable({row({"a", "b", "c", "d", "e"})}, false);
+        const QString html = analysis::htmlTable({QStringList({"a", "b", "c", "d", "e"})}, false);
         QVERIFY(!html.contains(QStringLiteral("<th>")));
         QCOMPARE(html.count(QStringLiteral("<td>")), 5);
         QCOMPARE(analysis::htmlTable({}, true).count(QStringLiteral("<tr>")), 0);
@@ -53,7 +45,7 @@ private slots:
 
 int main(int argc, char** argv)
 {
-    return testing::run<ToolTableTextTest>(argc, argv);
+    return testing::run<TableTextTest>(argc, argv);
 }
 
-#include "tool_table_text_test.moc"
+#include "table_text_test.moc"
