@@ -5,6 +5,7 @@
 #include "analysis/windows/analysis_widget.h"
 #include "analysis/windows/beside_window.h"
 #include "analysis/windows/coordinates_menu.h"
+#include "analysis/windows/details_window.h"
 #include "analysis/windows/measurement_keeping.h"
 #include "analysis/windows/measurement_menu.h"
 #include "analysis/windows/picture_keys.h"
@@ -25,6 +26,7 @@ ToolCommands::ToolCommands(Analysis_Widget& window, const Ui::Analysis_Widget& f
 {
     CoordinatesMenu::addTo(*this);
     addOwnEntries();
+    DetailsWindow::addTo(*this, form);
     MeasurementMenu::addTo(*this);
     ViewMenu::addTo(*this, form);
     m_keeping = std::make_unique<MeasurementKeeping>(*this, form);
@@ -102,8 +104,7 @@ QAction* ToolCommands::add(const Entry& entry)
     auto* action = new QAction(entry.text, this);
     action->setShortcuts(entry.shortcuts);
     connect(action, &QAction::triggered, this, [this, entry] {
-        // A shortcut pressed in the table means the row that is marked there.
-        if (entry.group == Group::Tool && !m_menu && m_window.focusWidget() == m_form.tableWidget)
+        if (entry.group == Group::Tool)
             takeMarkedRow();
         record();
         entry.run();
@@ -245,7 +246,7 @@ void ToolCommands::showPictureMenu(const QPoint& place)
 
 void ToolCommands::showTableMenu(const QPoint& place)
 {
-    takeMarkedRow();
+    selectMarkedRow();
     popUp(Menus::Table, m_form.tableWidget->viewport()->mapToGlobal(place));
 }
 
@@ -274,8 +275,16 @@ void ToolCommands::popUp(Menus menus, const QPoint& globalPlace)
     m_menu->popup(globalPlace);
 }
 
-/// The keyboard moves the mark in the table without selecting the tool, and so does a right click.
+/// A shortcut pressed in the table means the row that is marked there; a menu that was opened on
+/// the picture means the selected tool.
 void ToolCommands::takeMarkedRow()
+{
+    if (!m_menu && m_window.focusWidget() == m_form.tableWidget)
+        selectMarkedRow();
+}
+
+/// The keyboard moves the mark in the table without selecting the tool, and so does a right click.
+void ToolCommands::selectMarkedRow()
 {
     const QModelIndexList rows = m_form.tableWidget->selectionModel()->selectedRows();
     if (rows.isEmpty())

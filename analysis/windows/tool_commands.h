@@ -104,6 +104,10 @@ public:
     MeasurementKeeping& keeping() { return *m_keeping; }
     ViewedPhotograph& viewed() const { return *m_viewed; }
 
+    /// Selects the tool that is marked in the table, if the table has the focus: the keyboard moves
+    /// the mark without selecting.
+    void takeMarkedRow();
+
     /// Opens the picture's menu in select mode; in the other modes a press places a tool. The place
     /// is in the label's pixels.
     void showPictureMenu(const QPoint& place);
@@ -131,7 +135,7 @@ private:
     void tell();
     void showTableMenu(const QPoint& place);
     void popUp(Menus menus, const QPoint& globalPlace);
-    void takeMarkedRow();
+    void selectMarkedRow();
 
     Analysis_Widget& m_window;
     const Ui::Analysis_Widget& m_form;
