@@ -274,6 +274,69 @@
     </message>
 </context>
 <context>
+    <name>DetailsText</name>
+    <message>
+        <source>最高</source>
+        <translation>Highest</translation>
+    </message>
+    <message>
+        <source>最低</source>
+        <translation>Lowest</translation>
+    </message>
+    <message>
+        <source>平均</source>
+        <translation>Average</translation>
+    </message>
+    <message>
+        <source>标准差</source>
+        <translation>Standard deviation</translation>
+    </message>
+    <message>
+        <source>中位数</source>
+        <translation>Median</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>像素</source>
+        <translation>Pixels</translation>
+    </message>
+    <message>
+        <source>高于 %1 (%)</source>
+        <translation>Above %1 (%)</translation>
+    </message>
+    <message>
+        <source>低于 %1 (%)</source>
+        <translation>Below %1 (%)</translation>
+    </message>
+    <message>
+        <source>温差 ΔT (%1)</source>
+        <translation>Difference ΔT (%1)</translation>
+    </message>
+    <message>
+        <source>此工具不含任何像素：表格显示的是计算的起始值。</source>
+        <translation>This tool covers no pixel: the table shows the values that its calculation starts from.</translation>
+    </message>
+    <message>
+        <source>没有温度读数的像素：%1。此处不计入。</source>
+        <translation>Pixels without a reading: %1. They are left out here.</translation>
+    </message>
+    <message>
+        <source>表格中的最高值为 %1：表格从该值开始比较，而这里没有更热的像素。</source>
+        <translation>The table says %1 for the highest: it starts comparing there, and no pixel here is hotter.</translation>
+    </message>
+    <message>
+        <source>表格中的最低值为 %1：表格从该值开始比较，而这里没有更冷的像素。</source>
+        <translation>The table says %1 for the lowest: it starts comparing there, and no pixel here is colder.</translation>
+    </message>
+    <message>
+        <source>表格中的平均值为 %1：表格以单精度求和，因此末位有偏差。</source>
+        <translation>The table says %1 for the average: it adds up in single precision, which changes the last digit.</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Therma Desk</source>
@@ -557,6 +620,73 @@
     <message>
         <source>保存温度...</source>
         <translation>Save temperatures...</translation>
+    </message>
+</context>
+<context>
+    <name>analysis::DetailsWindow</name>
+    <message>
+        <source>详细数据...</source>
+        <translation>Details...</translation>
+    </message>
+    <message>
+        <source>详细数据</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>阈值</source>
+        <translation>Threshold</translation>
+    </message>
+    <message>
+        <source>此区域的数值</source>
+        <translation>Value of this area</translation>
+    </message>
+    <message>
+        <source>无</source>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>输入的温度</source>
+        <translation>Typed temperature</translation>
+    </message>
+    <message>
+        <source>整幅图像</source>
+        <translation>Whole picture</translation>
+    </message>
+    <message>
+        <source>另一区域的数值</source>
+        <translation>Value of the other area</translation>
+    </message>
+    <message>
+        <source>参考温度</source>
+        <translation>Reference temperature</translation>
+    </message>
+    <message>
+        <source>复制表格</source>
+        <translation>Copy table</translation>
+    </message>
+    <message>
+        <source>阈值:</source>
+        <translation>Threshold:</translation>
+    </message>
+    <message>
+        <source>比较对象</source>
+        <translation>Compared with</translation>
+    </message>
+    <message>
+        <source>温差:</source>
+        <translation>Difference:</translation>
+    </message>
+    <message>
+        <source>%1 - %2</source>
+        <translation>%1 - %2</translation>
+    </message>
+    <message>
+        <source>项目</source>
+        <translation>Quantity</translation>
+    </message>
+    <message>
+        <source>数值</source>
+        <translation>Value</translation>
     </message>
 </context>
 <context>

@@ -274,6 +274,69 @@
     </message>
 </context>
 <context>
+    <name>DetailsText</name>
+    <message>
+        <source>最高</source>
+        <translation>최고</translation>
+    </message>
+    <message>
+        <source>最低</source>
+        <translation>최저</translation>
+    </message>
+    <message>
+        <source>平均</source>
+        <translation>평균</translation>
+    </message>
+    <message>
+        <source>标准差</source>
+        <translation>표준편차</translation>
+    </message>
+    <message>
+        <source>中位数</source>
+        <translation>중앙값</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>像素</source>
+        <translation>픽셀</translation>
+    </message>
+    <message>
+        <source>高于 %1 (%)</source>
+        <translation>%1 초과 (%)</translation>
+    </message>
+    <message>
+        <source>低于 %1 (%)</source>
+        <translation>%1 미만 (%)</translation>
+    </message>
+    <message>
+        <source>温差 ΔT (%1)</source>
+        <translation>온도차 ΔT (%1)</translation>
+    </message>
+    <message>
+        <source>此工具不含任何像素：表格显示的是计算的起始值。</source>
+        <translation>이 도구에는 픽셀이 없습니다. 표에는 계산의 시작값이 표시됩니다.</translation>
+    </message>
+    <message>
+        <source>没有温度读数的像素：%1。此处不计入。</source>
+        <translation>온도 값이 없는 픽셀: %1. 여기서는 제외됩니다.</translation>
+    </message>
+    <message>
+        <source>表格中的最高值为 %1：表格从该值开始比较，而这里没有更热的像素。</source>
+        <translation>표의 최고값은 %1입니다. 표는 이 값부터 비교하는데 여기에는 더 뜨거운 픽셀이 없습니다.</translation>
+    </message>
+    <message>
+        <source>表格中的最低值为 %1：表格从该值开始比较，而这里没有更冷的像素。</source>
+        <translation>표의 최저값은 %1입니다. 표는 이 값부터 비교하는데 여기에는 더 차가운 픽셀이 없습니다.</translation>
+    </message>
+    <message>
+        <source>表格中的平均值为 %1：表格以单精度求和，因此末位有偏差。</source>
+        <translation>표의 평균값은 %1입니다. 표는 단정밀도로 합산하므로 마지막 자리가 달라집니다.</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Therma Desk</source>
@@ -553,6 +616,73 @@
     <message>
         <source>保存温度...</source>
         <translation>온도 저장...</translation>
+    </message>
+</context>
+<context>
+    <name>analysis::DetailsWindow</name>
+    <message>
+        <source>详细数据...</source>
+        <translation>상세 정보...</translation>
+    </message>
+    <message>
+        <source>详细数据</source>
+        <translation>상세 정보</translation>
+    </message>
+    <message>
+        <source>阈值</source>
+        <translation>임계값</translation>
+    </message>
+    <message>
+        <source>此区域的数值</source>
+        <translation>이 영역의 값</translation>
+    </message>
+    <message>
+        <source>无</source>
+        <translation>없음</translation>
+    </message>
+    <message>
+        <source>输入的温度</source>
+        <translation>입력한 온도</translation>
+    </message>
+    <message>
+        <source>整幅图像</source>
+        <translation>전체 이미지</translation>
+    </message>
+    <message>
+        <source>另一区域的数值</source>
+        <translation>다른 영역의 값</translation>
+    </message>
+    <message>
+        <source>参考温度</source>
+        <translation>기준 온도</translation>
+    </message>
+    <message>
+        <source>复制表格</source>
+        <translation>표 복사</translation>
+    </message>
+    <message>
+        <source>阈值:</source>
+        <translation>임계값:</translation>
+    </message>
+    <message>
+        <source>比较对象</source>
+        <translation>비교 대상</translation>
+    </message>
+    <message>
+        <source>温差:</source>
+        <translation>온도차:</translation>
+    </message>
+    <message>
+        <source>%1 - %2</source>
+        <translation>%1 - %2</translation>
+    </message>
+    <message>
+        <source>项目</source>
+        <translation>항목</translation>
+    </message>
+    <message>
+        <source>数值</source>
+        <translation>값</translation>
     </message>
 </context>
 <context>

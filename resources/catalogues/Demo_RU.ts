@@ -274,6 +274,69 @@
     </message>
 </context>
 <context>
+    <name>DetailsText</name>
+    <message>
+        <source>最高</source>
+        <translation>Максимум</translation>
+    </message>
+    <message>
+        <source>最低</source>
+        <translation>Минимум</translation>
+    </message>
+    <message>
+        <source>平均</source>
+        <translation>Среднее</translation>
+    </message>
+    <message>
+        <source>标准差</source>
+        <translation>Стандартное отклонение</translation>
+    </message>
+    <message>
+        <source>中位数</source>
+        <translation>Медиана</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>像素</source>
+        <translation>Пиксели</translation>
+    </message>
+    <message>
+        <source>高于 %1 (%)</source>
+        <translation>Выше %1 (%)</translation>
+    </message>
+    <message>
+        <source>低于 %1 (%)</source>
+        <translation>Ниже %1 (%)</translation>
+    </message>
+    <message>
+        <source>温差 ΔT (%1)</source>
+        <translation>Разность ΔT (%1)</translation>
+    </message>
+    <message>
+        <source>此工具不含任何像素：表格显示的是计算的起始值。</source>
+        <translation>Инструмент не охватывает ни одного пикселя: в таблице стоят начальные значения расчёта.</translation>
+    </message>
+    <message>
+        <source>没有温度读数的像素：%1。此处不计入。</source>
+        <translation>Пиксели без показаний: %1. Здесь они не учитываются.</translation>
+    </message>
+    <message>
+        <source>表格中的最高值为 %1：表格从该值开始比较，而这里没有更热的像素。</source>
+        <translation>В таблице максимум равен %1: сравнение начинается с этого значения, а более горячих пикселей здесь нет.</translation>
+    </message>
+    <message>
+        <source>表格中的最低值为 %1：表格从该值开始比较，而这里没有更冷的像素。</source>
+        <translation>В таблице минимум равен %1: сравнение начинается с этого значения, а более холодных пикселей здесь нет.</translation>
+    </message>
+    <message>
+        <source>表格中的平均值为 %1：表格以单精度求和，因此末位有偏差。</source>
+        <translation>В таблице среднее равно %1: она суммирует с одинарной точностью, из-за чего меняется последний знак.</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Therma Desk</source>
@@ -561,6 +624,73 @@
     <message>
         <source>保存温度...</source>
         <translation>Сохранить температуры...</translation>
+    </message>
+</context>
+<context>
+    <name>analysis::DetailsWindow</name>
+    <message>
+        <source>详细数据...</source>
+        <translation>Подробные данные...</translation>
+    </message>
+    <message>
+        <source>详细数据</source>
+        <translation>Подробные данные</translation>
+    </message>
+    <message>
+        <source>阈值</source>
+        <translation>Порог</translation>
+    </message>
+    <message>
+        <source>此区域的数值</source>
+        <translation>Значение этой области</translation>
+    </message>
+    <message>
+        <source>无</source>
+        <translation>Нет</translation>
+    </message>
+    <message>
+        <source>输入的温度</source>
+        <translation>Введённая температура</translation>
+    </message>
+    <message>
+        <source>整幅图像</source>
+        <translation>Весь снимок</translation>
+    </message>
+    <message>
+        <source>另一区域的数值</source>
+        <translation>Значение другой области</translation>
+    </message>
+    <message>
+        <source>参考温度</source>
+        <translation>Опорная температура</translation>
+    </message>
+    <message>
+        <source>复制表格</source>
+        <translation>Копировать таблицу</translation>
+    </message>
+    <message>
+        <source>阈值:</source>
+        <translation>Порог:</translation>
+    </message>
+    <message>
+        <source>比较对象</source>
+        <translation>Сравнивается с</translation>
+    </message>
+    <message>
+        <source>温差:</source>
+        <translation>Разность:</translation>
+    </message>
+    <message>
+        <source>%1 - %2</source>
+        <translation>%1 - %2</translation>
+    </message>
+    <message>
+        <source>项目</source>
+        <translation>Величина</translation>
+    </message>
+    <message>
+        <source>数值</source>
+        <translation>Значение</translation>
     </message>
 </context>
 <context>
