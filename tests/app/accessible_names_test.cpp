@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 // What a screen reader has to say about each window: whatever takes the keyboard, and whatever
 // shows something without saying it in words, has a name.
+#include "analysis/windows/details_window.h"
 #include "analysis/windows/photo_window.h"
+#include "analysis/windows/tool_commands.h"
 #include "app/main_window.h"
 #include "app/seting.h"
 #include "config/configuration_record.h"
@@ -135,11 +137,14 @@ private slots:
 
     void photograph()
     {
-        becomeDisk();
-        QListWidgetItem item(m_window->browser()->fileNames.at(0));
-        m_window->browser()->list_item_doubleclicked(&item);
-        QTRY_VERIFY(testing::part<QWidget>(m_window.get(), "Analysis_Widget")->isVisible());
+        openPhotograph();
         everythingSpeaks(m_window.get());
+    }
+
+    void details()
+    {
+        auto& viewed = openPhotograph().commands().viewed();
+        everythingSpeaks(&analysis::BesideWindow::open<analysis::DetailsWindow>(viewed));
     }
 
     void settings()
@@ -177,6 +182,17 @@ private:
         m_window->timeout_connect();
         QCOMPARE(m_window->browser()->fileNames.size(), 1);
         QTRY_VERIFY(m_window->browser()->isVisible());
+    }
+
+    Analysis_Widget& openPhotograph()
+    {
+        becomeDisk();
+        QListWidgetItem item(m_window->browser()->fileNames.at(0));
+        m_window->browser()->list_item_doubleclicked(&item);
+        auto* window = testing::part<Analysis_Widget>(m_window.get(), "Analysis_Widget");
+        if (!QTest::qWaitFor([window] { return window->isVisible(); }))
+            qFatal("the photograph does not open");
+        return *window;
     }
 
     static void everythingSpeaks(QWidget* window)
