@@ -27,9 +27,10 @@ Isotherm inUnit(const Isotherm& isotherm, Unit unit)
     return same;
 }
 
+/// Not-a-number is neither higher nor lower than anything.
 bool covers(const Isotherm& isotherm, double reading)
 {
-    if (std::isnan(reading) || problemOf(isotherm) != IsothermProblem::None)
+    if (problemOf(isotherm) != IsothermProblem::None)
         return false;
     switch (isotherm.side) {
     case Side::Above:

@@ -96,7 +96,7 @@ bool Analysis_Widget::set_Image_addr(const QString& imagePath, int modelIndex)
     fillInformation();
     showScale();
     showGrayImage();
-    m_commands->viewed().becomeOther();
+    m_commands->viewed().takePhotograph();
     return true;
 }
 
@@ -126,6 +126,12 @@ void Analysis_Widget::paintEvent(QPaintEvent* event)
     render();
 }
 
+void Analysis_Widget::mapAnew()
+{
+    m_mapped = false;
+    update();
+}
+
 /// The gray picture is not shown first: the false-colour picture would replace it before anyone
 /// could see it.
 void Analysis_Widget::render()
@@ -136,6 +142,7 @@ void Analysis_Widget::render()
         colourLookup = lookup;
         ui->widget->setPalettePixmap(colourStrip);
         mapColours(grayMatrix, colourLookup, falseColourMatrix);
+        m_commands->viewed().paintIsotherm(falseColourMatrix);
         falseColourImage =
             QImage(falseColourMatrix.data, falseColourMatrix.cols, falseColourMatrix.rows,
                    int(falseColourMatrix.step), QImage::Format_RGB888);

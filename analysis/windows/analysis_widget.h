@@ -51,6 +51,9 @@ public:
     /// What keyboard and context menus do here.
     analysis::ToolCommands& commands() { return *m_commands; }
 
+    /// The picture is coloured anew when it is next painted, which is soon.
+    void mapAnew();
+
     int displayUnitState = -1; ///< 0 since the first load; steers the unit conversion
     int currentTool = 0;       ///< an overlay::ToolMode, 0 for none yet
     int selectedRow = 0;       ///< what Set_Select was given last

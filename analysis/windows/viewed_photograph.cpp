@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "analysis/windows/viewed_photograph.h"
 
+#include "analysis/photograph/looking_texts.h"
 #include "analysis/windows/analysis_widget.h"
 
 #include "ui_analysis_widget.h"
@@ -44,6 +45,49 @@ overlay::Tools ViewedPhotograph::tools() const
     return overlay::stateOf(*m_form.label).tools;
 }
 
+std::optional<Unit> ViewedPhotograph::scale() const
+{
+    return storedUnit(photograph().parameters.unit, hasRawImage(m_window.readCount));
+}
+
+void ViewedPhotograph::setCorrection(const std::optional<Correction>& correction)
+{
+    if (correction == m_correction)
+        return;
+    m_correction = correction;
+    correctAnew();
+    becomeOther();
+}
+
+void ViewedPhotograph::correctAnew()
+{
+    m_corrected = {};
+    if (m_correction && scale())
+        m_corrected = correctedTemperatures(photograph().temperatures, *scale(), *m_correction);
+    if (!m_corrected.temperatures)
+        m_correction.reset();
+}
+
+QString ViewedPhotograph::correctionName() const
+{
+    return m_correction ? LookingTexts::nameOf(*m_correction, unit().unit) : QString();
+}
+
+void ViewedPhotograph::setIsotherm(const std::optional<Isotherm>& isotherm)
+{
+    if (isotherm == m_isotherm)
+        return;
+    m_isotherm = isotherm;
+    m_window.mapAnew();
+    becomeOther();
+}
+
+void ViewedPhotograph::paintIsotherm(cv::Mat& colours) const
+{
+    if (m_isotherm)
+        paint(*m_isotherm, photograph().temperatures, unit(), colours);
+}
+
 void ViewedPhotograph::mark(const QObject& owner, const std::vector<PictureMark>& marks)
 {
     if (!m_marks && !marks.empty())
@@ -58,8 +102,23 @@ void ViewedPhotograph::look()
     m_soon.start(0);
 }
 
+/// Another photograph begins as it is stored. The same one, read again, may be other.
+void ViewedPhotograph::takePhotograph()
+{
+    if (m_path != m_window.path) {
+        m_path = m_window.path;
+        m_correction.reset();
+        m_isotherm.reset();
+    }
+    correctAnew();
+    becomeOther();
+}
+
+/// What is coloured by readings is coloured anew: they may be other.
 void ViewedPhotograph::becomeOther()
 {
+    if (m_isotherm)
+        m_window.mapAnew();
     m_isOther = true;
     look();
 }

@@ -1,12 +1,17 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "analysis/photograph/correction.h"
+#include "analysis/photograph/isotherm.h"
 #include "analysis/photograph/photograph_reader.h"
 #include "analysis/windows/picture_marks.h"
 #include "overlay/tool_history.h"
 
 #include <QPointer>
 #include <QTimer>
+
+#include <memory>
+#include <optional>
 
 class Analysis_Widget;
 
@@ -35,29 +40,54 @@ public:
     /// The finished tools and the selection, a tool that is being dragged as it is now.
     overlay::Tools tools() const;
 
+    /// What its temperatures are stored in; nothing where it does not say.
+    std::optional<Unit> scale() const;
+
+    /// Nothing while readings are only shown as they are stored, as at first.
+    const std::optional<Correction>& correction() const { return m_correction; }
+    /// One that has a problem, or is for a photograph without a scale, is as good as none.
+    void setCorrection(const std::optional<Correction>& correction);
+    /// The second set of temperatures, to be measured like the stored ones and shown beside them
+    /// under its name; null and empty while there is none.
+    std::shared_ptr<const Temperatures> corrected() const { return m_corrected.temperatures; }
+    QString correctionName() const;
+
+    /// Nothing while the picture is coloured by its palette alone, as at first.
+    const std::optional<Isotherm>& isotherm() const { return m_isotherm; }
+    void setIsotherm(const std::optional<Isotherm>& isotherm);
+    /// Onto the picture in false colours.
+    void paintIsotherm(cv::Mat& colours) const;
+
     /// Replaces the owner's marks in the picture; none, or the owner's end, takes them away.
     void mark(const QObject& owner, const std::vector<PictureMark>& marks);
 
     /// To be called after anything that may have changed the tools without a signal of the label.
     void look();
-    /// To be called when another photograph has been read, or this one is shown in another way.
+    /// To be called when a photograph has been read.
+    void takePhotograph();
+    /// To be called when it is shown in another way.
     void becomeOther();
 
 signals:
-    /// Photograph, unit, tools or selection are other than before; told once for all that changed
-    /// before the event loop was reached again.
+    /// Photograph, unit, tools, selection, correction or isotherm are other than before; told once
+    /// for all that changed before the event loop was reached again.
     void changed();
     /// The image position under the mouse, inside the picture.
     void pointed(int x, int y);
 
 private:
     void tell();
+    void correctAnew();
 
     Analysis_Widget& m_window;
     const Ui::Analysis_Widget& m_form;
     overlay::ToolsState m_seen;
     bool m_isOther = false; ///< than tools alone could tell
     QTimer m_soon;
+    QString m_path; ///< of the photograph that the next three are of
+    std::optional<Correction> m_correction;
+    CorrectedTemperatures m_corrected;
+    std::optional<Isotherm> m_isotherm;
     QPointer<PictureMarks> m_marks; ///< a child of the label, made for the first mark
 };
 

@@ -337,6 +337,61 @@
     </message>
 </context>
 <context>
+    <name>LookingTexts</name>
+    <message>
+        <source>已校正: ε %1 → %2, 反射温度 %3</source>
+        <translation>corrected: ε %1 → %2, reflected %3</translation>
+    </message>
+    <message>
+        <source>拍摄时的发射率须为 %1 至 %2。请输入设备当时的设定值。</source>
+        <translation>The stored emissivity has to be from %1 to %2. Type the one that the imager was set to.</translation>
+    </message>
+    <message>
+        <source>发射率须为 %1 至 %2。更低时看到的几乎只是环境的反射。</source>
+        <translation>The emissivity has to be from %1 to %2. Below, hardly anything but the surroundings is seen.</translation>
+    </message>
+    <message>
+        <source>反射温度须为 %1 至 %2。</source>
+        <translation>The reflected temperature has to be from %1 to %2.</translation>
+    </message>
+    <message>
+        <source>没有温度: 来自此处的辐射少于仅由环境反射的辐射。</source>
+        <translation>No temperature: less radiation came from here than the surroundings alone make it reflect.</translation>
+    </message>
+    <message>
+        <source>没有温度: 超出 %1 至 %2。</source>
+        <translation>No temperature: outside %1 to %2.</translation>
+    </message>
+    <message>
+        <source>照片没有说明温度的单位, 因此无法校正。</source>
+        <translation>The photograph does not say in which unit its temperatures are, so they cannot be corrected.</translation>
+    </message>
+    <message>
+        <source>等温线: 高于 %1</source>
+        <translation>Isotherm: above %1</translation>
+    </message>
+    <message>
+        <source>等温线: 低于 %1</source>
+        <translation>Isotherm: below %1</translation>
+    </message>
+    <message>
+        <source>等温线: %1 至 %2</source>
+        <translation>Isotherm: %1 to %2</translation>
+    </message>
+    <message>
+        <source>等温线: %1 至 %2 以外</source>
+        <translation>Isotherm: outside %1 to %2</translation>
+    </message>
+    <message>
+        <source>界限不是数字。</source>
+        <translation>A limit is not a number.</translation>
+    </message>
+    <message>
+        <source>下限高于上限, 没有像素着色。</source>
+        <translation>The lower limit is above the upper one: no pixel is coloured.</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Therma Desk</source>

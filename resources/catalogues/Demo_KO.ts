@@ -337,6 +337,61 @@
     </message>
 </context>
 <context>
+    <name>LookingTexts</name>
+    <message>
+        <source>已校正: ε %1 → %2, 反射温度 %3</source>
+        <translation>보정됨: ε %1 → %2, 반사 온도 %3</translation>
+    </message>
+    <message>
+        <source>拍摄时的发射率须为 %1 至 %2。请输入设备当时的设定值。</source>
+        <translation>촬영 시 방사율은 %1에서 %2 사이여야 합니다. 장비에 설정되어 있던 값을 입력하세요.</translation>
+    </message>
+    <message>
+        <source>发射率须为 %1 至 %2。更低时看到的几乎只是环境的反射。</source>
+        <translation>방사율은 %1에서 %2 사이여야 합니다. 더 낮으면 거의 주변의 반사만 보입니다.</translation>
+    </message>
+    <message>
+        <source>反射温度须为 %1 至 %2。</source>
+        <translation>반사 온도는 %1에서 %2 사이여야 합니다.</translation>
+    </message>
+    <message>
+        <source>没有温度: 来自此处的辐射少于仅由环境反射的辐射。</source>
+        <translation>온도 없음: 여기서 온 복사가 주변의 반사만으로 생기는 것보다 적습니다.</translation>
+    </message>
+    <message>
+        <source>没有温度: 超出 %1 至 %2。</source>
+        <translation>온도 없음: %1에서 %2 범위 밖입니다.</translation>
+    </message>
+    <message>
+        <source>照片没有说明温度的单位, 因此无法校正。</source>
+        <translation>사진에 온도 단위가 없어 보정할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>等温线: 高于 %1</source>
+        <translation>등온선: %1 초과</translation>
+    </message>
+    <message>
+        <source>等温线: 低于 %1</source>
+        <translation>등온선: %1 미만</translation>
+    </message>
+    <message>
+        <source>等温线: %1 至 %2</source>
+        <translation>등온선: %1 ~ %2</translation>
+    </message>
+    <message>
+        <source>等温线: %1 至 %2 以外</source>
+        <translation>등온선: %1 ~ %2 범위 밖</translation>
+    </message>
+    <message>
+        <source>界限不是数字。</source>
+        <translation>한계가 숫자가 아닙니다.</translation>
+    </message>
+    <message>
+        <source>下限高于上限, 没有像素着色。</source>
+        <translation>하한이 상한보다 높아 색칠된 픽셀이 없습니다.</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Therma Desk</source>

@@ -337,6 +337,61 @@
     </message>
 </context>
 <context>
+    <name>LookingTexts</name>
+    <message>
+        <source>已校正: ε %1 → %2, 反射温度 %3</source>
+        <translation>исправлено: ε %1 → %2, отражение %3</translation>
+    </message>
+    <message>
+        <source>拍摄时的发射率须为 %1 至 %2。请输入设备当时的设定值。</source>
+        <translation>Коэффициент излучения снимка должен быть от %1 до %2. Введите тот, на который был настроен прибор.</translation>
+    </message>
+    <message>
+        <source>发射率须为 %1 至 %2。更低时看到的几乎只是环境的反射。</source>
+        <translation>Коэффициент излучения должен быть от %1 до %2. Ниже видно почти только отражение окружения.</translation>
+    </message>
+    <message>
+        <source>反射温度须为 %1 至 %2。</source>
+        <translation>Отражённая температура должна быть от %1 до %2.</translation>
+    </message>
+    <message>
+        <source>没有温度: 来自此处的辐射少于仅由环境反射的辐射。</source>
+        <translation>Нет температуры: отсюда пришло меньше излучения, чем даёт одно лишь отражение окружения.</translation>
+    </message>
+    <message>
+        <source>没有温度: 超出 %1 至 %2。</source>
+        <translation>Нет температуры: вне пределов от %1 до %2.</translation>
+    </message>
+    <message>
+        <source>照片没有说明温度的单位, 因此无法校正。</source>
+        <translation>В снимке не указана единица температур, поэтому исправить их нельзя.</translation>
+    </message>
+    <message>
+        <source>等温线: 高于 %1</source>
+        <translation>Изотерма: выше %1</translation>
+    </message>
+    <message>
+        <source>等温线: 低于 %1</source>
+        <translation>Изотерма: ниже %1</translation>
+    </message>
+    <message>
+        <source>等温线: %1 至 %2</source>
+        <translation>Изотерма: от %1 до %2</translation>
+    </message>
+    <message>
+        <source>等温线: %1 至 %2 以外</source>
+        <translation>Изотерма: вне пределов от %1 до %2</translation>
+    </message>
+    <message>
+        <source>界限不是数字。</source>
+        <translation>Граница не является числом.</translation>
+    </message>
+    <message>
+        <source>下限高于上限, 没有像素着色。</source>
+        <translation>Нижняя граница выше верхней: ни один пиксель не окрашен.</translation>
+    </message>
+</context>
+<context>
     <name>MainWindow</name>
     <message>
         <source>Therma Desk</source>

@@ -164,11 +164,11 @@ private slots:
     void limitsAreReadingsAsShown()
     {
         const auto temperatures = std::make_unique<Temperatures>();
-        temperatures->fill(100.0F); // shown as 211.98…
+        temperatures->fill(100.0F); // shown as 211.986
         cv::Mat picture = grayPicture();
         const ShownUnit fahrenheit{Unit::Fahrenheit, toFahrenheit};
-        QCOMPARE(paint(isotherm(Side::Above, 212, 0, Unit::Fahrenheit), *temperatures, fahrenheit,
-                       picture),
+        QCOMPARE(paint(isotherm(Side::Above, 211.99, 0, Unit::Fahrenheit), *temperatures,
+                       fahrenheit, picture),
                  0);
         QCOMPARE(paint(isotherm(Side::Above, 211.9, 0, Unit::Fahrenheit), *temperatures, fahrenheit,
                        picture),

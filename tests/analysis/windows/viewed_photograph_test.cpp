@@ -4,6 +4,7 @@
 
 #include <QSignalSpy>
 
+#include <cmath>
 #include <optional>
 
 /// What windows beside an analysis window are told of its photograph, and when.
@@ -106,7 +107,130 @@ private slots:
         QCOMPARE(pointed.last(), (QVariantList{0, 0}));
     }
 
+    void correctedTemperaturesStandBesideTheStoredOnes()
+    {
+        QVERIFY(load(testing::flat(255, 600)));
+        QVERIFY(!viewed().correction());
+        QVERIFY(!viewed().corrected());
+        QCOMPARE(viewed().correctionName(), QString());
+        QVERIFY(tells([this] { viewed().setCorrection(toSixty); }));
+        QVERIFY(viewed().correction() == toSixty);
+        QVERIFY(std::abs(double(viewed().corrected()->front()) - 78.8) < 0.05);
+        QCOMPARE(viewed().photograph().temperatures.front(), 60.0F);
+        QVERIFY(viewed().correctionName().contains(QStringLiteral("0.95 → 0.60")));
+        QVERIFY(viewed().correctionName().contains(QStringLiteral("20.0 °C")));
+        unit().setCurrentIndex(1);
+        QVERIFY(viewed().correctionName().contains(QStringLiteral("68.0 °F")));
+        QVERIFY(!tells([this] { viewed().setCorrection(toSixty); }));
+        QVERIFY(tells([this] { viewed().setCorrection(std::nullopt); }));
+        QVERIFY(!viewed().corrected());
+        QCOMPARE(viewed().correctionName(), QString());
+    }
+
+    void fahrenheitIsCorrectedAsFahrenheit()
+    {
+        testing::Shot shot = testing::flat(255, 1400, 700);
+        shot.unit = 1;
+        QVERIFY(load(shot));
+        QVERIFY(viewed().scale() == analysis::Unit::Fahrenheit);
+        viewed().setCorrection(toSixty);
+        QVERIFY(std::abs(double(viewed().corrected()->front()) - (78.8 * 1.8 + 32)) < 0.1);
+        shot.raw = [](int, int) {
+            return 16 * 333 + 2; // 60 °C, a little less
+        };
+        QVERIFY(load(shot));
+        QVERIFY(viewed().scale() == analysis::Unit::Celsius);
+        QVERIFY(std::abs(double(viewed().corrected()->front()) - 78.8) < 0.1);
+    }
+
+    void withoutAScaleNothingIsCorrected()
+    {
+        testing::Shot shot = testing::flat(255, 600);
+        shot.unit = 2;
+        QVERIFY(load(shot));
+        QVERIFY(!viewed().scale());
+        viewed().setCorrection(toSixty);
+        QVERIFY(!viewed().correction() && !viewed().corrected());
+    }
+
+    void aCorrectionThatMakesNoSenseIsNone()
+    {
+        QVERIFY(load(testing::flat(255, 600)));
+        viewed().setCorrection(analysis::Correction{0, 0.6, 20});
+        QVERIFY(!viewed().correction() && !viewed().corrected());
+    }
+
+    /// What is corrected and coloured belongs to one photograph.
+    void anotherPhotographBeginsAsItIsStored()
+    {
+        QVERIFY(load(testing::flat(255, 600)));
+        viewed().setCorrection(toSixty);
+        viewed().setIsotherm(analysis::Isotherm());
+        QVERIFY(load(testing::flat(255, 500))); // the same file, written anew
+        QVERIFY(viewed().correction() && viewed().isotherm());
+        QVERIFY(std::abs(double(viewed().corrected()->front()) - 64.69) < 0.01);
+        QVERIFY(window->set_Image_addr(
+            file(QStringLiteral("other.bmp"), photographBytes(testing::flat(255, 600))), 0));
+        QVERIFY(!viewed().correction() && !viewed().corrected() && !viewed().isotherm());
+    }
+
+    void anIsothermColoursThePicture()
+    {
+        testing::Shot shot;
+        shot.gray = [](int x, int) {
+            return x < 120 ? 100 : 200; // 31.8 and 43.5
+        };
+        QVERIFY(load(shot));
+        show();
+        const QImage without = window->falseColourImage.copy();
+        analysis::Isotherm above;
+        above.from = 40;
+        QVERIFY(tells([&] { viewed().setIsotherm(above); }));
+        QTRY_COMPARE(window->falseColourImage.pixel(200, 100), analysis::isothermColour);
+        QCOMPARE(shownColour(200, 100), analysis::isothermColour);
+        QCOMPARE(window->falseColourImage.copy(0, 0, 120, 320), without.copy(0, 0, 120, 320));
+        // It stays on the same pixels in another unit, and in another span.
+        unit().setCurrentIndex(1);
+        QTRY_COMPARE(window->falseColourImage.pixel(200, 100), analysis::isothermColour);
+        bar().startValue = 80;
+        QVERIFY(tells([&] { viewed().setIsotherm(std::nullopt); }));
+        bar().startValue = 0;
+        window->update();
+        QTRY_COMPARE(window->falseColourImage, without);
+    }
+
+    /// As readings are shown, the limit lies between the two units' readings of one temperature.
+    void anIsothermFollowsTheUnit()
+    {
+        QVERIFY(load(testing::flat(255, 1000)));
+        show();
+        analysis::Isotherm atLeast;
+        atLeast.side = analysis::Isotherm::Side::Inside;
+        atLeast.from = 100;
+        atLeast.to = 1000;
+        viewed().setIsotherm(atLeast);
+        QTRY_COMPARE(shownColour(100, 100), analysis::isothermColour);
+        unit().setCurrentIndex(1); // 211.986 °F, below 212
+        QTRY_VERIFY(shownColour(100, 100) != analysis::isothermColour);
+        unit().setCurrentIndex(0);
+        QTRY_COMPARE(shownColour(100, 100), analysis::isothermColour);
+    }
+
+    void correctedReadingsColourNothing()
+    {
+        QVERIFY(load(testing::flat(255, 600)));
+        show();
+        analysis::Isotherm above;
+        above.from = 70;
+        viewed().setCorrection(toSixty);
+        QVERIFY(tells([&] { viewed().setIsotherm(above); }));
+        QCoreApplication::processEvents();
+        QVERIFY(shownColour(100, 100) != analysis::isothermColour);
+    }
+
 private:
+    static constexpr analysis::Correction toSixty{0.95, 0.6, 20.0};
+
     analysis::ViewedPhotograph& viewed() const { return window->commands().viewed(); }
 
     void moveTo(const QPoint& place, Qt::MouseButtons buttons)
