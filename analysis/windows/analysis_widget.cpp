@@ -134,7 +134,7 @@ void Analysis_Widget::mapAnew()
 
 /// The gray picture is not shown first: the false-colour picture would replace it before anyone
 /// could see it.
-void Analysis_Widget::render()
+const QImage& Analysis_Widget::render()
 {
     const Palette lookup =
         lookupFor(photograph.palette, ui->widget->startValue, ui->widget->endValue);
@@ -148,11 +148,13 @@ void Analysis_Widget::render()
                    int(falseColourMatrix.step), QImage::Format_RGB888);
         m_mapped = true;
         m_shownSize = QSize();
+        m_commands->viewed().recolour();
     }
     if (m_shownSize != ui->label->size()) {
         ui->label->setPixmap(fitted(falseColourImage, ui->label->size()));
         m_shownSize = ui->label->size();
     }
+    return falseColourImage;
 }
 
 void Analysis_Widget::fillInformation()
@@ -314,10 +316,9 @@ void Analysis_Widget::on_pushButton_clicked()
 /// What the window shows now, whether it is painted or not.
 Report Analysis_Widget::report()
 {
-    render();
     Report report;
     report.information = shownInformation(*ui->tableWidget_2);
-    report.picture = falseColourImage;
+    report.picture = render();
     report.overlay = reportOverlay(*ui->label, *ui->label, falseColourImage.size());
     report.colourStrip = colourStrip.toImage();
     report.maximum10 = photograph.parameters.maximum10;

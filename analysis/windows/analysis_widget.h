@@ -54,6 +54,9 @@ public:
     /// The picture is coloured anew when it is next painted, which is soon.
     void mapAnew();
 
+    /// falseColourImage as it is to be shown now, whether the window is painted or not.
+    const QImage& render();
+
     int displayUnitState = -1; ///< 0 since the first load; steers the unit conversion
     int currentTool = 0;       ///< an overlay::ToolMode, 0 for none yet
     int selectedRow = 0;       ///< what Set_Select was given last
@@ -102,7 +105,6 @@ private:
     void fillInformation();
     void showScale();
     void showGrayImage();
-    void render();
     analysis::Report report();
 
     const std::unique_ptr<Ui::Analysis_Widget> ui;

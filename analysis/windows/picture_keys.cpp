@@ -25,6 +25,23 @@ QWidgetList pictureWidgets(const Ui::Analysis_Widget& form)
             form.pushButton_7, form.pushButton_6, form.pushButton_5};
 }
 
+std::optional<QPoint> wayOfArrow(const QKeyEvent& event)
+{
+    const int step = event.modifiers() & Qt::ShiftModifier ? longStep : 1;
+    switch (event.key()) {
+    case Qt::Key_Left:
+        return QPoint(-step, 0);
+    case Qt::Key_Right:
+        return QPoint(step, 0);
+    case Qt::Key_Up:
+        return QPoint(0, -step);
+    case Qt::Key_Down:
+        return QPoint(0, step);
+    default:
+        return std::nullopt;
+    }
+}
+
 PictureKeys::PictureKeys(ToolCommands& commands, const Ui::Analysis_Widget& form)
     : m_commands(commands), m_form(form), m_picture(pictureWidgets(form))
 {
@@ -107,34 +124,17 @@ bool PictureKeys::press(const QObject* widget, const QKeyEvent& event)
 /// Without a selected tool the arrows are nobody's.
 bool PictureKeys::moveTool(const QKeyEvent& event)
 {
-    const int step = event.modifiers() & Qt::ShiftModifier ? longStep : 1;
-    QPoint way;
-    switch (event.key()) {
-    case Qt::Key_Left:
-        way.setX(-step);
-        break;
-    case Qt::Key_Right:
-        way.setX(step);
-        break;
-    case Qt::Key_Up:
-        way.setY(-step);
-        break;
-    case Qt::Key_Down:
-        way.setY(step);
-        break;
-    default:
-        return false;
-    }
-    if (!m_commands.hasSelection())
+    const std::optional<QPoint> way = wayOfArrow(event);
+    if (!way || !m_commands.hasSelection())
         return false;
     if (!event.isAutoRepeat())
         m_commands.record();
     const bool endOnly = event.modifiers() & Qt::AltModifier;
     m_commands.edit([&](ToolEditing& tools) {
         if (endOnly)
-            overlay::moveSelectedEnd(tools, way.x(), way.y());
+            overlay::moveSelectedEnd(tools, way->x(), way->y());
         else
-            overlay::moveSelected(tools, way.x(), way.y());
+            overlay::moveSelected(tools, way->x(), way->y());
     });
     return true;
 }

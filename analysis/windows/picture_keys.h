@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QPoint>
 #include <QWidget>
+
+#include <optional>
 
 class Analysis_Widget;
 class QKeyEvent;
@@ -17,6 +20,10 @@ class ToolCommands;
 /// The picture, and the five buttons that choose a tool: one of them has the focus while tools are
 /// drawn.
 QWidgetList pictureWidgets(const Ui::Analysis_Widget& form);
+
+/// How far an arrow key moves things in the picture: a pixel, with Shift ten. Nothing for other
+/// keys.
+std::optional<QPoint> wayOfArrow(const QKeyEvent& event);
 
 /// What plain keys do in an analysis window. Arrows move the selected tool, with Alt its end, with
 /// Shift ten pixels at a time; Page Up and Page Down select the tool before and the next. They are

@@ -6,6 +6,7 @@
 #include "analysis/windows/beside_window.h"
 #include "analysis/windows/coordinates_menu.h"
 #include "analysis/windows/details_window.h"
+#include "analysis/windows/magnifier.h"
 #include "analysis/windows/measurement_keeping.h"
 #include "analysis/windows/measurement_menu.h"
 #include "analysis/windows/picture_keys.h"
@@ -27,6 +28,7 @@ ToolCommands::ToolCommands(Analysis_Widget& window, const Ui::Analysis_Widget& f
     CoordinatesMenu::addTo(*this);
     addOwnEntries();
     DetailsWindow::addTo(*this, form);
+    Magnifier::addTo(*this);
     MeasurementMenu::addTo(*this);
     ViewMenu::addTo(*this, form);
     m_keeping = std::make_unique<MeasurementKeeping>(*this, form);

@@ -7,6 +7,7 @@
 #include "ui_analysis_widget.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace analysis {
 
@@ -16,7 +17,8 @@ ViewedPhotograph::ViewedPhotograph(Analysis_Widget& window, const Ui::Analysis_W
     m_soon.setSingleShot(true);
     connect(&m_soon, &QTimer::timeout, this, &ViewedPhotograph::tell);
     connect(form.label, &MyLabel::Point_XY, this, [this](int x, int y) {
-        emit pointed(std::clamp(x, 0, format::columns - 1), std::clamp(y, 0, format::rows - 1));
+        m_pointedAt = {std::clamp(x, 0, format::columns - 1), std::clamp(y, 0, format::rows - 1)};
+        emit pointed(m_pointedAt.x(), m_pointedAt.y());
         look();
     });
     connect(form.label, &MyLabel::updat_Tool, this, &ViewedPhotograph::look);
@@ -88,6 +90,12 @@ void ViewedPhotograph::paintIsotherm(cv::Mat& colours) const
         paint(*m_isotherm, photograph().temperatures, unit(), colours);
 }
 
+/// A copy, because the window's picture is painted over when its colours change.
+QImage ViewedPhotograph::colours() const
+{
+    return m_window.render().copy();
+}
+
 void ViewedPhotograph::mark(const QObject& owner, const std::vector<PictureMark>& marks)
 {
     if (!m_marks && !marks.empty())
@@ -123,8 +131,16 @@ void ViewedPhotograph::becomeOther()
     look();
 }
 
+void ViewedPhotograph::recolour()
+{
+    m_isRecoloured = true;
+    look();
+}
+
 void ViewedPhotograph::tell()
 {
+    if (std::exchange(m_isRecoloured, false))
+        emit recoloured();
     overlay::ToolsState now = overlay::stateOf(*m_form.label);
     if (now == m_seen && !m_isOther)
         return;

@@ -7,6 +7,8 @@
 #include "analysis/windows/picture_marks.h"
 #include "overlay/tool_history.h"
 
+#include <QImage>
+#include <QPoint>
 #include <QPointer>
 #include <QTimer>
 
@@ -39,6 +41,10 @@ public:
     ShownUnit unit() const;
     /// The finished tools and the selection, a tool that is being dragged as it is now.
     overlay::Tools tools() const;
+    /// The picture in the colours that the window shows now: 240 × 320, red, green and blue.
+    QImage colours() const;
+    /// The image position that the mouse was at last; the middle of the picture before.
+    QPoint pointedAt() const { return m_pointedAt; }
 
     /// What its temperatures are stored in; nothing where it does not say.
     std::optional<Unit> scale() const;
@@ -67,11 +73,15 @@ public:
     void takePhotograph();
     /// To be called when it is shown in another way.
     void becomeOther();
+    /// To be called when colours() is other than before.
+    void recolour();
 
 signals:
     /// Photograph, unit, tools, selection, correction or isotherm are other than before; told once
     /// for all that changed before the event loop was reached again.
     void changed();
+    /// colours() is other than before; told as seldom as changed().
+    void recoloured();
     /// The image position under the mouse, inside the picture.
     void pointed(int x, int y);
 
@@ -83,6 +93,8 @@ private:
     const Ui::Analysis_Widget& m_form;
     overlay::ToolsState m_seen;
     bool m_isOther = false; ///< than tools alone could tell
+    bool m_isRecoloured = false;
+    QPoint m_pointedAt{format::columns / 2, format::rows / 2};
     QTimer m_soon;
     QString m_path; ///< of the photograph that the next three are of
     std::optional<Correction> m_correction;

@@ -745,6 +745,25 @@
     </message>
 </context>
 <context>
+    <name>analysis::Magnifier</name>
+    <message>
+        <source>放大镜</source>
+        <translation>Magnifier</translation>
+    </message>
+    <message>
+        <source>定格(空格键)</source>
+        <translation>Freeze (Space)</translation>
+    </message>
+    <message>
+        <source>滚轮或 + 和 - 缩放，定格后用方向键移动，Ctrl+C 复制数值</source>
+        <translation>Zoom by wheel or + and −, move by arrow keys while frozen, copy the numbers by Ctrl+C</translation>
+    </message>
+    <message>
+        <source>定格放大镜</source>
+        <translation>Freeze the magnifier</translation>
+    </message>
+</context>
+<context>
     <name>analysis::MeasurementKeeping</name>
     <message>
         <source>随照片保存测量</source>

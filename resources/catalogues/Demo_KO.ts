@@ -741,6 +741,25 @@
     </message>
 </context>
 <context>
+    <name>analysis::Magnifier</name>
+    <message>
+        <source>放大镜</source>
+        <translation>돋보기</translation>
+    </message>
+    <message>
+        <source>定格(空格键)</source>
+        <translation>고정(스페이스바)</translation>
+    </message>
+    <message>
+        <source>滚轮或 + 和 - 缩放，定格后用方向键移动，Ctrl+C 复制数值</source>
+        <translation>휠이나 + 와 − 로 확대·축소, 고정 시 방향키로 이동, Ctrl+C 로 수치 복사</translation>
+    </message>
+    <message>
+        <source>定格放大镜</source>
+        <translation>돋보기 고정</translation>
+    </message>
+</context>
+<context>
     <name>analysis::MeasurementKeeping</name>
     <message>
         <source>随照片保存测量</source>

@@ -749,6 +749,25 @@
     </message>
 </context>
 <context>
+    <name>analysis::Magnifier</name>
+    <message>
+        <source>放大镜</source>
+        <translation>Лупа</translation>
+    </message>
+    <message>
+        <source>定格(空格键)</source>
+        <translation>Зафиксировать (пробел)</translation>
+    </message>
+    <message>
+        <source>滚轮或 + 和 - 缩放，定格后用方向键移动，Ctrl+C 复制数值</source>
+        <translation>Масштаб: колесо или + и −; при фиксации перемещение стрелками; Ctrl+C копирует числа</translation>
+    </message>
+    <message>
+        <source>定格放大镜</source>
+        <translation>Зафиксировать лупу</translation>
+    </message>
+</context>
+<context>
     <name>analysis::MeasurementKeeping</name>
     <message>
         <source>随照片保存测量</source>

@@ -6,12 +6,11 @@
 #include "app/device_poll.h"
 #include "overlay/my_color_slider.h"
 #include "overlay/my_label.h"
-#include "simulator/tour/walk.h"
+#include "simulator/tour/opened_photograph.h"
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QContextMenuEvent>
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -27,22 +26,11 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <stdexcept>
 
 namespace tour {
 namespace {
 
 constexpr int samples = 5; ///< photographs of SimulatedImager::takeSamplePhotographs()
-
-photo_window& browser(Walk& walk)
-{
-    return *walk.window().browser();
-}
-
-Analysis_Widget& analysisOf(Walk& walk)
-{
-    return *browser(walk).findChild<Analysis_Widget*>();
-}
 
 void changeToTheDisk(Walk& walk)
 {
@@ -113,21 +101,10 @@ void placeTools(Walk& walk)
     walk.shoot("tools");
 }
 
-/// A dialog that nobody waits for, as soon as it has the keys.
-template<typename Dialog>
-Dialog& shownDialog(Walk& walk)
-{
-    const auto find = [&] {
-        return walk.window().findChild<Dialog*>();
-    };
-    walk.await("a dialog opens", [&] { return find() && find()->isActiveWindow(); });
-    return *find();
-}
-
 /// The circle, which was drawn last and is selected.
 void typeCoordinates(Walk& walk)
 {
-    auto& label = find<MyLabel>(analysisOf(walk), "label");
+    auto& label = pictureOf(walk);
     QTest::keyClick(analysisOf(walk).focusWidget(), Qt::Key_F2);
     auto& dialog = shownDialog<CoordinatesDialog>(walk);
     auto& radius = find<QSpinBox>(dialog, "number3");
@@ -140,48 +117,15 @@ void typeCoordinates(Walk& walk)
                [&] { return !walk.window().findChild<CoordinatesDialog*>(); });
 }
 
-/// By a click of the right button on the middle of the widget's upper left quarter.
-QMenu& openMenuOf(Walk& walk, QWidget& widget)
-{
-    const QPoint place(widget.width() / 4, widget.height() / 8);
-    QContextMenuEvent event(QContextMenuEvent::Mouse, place, widget.mapToGlobal(place));
-    QCoreApplication::sendEvent(&widget, &event);
-    const auto menu = [] {
-        return qobject_cast<QMenu*>(QApplication::activePopupWidget());
-    };
-    walk.await("a context menu opens", [&] { return menu() && menu()->isVisible(); });
-    return *menu();
-}
-
-void chooseFrom(Walk& walk, QMenu& menu, const QString& text)
-{
-    for (QAction* action : menu.actions()) {
-        if (action->text() == text) {
-            walk.click(menu, menu.actionGeometry(action));
-            return;
-        }
-    }
-    throw std::runtime_error(qPrintable(text));
-}
-
 void chooseForMeasurements(Walk& walk, const char* text)
 {
-    chooseFrom(walk, openMenuOf(walk, find<MyLabel>(analysisOf(walk), "label")),
+    chooseFrom(walk, openMenuOf(walk, pictureOf(walk)),
                QCoreApplication::translate("MeasurementMenu", text));
-}
-
-/// Answers the file dialog that is open, or opens.
-void nameAFile(Walk& walk, const QString& path)
-{
-    auto& name = find<QLineEdit>(shownDialog<QFileDialog>(walk), "fileNameEdit");
-    name.setText(path);
-    QTest::keyClick(&name, Qt::Key_Return);
-    walk.await("the dialog is gone", [&] { return !walk.window().findChild<QFileDialog*>(); });
 }
 
 void workByKeys(Walk& walk)
 {
-    auto& label = find<MyLabel>(analysisOf(walk), "label");
+    auto& label = pictureOf(walk);
     auto& table = find<QTableWidget>(analysisOf(walk), "tableWidget");
     const auto press = [&](Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
         QTest::keyClick(analysisOf(walk).focusWidget(), key, modifiers);
@@ -241,7 +185,7 @@ void keepMeasurements(Walk& walk)
 
 void savePicture(Walk& walk)
 {
-    QMenu& menu = openMenuOf(walk, find<MyLabel>(analysisOf(walk), "label"));
+    QMenu& menu = openMenuOf(walk, pictureOf(walk));
     walk.shoot("picture-menu");
     chooseFrom(walk, menu, QCoreApplication::translate("ViewMenu", "保存图片..."));
     auto& how = shownDialog<PictureDialog>(walk);
@@ -330,6 +274,7 @@ void takeDiskSteps(Walk& walk)
     typeCoordinates(walk);
     workByKeys(walk);
     savePicture(walk);
+    takeLookingSteps(walk);
     keepMeasurements(walk);
     changeTheUnit(walk);
     narrowTheSpan(walk);

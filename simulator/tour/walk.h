@@ -82,5 +82,7 @@ T& find(const QObject& parent, const char* objectName)
 void takeLiveSteps(Walk& walk);
 /// The imager as a disk; from live mode and back to it.
 void takeDiskSteps(Walk& walk);
+/// The windows beside the picture of the photograph that is open.
+void takeLookingSteps(Walk& walk);
 
 } // namespace tour

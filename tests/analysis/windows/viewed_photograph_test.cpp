@@ -95,14 +95,37 @@ private slots:
         QVERIFY(!tells([this] { key(Qt::Key_Escape); }));
     }
 
+    void hasTheColoursOfTheWindow()
+    {
+        begin();
+        settle();
+        const QImage before = viewed().colours();
+        QCOMPARE(before, window->falseColourImage);
+        QVERIFY(!recolours([this] { window->update(); }));
+        QVERIFY(!recolours([this] { drawOneOfEach(); }));
+        QVERIFY(recolours([this] {
+            bar().endValue = 100;
+            bar().update();
+        }));
+        QVERIFY(viewed().colours() != before);
+        QCOMPARE(viewed().colours(), window->falseColourImage);
+        // At once, without a paint.
+        bar().endValue = 255;
+        QVERIFY(recolours([&] { QCOMPARE(viewed().colours(), before); }));
+        QVERIFY(recolours([this] { load(testing::flat(7)); }));
+        QCOMPARE(viewed().colours(), window->falseColourImage);
+    }
+
     void pointsInsideThePicture()
     {
         begin();
+        QCOMPARE(viewed().pointedAt(), QPoint(120, 160));
         const QSignalSpy pointed(&viewed(), &analysis::ViewedPhotograph::pointed);
         moveTo(at(17, 201), Qt::NoButton);
         QCOMPARE(pointed.last(), (QVariantList{17, 201}));
         moveTo({label().width() - 1, label().height() - 1}, Qt::NoButton);
         QCOMPARE(pointed.last(), (QVariantList{239, 319}));
+        QCOMPARE(viewed().pointedAt(), QPoint(239, 319));
         moveTo({0, 0}, Qt::NoButton);
         QCOMPARE(pointed.last(), (QVariantList{0, 0}));
     }
@@ -249,14 +272,24 @@ private:
         }
     }
 
+    template<typename Signal, typename Do>
+    int timesTold(Signal told, Do something)
+    {
+        settle();
+        const QSignalSpy spy(&viewed(), told);
+        something();
+        settle();
+        return spy.count();
+    }
     template<typename Do>
     bool tells(Do something)
     {
-        settle();
-        const QSignalSpy told(&viewed(), &analysis::ViewedPhotograph::changed);
-        something();
-        settle();
-        return told.count() == 1;
+        return timesTold(&analysis::ViewedPhotograph::changed, something) == 1;
+    }
+    template<typename Do>
+    bool recolours(Do something)
+    {
+        return timesTold(&analysis::ViewedPhotograph::recoloured, something) == 1;
     }
 };
 

@@ -1,0 +1,198 @@
+// SPDX-License-Identifier: MIT
+#include "analysis/windows/magnifier.h"
+
+#include "analysis/windows/magnified_pixels.h"
+#include "analysis/windows/picture_keys.h"
+#include "analysis/windows/tool_commands.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+
+#include <algorithm>
+#include <cmath>
+
+namespace analysis {
+namespace {
+
+/// A photograph without a gray span has readings that are no numbers; their texts are short.
+int longestTextOf(const Temperatures& temperatures, Conversion conversion)
+{
+    double low = 0.0;
+    double high = 0.0;
+    for (const float temperature : temperatures) {
+        const double reading = double(shown(temperature, conversion));
+        if (!std::isfinite(reading))
+            continue;
+        low = std::min(low, reading);
+        high = std::max(high, reading);
+    }
+    constexpr int shortest = 4; // "-inf"
+    return std::max({shortest, oneDecimal(low).size(), oneDecimal(high).size()});
+}
+
+QCheckBox* tickBox(const QString& text, const char* name)
+{
+    auto* box = new QCheckBox(text);
+    box->setObjectName(QLatin1String(name));
+    box->setFocusPolicy(Qt::NoFocus); // the keys stay those of the pixels
+    return box;
+}
+
+} // namespace
+
+Magnifier::Magnifier(ViewedPhotograph& photograph)
+    : BesideWindow(photograph, tr("放大镜")), m_pixels(new MagnifiedPixels), m_readOut(new QLabel),
+      m_size(new QLabel), m_frozen(tickBox(tr("定格(空格键)"), "frozen"))
+{
+    m_pixels->setObjectName(QStringLiteral("pixels"));
+    m_pixels->setAccessibleName(tr("放大镜"));
+    m_pixels->setToolTip(tr("滚轮或 + 和 - 缩放，定格后用方向键移动，Ctrl+C 复制数值"));
+    m_readOut->setObjectName(QStringLiteral("readOut"));
+    m_size->setObjectName(QStringLiteral("size"));
+    auto* below = new QHBoxLayout;
+    below->addWidget(m_readOut, 1);
+    below->addWidget(m_size);
+    below->addSpacing(12);
+    below->addWidget(m_frozen);
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(m_pixels, 1);
+    layout->addLayout(below);
+
+    m_part.moveTo(photograph.pointedAt());
+    connect(&photograph, &ViewedPhotograph::pointed, this, [this](int x, int y) {
+        if (!m_frozen->isChecked())
+            moveTo({x, y});
+    });
+    connect(&photograph, &ViewedPhotograph::recoloured, this, [this] {
+        if (isVisible())
+            refresh();
+    });
+    m_pixels->setFocus();
+}
+
+Magnifier* Magnifier::openOne(const ToolCommands& commands)
+{
+    return commands.window().findChild<Magnifier*>(QString(), Qt::FindDirectChildrenOnly);
+}
+
+void Magnifier::addTo(ToolCommands& commands)
+{
+    QAction* open = commands.add({ToolCommands::Group::Looking,
+                                  tr("放大镜"),
+                                  [&commands] {
+                                      if (Magnifier* magnifier = openOne(commands))
+                                          magnifier->close();
+                                      else
+                                          BesideWindow::open<Magnifier>(commands.viewed());
+                                  },
+                                  {QKeySequence(Qt::Key_F8)},
+                                  ToolCommands::Focus::Window,
+                                  ToolCommands::Menus::Picture});
+    open->setObjectName(QStringLiteral("magnifier"));
+    commands.add({ToolCommands::Group::Looking,
+                  tr("定格放大镜"),
+                  [&commands] {
+                      if (const Magnifier* magnifier = openOne(commands))
+                          magnifier->m_frozen->toggle();
+                  },
+                  {QKeySequence(Qt::SHIFT | Qt::Key_F8)},
+                  ToolCommands::Focus::Window,
+                  ToolCommands::Menus::Picture,
+                  [&commands] {
+                      return openOne(commands) != nullptr;
+                  }});
+}
+
+void Magnifier::refresh()
+{
+    const Temperatures& temperatures = viewed().photograph().temperatures;
+    const ShownUnit unit = viewed().unit();
+    m_longestText = longestTextOf(temperatures, unit.conversion);
+    showPart();
+}
+
+void Magnifier::showPart()
+{
+    const Temperatures& temperatures = viewed().photograph().temperatures;
+    const ShownUnit unit = viewed().unit();
+    const QImage colours = viewed().colours();
+    const QRect pixels = m_part.pixels();
+    const QRect inside = m_part.pixelsInside();
+    MagnifiedPixels::Content content{m_part.size(), {}, m_longestText};
+    content.cells.reserve(std::size_t(pixels.width()) * std::size_t(pixels.height()));
+    for (int y = pixels.top(); y <= pixels.bottom(); ++y) {
+        for (int x = pixels.left(); x <= pixels.right(); ++x) {
+            if (inside.contains(x, y))
+                content.cells.push_back(
+                    {colours.pixelColor(x, y), readingText(temperatures, unit.conversion, x, y)});
+            else
+                content.cells.push_back({});
+        }
+    }
+    m_pixels->show(content);
+    m_readOut->setText(readOutText(temperatures, unit, m_part.centre()));
+    m_size->setText(QStringLiteral("%1 × %1").arg(m_part.size()));
+    viewed().mark(*this, {{inside}});
+}
+
+void Magnifier::moveTo(const QPoint& pixel)
+{
+    m_part.moveTo(pixel);
+    if (isVisible())
+        showPart();
+}
+
+void Magnifier::grow(int steps)
+{
+    m_part.growBy(steps);
+    showPart();
+}
+
+void Magnifier::wheelEvent(QWheelEvent* event)
+{
+    constexpr int step = QWheelEvent::DefaultDeltasPerStep;
+    m_turned += event->angleDelta().y();
+    grow(-(m_turned / step));
+    m_turned %= step;
+    event->accept();
+}
+
+bool Magnifier::moveByKey(const QKeyEvent& event)
+{
+    const std::optional<QPoint> way = wayOfArrow(event);
+    if (!way || !m_frozen->isChecked())
+        return false;
+    moveTo(m_part.centre() + *way);
+    return true;
+}
+
+void Magnifier::keyPressEvent(QKeyEvent* event)
+{
+    if (event->matches(QKeySequence::Copy))
+        copy();
+    else if (event->key() == Qt::Key_Space && !event->isAutoRepeat())
+        m_frozen->toggle();
+    else if (event->key() == Qt::Key_Plus || event->key() == Qt::Key_Equal)
+        grow(-1);
+    else if (event->key() == Qt::Key_Minus)
+        grow(1);
+    else if (event->key() == Qt::Key_F8)
+        close();
+    else if (!moveByKey(*event))
+        BesideWindow::keyPressEvent(event);
+}
+
+void Magnifier::copy() const
+{
+    QGuiApplication::clipboard()->setText(
+        readingMatrix(m_part, viewed().photograph().temperatures, viewed().unit()));
+}
+
+} // namespace analysis

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "analysis/photograph/neighbourhood.h"
+#include "analysis/windows/beside_window.h"
+
+class QCheckBox;
+class QLabel;
+
+namespace analysis {
+
+class MagnifiedPixels;
+class ToolCommands;
+
+/// The pixels round the mouse in large, in the picture's own colours and with their temperatures.
+/// It follows the mouse over the picture, in which it frames what it shows, unless it is frozen:
+/// then the arrow keys move it. GUI thread only.
+class Magnifier : public BesideWindow
+{
+    Q_OBJECT
+
+public:
+    explicit Magnifier(ViewedPhotograph& photograph);
+
+    /// The entries of the context menu that open, close and freeze it.
+    static void addTo(ToolCommands& commands);
+
+protected:
+    void refresh() override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    static Magnifier* openOne(const ToolCommands& commands);
+    void showPart();
+    void moveTo(const QPoint& pixel);
+    void grow(int steps);
+    bool moveByKey(const QKeyEvent& event);
+    void copy() const;
+
+    Neighbourhood m_part;
+    int m_longestText = 0; ///< of all readings in the picture
+    int m_turned = 0;      ///< of the wheel, not yet a whole step
+    MagnifiedPixels* m_pixels;
+    QLabel* m_readOut;
+    QLabel* m_size;
+    QCheckBox* m_frozen;
+};
+
+} // namespace analysis
