@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "analysis/photograph/photograph_reader.h"
+#include "analysis/photograph/layouts.h"
 
 #include <QPoint>
 #include <QRect>
-#include <QString>
 
 /// The pixels round one, as a magnifier shows them.
 namespace analysis {
@@ -41,17 +40,5 @@ private:
     QPoint m_centre{format::columns / 2, format::rows / 2};
     int m_size = usual;
 };
-
-/// What the pixel reads, as the window writes it but without its unit. Inside the picture only.
-QString readingText(const Temperatures& temperatures, Conversion conversion, int x, int y);
-
-/// "X: 120  Y: 160  36.5°C", for a position inside the picture.
-QString readOutText(const Temperatures& temperatures, const ShownUnit& unit, const QPoint& pixel);
-
-/// The readings as a matrix for spreadsheets: lines of tab-separated cells, the columns' x in the
-/// first line and the rows' y in front, the unit in the corner. What lies outside the picture is
-/// left out.
-QString readingMatrix(const Neighbourhood& part, const Temperatures& temperatures,
-                      const ShownUnit& unit);
 
 } // namespace analysis

@@ -15,27 +15,8 @@
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
-#include <algorithm>
-#include <cmath>
-
 namespace analysis {
 namespace {
-
-/// A photograph without a gray span has readings that are no numbers; their texts are short.
-int longestTextOf(const Temperatures& temperatures, Conversion conversion)
-{
-    double low = 0.0;
-    double high = 0.0;
-    for (const float temperature : temperatures) {
-        const double reading = double(shown(temperature, conversion));
-        if (!std::isfinite(reading))
-            continue;
-        low = std::min(low, reading);
-        high = std::max(high, reading);
-    }
-    constexpr int shortest = 4; // "-inf"
-    return std::max({shortest, oneDecimal(low).size(), oneDecimal(high).size()});
-}
 
 QCheckBox* tickBox(const QString& text, const char* name)
 {
@@ -49,7 +30,8 @@ QCheckBox* tickBox(const QString& text, const char* name)
 
 Magnifier::Magnifier(ViewedPhotograph& photograph)
     : BesideWindow(photograph, tr("放大镜")), m_pixels(new MagnifiedPixels), m_readOut(new QLabel),
-      m_size(new QLabel), m_frozen(tickBox(tr("定格(空格键)"), "frozen"))
+      m_size(new QLabel), m_frozen(tickBox(tr("定格(空格键)"), "frozen")),
+      m_corrected(tickBox(tr("校正后的读数"), "corrected")), m_set(new QLabel)
 {
     m_pixels->setObjectName(QStringLiteral("pixels"));
     m_pixels->setAccessibleName(tr("放大镜"));
@@ -61,9 +43,14 @@ Magnifier::Magnifier(ViewedPhotograph& photograph)
     below->addWidget(m_size);
     below->addSpacing(12);
     below->addWidget(m_frozen);
+    m_set->setObjectName(QStringLiteral("set"));
+    auto* sets = new QHBoxLayout;
+    sets->addWidget(m_set, 1);
+    sets->addWidget(m_corrected);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_pixels, 1);
     layout->addLayout(below);
+    layout->addLayout(sets);
 
     m_part.moveTo(photograph.pointedAt());
     connect(&photograph, &ViewedPhotograph::pointed, this, [this](int x, int y) {
@@ -74,7 +61,15 @@ Magnifier::Magnifier(ViewedPhotograph& photograph)
         if (isVisible())
             refresh();
     });
+    connect(m_corrected, &QCheckBox::toggled, this, &Magnifier::refresh);
     m_pixels->setFocus();
+}
+
+ReadingTexts Magnifier::texts() const
+{
+    const bool isCorrected = m_correctedTemperatures && m_corrected->isChecked();
+    return {isCorrected ? *m_correctedTemperatures : viewed().photograph().temperatures,
+            viewed().unit(), isCorrected ? viewed().correctionName() : QString()};
 }
 
 Magnifier* Magnifier::openOne(const ToolCommands& commands)
@@ -112,16 +107,17 @@ void Magnifier::addTo(ToolCommands& commands)
 
 void Magnifier::refresh()
 {
-    const Temperatures& temperatures = viewed().photograph().temperatures;
-    const ShownUnit unit = viewed().unit();
-    m_longestText = longestTextOf(temperatures, unit.conversion);
+    m_correctedTemperatures = viewed().corrected();
+    m_corrected->setVisible(m_correctedTemperatures != nullptr);
+    m_set->setVisible(m_correctedTemperatures != nullptr);
+    m_set->setText(m_corrected->isChecked() ? viewed().correctionName() : tr("存储的读数"));
+    m_longestText = texts().longest();
     showPart();
 }
 
 void Magnifier::showPart()
 {
-    const Temperatures& temperatures = viewed().photograph().temperatures;
-    const ShownUnit unit = viewed().unit();
+    const ReadingTexts texts = this->texts();
     const QImage colours = viewed().colours();
     const QRect pixels = m_part.pixels();
     const QRect inside = m_part.pixelsInside();
@@ -130,14 +126,13 @@ void Magnifier::showPart()
     for (int y = pixels.top(); y <= pixels.bottom(); ++y) {
         for (int x = pixels.left(); x <= pixels.right(); ++x) {
             if (inside.contains(x, y))
-                content.cells.push_back(
-                    {colours.pixelColor(x, y), readingText(temperatures, unit.conversion, x, y)});
+                content.cells.push_back({colours.pixelColor(x, y), texts.at(x, y)});
             else
                 content.cells.push_back({});
         }
     }
     m_pixels->show(content);
-    m_readOut->setText(readOutText(temperatures, unit, m_part.centre()));
+    m_readOut->setText(texts.readOut(m_part.centre()));
     m_size->setText(QStringLiteral("%1 × %1").arg(m_part.size()));
     viewed().mark(*this, {{inside}});
 }
@@ -191,8 +186,7 @@ void Magnifier::keyPressEvent(QKeyEvent* event)
 
 void Magnifier::copy() const
 {
-    QGuiApplication::clipboard()->setText(
-        readingMatrix(m_part, viewed().photograph().temperatures, viewed().unit()));
+    QGuiApplication::clipboard()->setText(texts().matrix(m_part.pixelsInside()));
 }
 
 } // namespace analysis

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "analysis/photograph/neighbourhood.h"
+#include "analysis/photograph/reading_texts.h"
 #include "analysis/windows/beside_window.h"
 
 class QCheckBox;
@@ -14,7 +15,8 @@ class ToolCommands;
 
 /// The pixels round the mouse in large, in the picture's own colours and with their temperatures.
 /// It follows the mouse over the picture, in which it frames what it shows, unless it is frozen:
-/// then the arrow keys move it. GUI thread only.
+/// then the arrow keys move it. While the photograph has corrected readings, these can be chosen.
+/// GUI thread only.
 class Magnifier : public BesideWindow
 {
     Q_OBJECT
@@ -37,6 +39,7 @@ private:
     void grow(int steps);
     bool moveByKey(const QKeyEvent& event);
     void copy() const;
+    ReadingTexts texts() const;
 
     Neighbourhood m_part;
     int m_longestText = 0; ///< of all readings in the picture
@@ -45,6 +48,9 @@ private:
     QLabel* m_readOut;
     QLabel* m_size;
     QCheckBox* m_frozen;
+    QCheckBox* m_corrected; ///< shown only while there is a corrected set …
+    QLabel* m_set;          ///< … and the name of the set that is shown
+    std::shared_ptr<const Temperatures> m_correctedTemperatures;
 };
 
 } // namespace analysis

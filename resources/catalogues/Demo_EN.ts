@@ -762,6 +762,14 @@
         <source>定格放大镜</source>
         <translation>Freeze the magnifier</translation>
     </message>
+    <message>
+        <source>校正后的读数</source>
+        <translation>Corrected readings</translation>
+    </message>
+    <message>
+        <source>存储的读数</source>
+        <translation>Stored readings</translation>
+    </message>
 </context>
 <context>
     <name>analysis::MeasurementKeeping</name>

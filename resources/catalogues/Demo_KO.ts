@@ -758,6 +758,14 @@
         <source>定格放大镜</source>
         <translation>돋보기 고정</translation>
     </message>
+    <message>
+        <source>校正后的读数</source>
+        <translation>보정된 측정값</translation>
+    </message>
+    <message>
+        <source>存储的读数</source>
+        <translation>저장된 측정값</translation>
+    </message>
 </context>
 <context>
     <name>analysis::MeasurementKeeping</name>

@@ -766,6 +766,14 @@
         <source>定格放大镜</source>
         <translation>Зафиксировать лупу</translation>
     </message>
+    <message>
+        <source>校正后的读数</source>
+        <translation>Исправленные показания</translation>
+    </message>
+    <message>
+        <source>存储的读数</source>
+        <translation>Сохранённые показания</translation>
+    </message>
 </context>
 <context>
     <name>analysis::MeasurementKeeping</name>

@@ -1,17 +1,13 @@
 // SPDX-License-Identifier: MIT
-#include "analysis/windows/magnified_pixels.h"
-#include "analysis/windows/magnifier.h"
-#include "tests/analysis/windows/looking_test.h"
+#include "tests/analysis/windows/magnifier_test.h"
+
 #include "tests/support/paint_counter.h"
 
-#include <QCheckBox>
-#include <QClipboard>
 #include <QPointer>
 
-using analysis::MagnifiedPixels;
 using analysis::Magnifier;
 
-class MagnifierTest : public testing::LookingTest
+class MagnifierTest : public testing::MagnifierFixture
 {
     Q_OBJECT
 
@@ -65,35 +61,6 @@ private slots:
             QCOMPARE(middle(), pixel);
             QCOMPARE(readOutOfMagnifier().split(QStringLiteral("  ")).join(QLatin1Char('|')),
                      readOut());
-        }
-    }
-
-    /// In both units, what the analysis window says when the mouse is there.
-    void everyNumberIsTheReadOut()
-    {
-        open();
-        turn(-15);
-        for (const int index : {0, 1}) {
-            unit().setCurrentIndex(index);
-            QCoreApplication::processEvents();
-            int compared = 0;
-            for (int top = 20; top < 340; top += 41) {
-                for (int left = 20; left < 260; left += 41) {
-                    point(std::min(left, 239), std::min(top, 319));
-                    compared += compareCells();
-                }
-            }
-            QVERIFY(compared >= 240 * 320);
-        }
-    }
-
-    void outsideThePictureIsNothing()
-    {
-        open();
-        for (const QPoint& pixel :
-             {QPoint(0, 0), QPoint(239, 319), QPoint(0, 319), QPoint(239, 0), QPoint(2, 160)}) {
-            point(pixel.x(), pixel.y());
-            QVERIFY(compareCells() < 121);
         }
     }
 
@@ -222,22 +189,6 @@ private slots:
         QTRY_COMPARE(colours(), expected());
     }
 
-    void copiesItsNumbers()
-    {
-        open();
-        point(238, 1);
-        turn(3);
-        pressIn(Qt::Key_C, Qt::ControlModifier);
-        // gray = (7x + 13y) mod 256, and −30 °C … 50 °C over 255 gray values; by hand:
-        // (236, 0): 1652 mod 256 = 116, and 116 × 80 / 255 − 30 = 6.392
-        const QStringList lines = QGuiApplication::clipboard()->text().split(QLatin1Char('\n'));
-        QCOMPARE(lines.size(), 6);
-        QCOMPARE(lines.at(0), QStringLiteral("y \\ x (°C)\t236\t237\t238\t239"));
-        QCOMPARE(lines.at(1), QStringLiteral("0\t6.4\t8.6\t10.8\t13.0"));
-        QCOMPARE(lines.at(4), QStringLiteral("3\t18.6\t20.8\t23.0\t25.2"));
-        QCOMPARE(lines.at(5), QString());
-    }
-
     void idlePaintsNothing()
     {
         open();
@@ -260,67 +211,6 @@ private slots:
         const QPointer<Magnifier> open = magnifier();
         window.reset();
         QVERIFY(!open);
-    }
-
-private:
-    void open()
-    {
-        beginOn(testing::slope());
-        press(Qt::Key_F8);
-        QVERIFY(magnifier());
-        QVERIFY(QTest::qWaitForWindowExposed(magnifier()));
-    }
-    Magnifier* magnifier() const { return window->findChild<Magnifier*>(); }
-    MagnifiedPixels& pixels() const
-    {
-        return *testing::part<MagnifiedPixels>(magnifier(), "pixels");
-    }
-    QString readOutOfMagnifier() const
-    {
-        return testing::part<QLabel>(magnifier(), "readOut")->text();
-    }
-    bool isFrozen() const { return testing::part<QCheckBox>(magnifier(), "frozen")->isChecked(); }
-    int size() const { return pixels().content().size; }
-    /// As it says itself.
-    QPoint middle() const
-    {
-        const QStringList words = readOutOfMagnifier().split(QLatin1Char(' '), Qt::SkipEmptyParts);
-        return {words.at(1).toInt(), words.at(3).toInt()};
-    }
-    void pressIn(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const
-    {
-        QApplication::setActiveWindow(magnifier());
-        QTest::keyClick(&pixels(), key, modifiers);
-    }
-    /// Where the pixels leave it to, as they do with whatever they do not want.
-    void wheel(int angle) const { testing::LookingTest::wheel(*magnifier(), angle); }
-    void turn(int steps) const { wheel(120 * steps); }
-    /// Compares every cell with the read-out of the window; how many lie inside the picture.
-    int compareCells()
-    {
-        const MagnifiedPixels::Content& content = pixels().content();
-        const QString sign = unit().currentText();
-        const QPoint centre = middle();
-        int inside = 0;
-        for (int row = 0; row < content.size; ++row) {
-            for (int column = 0; column < content.size; ++column) {
-                const auto& cell = content.cells[std::size_t(row * content.size + column)];
-                const int x = centre.x() + column - content.size / 2;
-                const int y = centre.y() + row - content.size / 2;
-                const bool isInside = x >= 0 && x < 240 && y >= 0 && y < 320;
-                const bool isRight =
-                    isInside ? cell.text + sign == reading(x, y) && cell.colour.isValid()
-                             : cell.text.isEmpty() && !cell.colour.isValid();
-                if (!isRight) {
-                    QTest::qFail(
-                        qPrintable(QStringLiteral("%1, %2: %3").arg(x).arg(y).arg(cell.text)),
-                        __FILE__, __LINE__);
-                    return inside;
-                }
-                inside += int(isInside);
-            }
-        }
-        return inside;
     }
 };
 
