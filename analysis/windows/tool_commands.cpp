@@ -6,6 +6,7 @@
 #include "analysis/windows/beside_window.h"
 #include "analysis/windows/coordinates_menu.h"
 #include "analysis/windows/details_window.h"
+#include "analysis/windows/looking_menu.h"
 #include "analysis/windows/magnifier.h"
 #include "analysis/windows/measurement_keeping.h"
 #include "analysis/windows/measurement_menu.h"
@@ -28,6 +29,7 @@ ToolCommands::ToolCommands(Analysis_Widget& window, const Ui::Analysis_Widget& f
     CoordinatesMenu::addTo(*this);
     addOwnEntries();
     DetailsWindow::addTo(*this, form);
+    LookingMenu::addTo(*this);
     Magnifier::addTo(*this);
     MeasurementMenu::addTo(*this);
     ViewMenu::addTo(*this, form);

@@ -75,6 +75,11 @@ QString ViewedPhotograph::correctionName() const
     return m_correction ? LookingTexts::nameOf(*m_correction, unit().unit) : QString();
 }
 
+int ViewedPhotograph::withoutCorrected() const
+{
+    return m_corrected.belowSurroundings + m_corrected.outsideTable;
+}
+
 void ViewedPhotograph::setIsotherm(const std::optional<Isotherm>& isotherm)
 {
     if (isotherm == m_isotherm)

@@ -57,6 +57,7 @@ public:
     /// under its name; null and empty while there is none.
     std::shared_ptr<const Temperatures> corrected() const { return m_corrected.temperatures; }
     QString correctionName() const;
+    int withoutCorrected() const; ///< pixels that have a stored temperature only
 
     /// Nothing while the picture is coloured by its palette alone, as at first.
     const std::optional<Isotherm>& isotherm() const { return m_isotherm; }

@@ -337,6 +337,17 @@
     </message>
 </context>
 <context>
+    <name>LookingMenu</name>
+    <message>
+        <source>等温线...</source>
+        <translation>Isotherm...</translation>
+    </message>
+    <message>
+        <source>校正发射率...</source>
+        <translation>Correct for emissivity...</translation>
+    </message>
+</context>
+<context>
     <name>LookingTexts</name>
     <message>
         <source>已校正: ε %1 → %2, 反射温度 %3</source>
@@ -678,6 +689,49 @@
     </message>
 </context>
 <context>
+    <name>analysis::CorrectionDialog</name>
+    <message>
+        <source>反射温度:</source>
+        <translation>Reflected temperature:</translation>
+    </message>
+    <message>
+        <source>校正发射率</source>
+        <translation>Correct for emissivity</translation>
+    </message>
+    <message>
+        <source>不校正</source>
+        <translation>Switch off</translation>
+    </message>
+    <message>
+        <source>照片中的发射率:</source>
+        <translation>In the photograph:</translation>
+    </message>
+    <message>
+        <source>拍摄时的发射率:</source>
+        <translation>Stored emissivity:</translation>
+    </message>
+    <message>
+        <source>实际发射率:</source>
+        <translation>Other emissivity:</translation>
+    </message>
+    <message>
+        <source>整幅图像</source>
+        <translation>Whole picture</translation>
+    </message>
+    <message>
+        <source>%1, 最高: %2 → %3 %4</source>
+        <translation>%1, hottest pixel: %2 → %3 %4</translation>
+    </message>
+    <message>
+        <source>%1, 最高: %2</source>
+        <translation>%1, hottest pixel: %2</translation>
+    </message>
+    <message>
+        <source>没有温度的像素: %1</source>
+        <translation>Pixels without a temperature: %1</translation>
+    </message>
+</context>
+<context>
     <name>analysis::DetailsWindow</name>
     <message>
         <source>详细数据...</source>
@@ -742,6 +796,65 @@
     <message>
         <source>数值</source>
         <translation>Value</translation>
+    </message>
+</context>
+<context>
+    <name>analysis::IsothermDialog</name>
+    <message>
+        <source>高于下限</source>
+        <translation>Above the lower limit</translation>
+    </message>
+    <message>
+        <source>低于上限</source>
+        <translation>Below the upper limit</translation>
+    </message>
+    <message>
+        <source>两限之间</source>
+        <translation>Between the limits</translation>
+    </message>
+    <message>
+        <source>两限之外</source>
+        <translation>Outside the limits</translation>
+    </message>
+    <message>
+        <source>下限:</source>
+        <translation>Lower limit:</translation>
+    </message>
+    <message>
+        <source>上限:</source>
+        <translation>Upper limit:</translation>
+    </message>
+    <message>
+        <source>等温线</source>
+        <translation>Isotherm</translation>
+    </message>
+    <message>
+        <source>不着色</source>
+        <translation>Switch off</translation>
+    </message>
+    <message>
+        <source>着色:</source>
+        <translation>Colour:</translation>
+    </message>
+    <message>
+        <source>颜色:</source>
+        <translation>With:</translation>
+    </message>
+    <message>
+        <source>取自工具</source>
+        <translation>From a tool</translation>
+    </message>
+    <message>
+        <source>等温线的颜色</source>
+        <translation>Colour of the isotherm</translation>
+    </message>
+    <message>
+        <source>颜色: %1</source>
+        <translation>With: %1</translation>
+    </message>
+    <message>
+        <source>着色像素: %1 (%2 %)</source>
+        <translation>Coloured pixels: %1 (%2 %)</translation>
     </message>
 </context>
 <context>

@@ -337,6 +337,17 @@
     </message>
 </context>
 <context>
+    <name>LookingMenu</name>
+    <message>
+        <source>等温线...</source>
+        <translation>등온선...</translation>
+    </message>
+    <message>
+        <source>校正发射率...</source>
+        <translation>방사율 보정...</translation>
+    </message>
+</context>
+<context>
     <name>LookingTexts</name>
     <message>
         <source>已校正: ε %1 → %2, 反射温度 %3</source>
@@ -674,6 +685,49 @@
     </message>
 </context>
 <context>
+    <name>analysis::CorrectionDialog</name>
+    <message>
+        <source>反射温度:</source>
+        <translation>반사 온도:</translation>
+    </message>
+    <message>
+        <source>校正发射率</source>
+        <translation>방사율 보정</translation>
+    </message>
+    <message>
+        <source>不校正</source>
+        <translation>끄기</translation>
+    </message>
+    <message>
+        <source>照片中的发射率:</source>
+        <translation>사진의 방사율:</translation>
+    </message>
+    <message>
+        <source>拍摄时的发射率:</source>
+        <translation>촬영 시 방사율:</translation>
+    </message>
+    <message>
+        <source>实际发射率:</source>
+        <translation>실제 방사율:</translation>
+    </message>
+    <message>
+        <source>整幅图像</source>
+        <translation>전체 이미지</translation>
+    </message>
+    <message>
+        <source>%1, 最高: %2 → %3 %4</source>
+        <translation>%1, 최고: %2 → %3 %4</translation>
+    </message>
+    <message>
+        <source>%1, 最高: %2</source>
+        <translation>%1, 최고: %2</translation>
+    </message>
+    <message>
+        <source>没有温度的像素: %1</source>
+        <translation>온도가 없는 픽셀: %1</translation>
+    </message>
+</context>
+<context>
     <name>analysis::DetailsWindow</name>
     <message>
         <source>详细数据...</source>
@@ -738,6 +792,65 @@
     <message>
         <source>数值</source>
         <translation>값</translation>
+    </message>
+</context>
+<context>
+    <name>analysis::IsothermDialog</name>
+    <message>
+        <source>高于下限</source>
+        <translation>하한 초과</translation>
+    </message>
+    <message>
+        <source>低于上限</source>
+        <translation>상한 미만</translation>
+    </message>
+    <message>
+        <source>两限之间</source>
+        <translation>두 한계 사이</translation>
+    </message>
+    <message>
+        <source>两限之外</source>
+        <translation>두 한계 밖</translation>
+    </message>
+    <message>
+        <source>下限:</source>
+        <translation>하한:</translation>
+    </message>
+    <message>
+        <source>上限:</source>
+        <translation>상한:</translation>
+    </message>
+    <message>
+        <source>等温线</source>
+        <translation>등온선</translation>
+    </message>
+    <message>
+        <source>不着色</source>
+        <translation>끄기</translation>
+    </message>
+    <message>
+        <source>着色:</source>
+        <translation>색칠:</translation>
+    </message>
+    <message>
+        <source>颜色:</source>
+        <translation>색:</translation>
+    </message>
+    <message>
+        <source>取自工具</source>
+        <translation>도구에서</translation>
+    </message>
+    <message>
+        <source>等温线的颜色</source>
+        <translation>등온선 색</translation>
+    </message>
+    <message>
+        <source>颜色: %1</source>
+        <translation>색: %1</translation>
+    </message>
+    <message>
+        <source>着色像素: %1 (%2 %)</source>
+        <translation>색칠된 픽셀: %1 (%2 %)</translation>
     </message>
 </context>
 <context>

@@ -337,6 +337,17 @@
     </message>
 </context>
 <context>
+    <name>LookingMenu</name>
+    <message>
+        <source>等温线...</source>
+        <translation>Изотерма...</translation>
+    </message>
+    <message>
+        <source>校正发射率...</source>
+        <translation>Поправка на излучение...</translation>
+    </message>
+</context>
+<context>
     <name>LookingTexts</name>
     <message>
         <source>已校正: ε %1 → %2, 反射温度 %3</source>
@@ -682,6 +693,49 @@
     </message>
 </context>
 <context>
+    <name>analysis::CorrectionDialog</name>
+    <message>
+        <source>反射温度:</source>
+        <translation>Отражённая температура:</translation>
+    </message>
+    <message>
+        <source>校正发射率</source>
+        <translation>Поправка на излучение</translation>
+    </message>
+    <message>
+        <source>不校正</source>
+        <translation>Выключить</translation>
+    </message>
+    <message>
+        <source>照片中的发射率:</source>
+        <translation>В снимке:</translation>
+    </message>
+    <message>
+        <source>拍摄时的发射率:</source>
+        <translation>Коэф. излучения снимка:</translation>
+    </message>
+    <message>
+        <source>实际发射率:</source>
+        <translation>Другой коэф. излучения:</translation>
+    </message>
+    <message>
+        <source>整幅图像</source>
+        <translation>Весь снимок</translation>
+    </message>
+    <message>
+        <source>%1, 最高: %2 → %3 %4</source>
+        <translation>%1, самый горячий пиксель: %2 → %3 %4</translation>
+    </message>
+    <message>
+        <source>%1, 最高: %2</source>
+        <translation>%1, самый горячий пиксель: %2</translation>
+    </message>
+    <message>
+        <source>没有温度的像素: %1</source>
+        <translation>Пикселей без температуры: %1</translation>
+    </message>
+</context>
+<context>
     <name>analysis::DetailsWindow</name>
     <message>
         <source>详细数据...</source>
@@ -746,6 +800,65 @@
     <message>
         <source>数值</source>
         <translation>Значение</translation>
+    </message>
+</context>
+<context>
+    <name>analysis::IsothermDialog</name>
+    <message>
+        <source>高于下限</source>
+        <translation>Выше нижней границы</translation>
+    </message>
+    <message>
+        <source>低于上限</source>
+        <translation>Ниже верхней границы</translation>
+    </message>
+    <message>
+        <source>两限之间</source>
+        <translation>Между границами</translation>
+    </message>
+    <message>
+        <source>两限之外</source>
+        <translation>Вне границ</translation>
+    </message>
+    <message>
+        <source>下限:</source>
+        <translation>Нижняя граница:</translation>
+    </message>
+    <message>
+        <source>上限:</source>
+        <translation>Верхняя граница:</translation>
+    </message>
+    <message>
+        <source>等温线</source>
+        <translation>Изотерма</translation>
+    </message>
+    <message>
+        <source>不着色</source>
+        <translation>Выключить</translation>
+    </message>
+    <message>
+        <source>着色:</source>
+        <translation>Окрасить:</translation>
+    </message>
+    <message>
+        <source>颜色:</source>
+        <translation>Цвет:</translation>
+    </message>
+    <message>
+        <source>取自工具</source>
+        <translation>Из инструмента</translation>
+    </message>
+    <message>
+        <source>等温线的颜色</source>
+        <translation>Цвет изотермы</translation>
+    </message>
+    <message>
+        <source>颜色: %1</source>
+        <translation>Цвет: %1</translation>
+    </message>
+    <message>
+        <source>着色像素: %1 (%2 %)</source>
+        <translation>Окрашено пикселей: %1 (%2 %)</translation>
     </message>
 </context>
 <context>
