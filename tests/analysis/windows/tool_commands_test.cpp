@@ -170,7 +170,8 @@ private slots:
         QVERIFY(menu);
         // The press itself has selected, as ever.
         QCOMPARE(marked(), QStringLiteral("R0"));
-        QVERIFY(greyed(*menu).startsWith(QStringLiteral("重做")));
+        QVERIFY(greyed(*menu).contains(QStringLiteral("重做")));
+        QVERIFY(!greyed(*menu).contains(QStringLiteral("撤销")));
         choose(menu, "删除所选工具");
         QCOMPARE(names(), QStringLiteral("P0 L0 C0"));
         undo();
@@ -198,7 +199,8 @@ private slots:
     {
         begin();
         QMenu* menu = rightClick(label(), at(150, 30));
-        QVERIFY(greyed(*menu).startsWith(QStringLiteral("删除所选工具 撤销 重做 保存测量...")));
+        for (const char* entry : {"删除所选工具", "撤销 重做 保存测量..."})
+            QVERIFY2(greyed(*menu).contains(QString::fromUtf8(entry)), entry);
         menu->close();
         // What was not possible in the menu works by key once it is.
         drawOneOfEach();
