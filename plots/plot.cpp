@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "plots/plot.h"
 
-#include <QLocale>
-
 #include <array>
 
 namespace plots {
@@ -51,9 +49,7 @@ QString captionOf(const Axis& axis)
 
 QString numberText(double value, int decimals)
 {
-    QLocale plain = QLocale::c();
-    plain.setNumberOptions(QLocale::OmitGroupSeparator);
-    return plain.toString(value, 'f', decimals);
+    return QString::number(value, 'f', decimals);
 }
 
 QByteArray csvOf(const Table& table)

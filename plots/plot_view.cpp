@@ -49,17 +49,18 @@ PlotView::~PlotView() = default;
 
 void PlotView::addCommands()
 {
-    const auto add = [this](const QString& text, const QList<QKeySequence>& keys,
-                            void (PlotView::*run)()) {
+    const auto add = [this](const QString& name, const QString& text,
+                            const QList<QKeySequence>& keys, void (PlotView::*run)()) {
         auto* action = new QAction(text, this);
+        action->setObjectName(name);
         action->setShortcuts(keys);
         action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
         connect(action, &QAction::triggered, this, run);
         addAction(action);
     };
-    add(tr("显示全部"), {}, &PlotView::showAll);
-    add(tr("复制"), {QKeySequence(QKeySequence::Copy)}, &PlotView::copy);
-    add(tr("保存..."), {QKeySequence(QKeySequence::Save)}, &PlotView::save);
+    add(QStringLiteral("showAll"), tr("显示全部"), {}, &PlotView::showAll);
+    add(QStringLiteral("copy"), tr("复制"), {QKeySequence(QKeySequence::Copy)}, &PlotView::copy);
+    add(QStringLiteral("save"), tr("保存..."), {QKeySequence(QKeySequence::Save)}, &PlotView::save);
 }
 
 void PlotView::setPlot(const Plot& plot)

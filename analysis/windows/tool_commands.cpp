@@ -6,11 +6,13 @@
 #include "analysis/windows/beside_window.h"
 #include "analysis/windows/coordinates_menu.h"
 #include "analysis/windows/details_window.h"
+#include "analysis/windows/histogram_window.h"
 #include "analysis/windows/looking_menu.h"
 #include "analysis/windows/magnifier.h"
 #include "analysis/windows/measurement_keeping.h"
 #include "analysis/windows/measurement_menu.h"
 #include "analysis/windows/picture_keys.h"
+#include "analysis/windows/profile_window.h"
 #include "analysis/windows/view_menu.h"
 #include "analysis/windows/viewed_photograph.h"
 
@@ -29,6 +31,8 @@ ToolCommands::ToolCommands(Analysis_Widget& window, const Ui::Analysis_Widget& f
     CoordinatesMenu::addTo(*this);
     addOwnEntries();
     DetailsWindow::addTo(*this, form);
+    ProfileWindow::addTo(*this);
+    HistogramWindow::addTo(*this);
     LookingMenu::addTo(*this);
     Magnifier::addTo(*this);
     MeasurementMenu::addTo(*this);
