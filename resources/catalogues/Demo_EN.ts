@@ -337,6 +337,21 @@
     </message>
 </context>
 <context>
+    <name>HistogramTexts</name>
+    <message>
+        <source>整幅图像</source>
+        <translation>Whole picture</translation>
+    </message>
+    <message>
+        <source>温度</source>
+        <translation>Temperature</translation>
+    </message>
+    <message>
+        <source>像素数</source>
+        <translation>Pixels</translation>
+    </message>
+</context>
+<context>
     <name>LookingMenu</name>
     <message>
         <source>等温线...</source>
@@ -598,6 +613,17 @@
     </message>
 </context>
 <context>
+    <name>ProfileTexts</name>
+    <message>
+        <source>沿直线的距离</source>
+        <translation>Distance along the line</translation>
+    </message>
+    <message>
+        <source>温度</source>
+        <translation>Temperature</translation>
+    </message>
+</context>
+<context>
     <name>SelectionJob</name>
     <message>
         <source>正在写入文件</source>
@@ -799,6 +825,77 @@
     </message>
 </context>
 <context>
+    <name>analysis::HistogramWindow</name>
+    <message>
+        <source>直方图...</source>
+        <translation>Histogram...</translation>
+    </message>
+    <message>
+        <source>直方图</source>
+        <translation>Histogram</translation>
+    </message>
+    <message>
+        <source>所选工具</source>
+        <translation>Selected tool</translation>
+    </message>
+    <message>
+        <source>整幅图像</source>
+        <translation>Whole picture</translation>
+    </message>
+    <message>
+        <source>对数坐标</source>
+        <translation>Logarithmic</translation>
+    </message>
+    <message>
+        <source>自动分组</source>
+        <translation>Automatic bins</translation>
+    </message>
+    <message>
+        <source>范围起点</source>
+        <translation>Start of range</translation>
+    </message>
+    <message>
+        <source>范围终点</source>
+        <translation>End of range</translation>
+    </message>
+    <message>
+        <source>下限</source>
+        <translation>Lower limit</translation>
+    </message>
+    <message>
+        <source>上限</source>
+        <translation>Upper limit</translation>
+    </message>
+    <message>
+        <source>区域</source>
+        <translation>Area</translation>
+    </message>
+    <message>
+        <source>组距</source>
+        <translation>Width of bins</translation>
+    </message>
+    <message>
+        <source>范围:</source>
+        <translation>Range:</translation>
+    </message>
+    <message>
+        <source>组距:</source>
+        <translation>Width of bins:</translation>
+    </message>
+    <message>
+        <source>界限:</source>
+        <translation>Limits:</translation>
+    </message>
+    <message>
+        <source>没有可显示的直方图：请检查区域、范围和组距。</source>
+        <translation>No histogram: check area, range and width of bins.</translation>
+    </message>
+    <message>
+        <source>其间: %1</source>
+        <translation>Between them: %1</translation>
+    </message>
+</context>
+<context>
     <name>analysis::IsothermDialog</name>
     <message>
         <source>高于下限</source>
@@ -899,6 +996,33 @@
 %1</source>
         <translation>The measurements could not be kept with the photograph.
 %1</translation>
+    </message>
+</context>
+<context>
+    <name>analysis::ProfileWindow</name>
+    <message>
+        <source>温度曲线...</source>
+        <translation>Profile...</translation>
+    </message>
+    <message>
+        <source>温度曲线</source>
+        <translation>Profile</translation>
+    </message>
+    <message>
+        <source>直线</source>
+        <translation>Lines</translation>
+    </message>
+    <message>
+        <source>所选直线</source>
+        <translation>Selected line</translation>
+    </message>
+    <message>
+        <source>全部直线</source>
+        <translation>All lines</translation>
+    </message>
+    <message>
+        <source>没有直线：请在图像上画一条。</source>
+        <translation>No line: draw one in the picture.</translation>
     </message>
 </context>
 <context>

@@ -337,6 +337,21 @@
     </message>
 </context>
 <context>
+    <name>HistogramTexts</name>
+    <message>
+        <source>整幅图像</source>
+        <translation>전체 이미지</translation>
+    </message>
+    <message>
+        <source>温度</source>
+        <translation>온도</translation>
+    </message>
+    <message>
+        <source>像素数</source>
+        <translation>픽셀 수</translation>
+    </message>
+</context>
+<context>
     <name>LookingMenu</name>
     <message>
         <source>等温线...</source>
@@ -598,6 +613,17 @@
     </message>
 </context>
 <context>
+    <name>ProfileTexts</name>
+    <message>
+        <source>沿直线的距离</source>
+        <translation>선을 따른 거리</translation>
+    </message>
+    <message>
+        <source>温度</source>
+        <translation>온도</translation>
+    </message>
+</context>
+<context>
     <name>SelectionJob</name>
     <message>
         <source>正在写入文件</source>
@@ -795,6 +821,77 @@
     </message>
 </context>
 <context>
+    <name>analysis::HistogramWindow</name>
+    <message>
+        <source>直方图...</source>
+        <translation>히스토그램...</translation>
+    </message>
+    <message>
+        <source>直方图</source>
+        <translation>히스토그램</translation>
+    </message>
+    <message>
+        <source>所选工具</source>
+        <translation>선택한 도구</translation>
+    </message>
+    <message>
+        <source>整幅图像</source>
+        <translation>전체 이미지</translation>
+    </message>
+    <message>
+        <source>对数坐标</source>
+        <translation>로그 축</translation>
+    </message>
+    <message>
+        <source>自动分组</source>
+        <translation>자동 구간</translation>
+    </message>
+    <message>
+        <source>范围起点</source>
+        <translation>범위 시작</translation>
+    </message>
+    <message>
+        <source>范围终点</source>
+        <translation>범위 끝</translation>
+    </message>
+    <message>
+        <source>下限</source>
+        <translation>하한</translation>
+    </message>
+    <message>
+        <source>上限</source>
+        <translation>상한</translation>
+    </message>
+    <message>
+        <source>区域</source>
+        <translation>영역</translation>
+    </message>
+    <message>
+        <source>组距</source>
+        <translation>구간 너비</translation>
+    </message>
+    <message>
+        <source>范围:</source>
+        <translation>범위:</translation>
+    </message>
+    <message>
+        <source>组距:</source>
+        <translation>구간 너비:</translation>
+    </message>
+    <message>
+        <source>界限:</source>
+        <translation>한계:</translation>
+    </message>
+    <message>
+        <source>没有可显示的直方图：请检查区域、范围和组距。</source>
+        <translation>히스토그램이 없습니다. 영역, 범위, 구간 너비를 확인하세요.</translation>
+    </message>
+    <message>
+        <source>其间: %1</source>
+        <translation>그 사이: %1</translation>
+    </message>
+</context>
+<context>
     <name>analysis::IsothermDialog</name>
     <message>
         <source>高于下限</source>
@@ -895,6 +992,33 @@
 %1</source>
         <translation>측정을 사진과 함께 보관하지 못했습니다.
 %1</translation>
+    </message>
+</context>
+<context>
+    <name>analysis::ProfileWindow</name>
+    <message>
+        <source>温度曲线...</source>
+        <translation>온도 프로파일...</translation>
+    </message>
+    <message>
+        <source>温度曲线</source>
+        <translation>온도 프로파일</translation>
+    </message>
+    <message>
+        <source>直线</source>
+        <translation>선</translation>
+    </message>
+    <message>
+        <source>所选直线</source>
+        <translation>선택한 선</translation>
+    </message>
+    <message>
+        <source>全部直线</source>
+        <translation>모든 선</translation>
+    </message>
+    <message>
+        <source>没有直线：请在图像上画一条。</source>
+        <translation>선이 없습니다. 이미지에 선을 그리세요.</translation>
     </message>
 </context>
 <context>

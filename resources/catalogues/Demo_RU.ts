@@ -337,6 +337,21 @@
     </message>
 </context>
 <context>
+    <name>HistogramTexts</name>
+    <message>
+        <source>整幅图像</source>
+        <translation>Весь снимок</translation>
+    </message>
+    <message>
+        <source>温度</source>
+        <translation>Температура</translation>
+    </message>
+    <message>
+        <source>像素数</source>
+        <translation>Пикселей</translation>
+    </message>
+</context>
+<context>
     <name>LookingMenu</name>
     <message>
         <source>等温线...</source>
@@ -598,6 +613,17 @@
     </message>
 </context>
 <context>
+    <name>ProfileTexts</name>
+    <message>
+        <source>沿直线的距离</source>
+        <translation>Расстояние вдоль линии</translation>
+    </message>
+    <message>
+        <source>温度</source>
+        <translation>Температура</translation>
+    </message>
+</context>
+<context>
     <name>SelectionJob</name>
     <message>
         <source>正在写入文件</source>
@@ -803,6 +829,77 @@
     </message>
 </context>
 <context>
+    <name>analysis::HistogramWindow</name>
+    <message>
+        <source>直方图...</source>
+        <translation>Гистограмма...</translation>
+    </message>
+    <message>
+        <source>直方图</source>
+        <translation>Гистограмма</translation>
+    </message>
+    <message>
+        <source>所选工具</source>
+        <translation>Выбранный инструмент</translation>
+    </message>
+    <message>
+        <source>整幅图像</source>
+        <translation>Весь снимок</translation>
+    </message>
+    <message>
+        <source>对数坐标</source>
+        <translation>Логарифмическая шкала</translation>
+    </message>
+    <message>
+        <source>自动分组</source>
+        <translation>Интервалы автоматически</translation>
+    </message>
+    <message>
+        <source>范围起点</source>
+        <translation>Начало диапазона</translation>
+    </message>
+    <message>
+        <source>范围终点</source>
+        <translation>Конец диапазона</translation>
+    </message>
+    <message>
+        <source>下限</source>
+        <translation>Нижняя граница</translation>
+    </message>
+    <message>
+        <source>上限</source>
+        <translation>Верхняя граница</translation>
+    </message>
+    <message>
+        <source>区域</source>
+        <translation>Область</translation>
+    </message>
+    <message>
+        <source>组距</source>
+        <translation>Ширина интервала</translation>
+    </message>
+    <message>
+        <source>范围:</source>
+        <translation>Диапазон:</translation>
+    </message>
+    <message>
+        <source>组距:</source>
+        <translation>Ширина интервала:</translation>
+    </message>
+    <message>
+        <source>界限:</source>
+        <translation>Границы:</translation>
+    </message>
+    <message>
+        <source>没有可显示的直方图：请检查区域、范围和组距。</source>
+        <translation>Гистограммы нет: проверьте область, диапазон и ширину интервала.</translation>
+    </message>
+    <message>
+        <source>其间: %1</source>
+        <translation>Между ними: %1</translation>
+    </message>
+</context>
+<context>
     <name>analysis::IsothermDialog</name>
     <message>
         <source>高于下限</source>
@@ -903,6 +1000,33 @@
 %1</source>
         <translation>Не удалось сохранить измерения вместе со снимком.
 %1</translation>
+    </message>
+</context>
+<context>
+    <name>analysis::ProfileWindow</name>
+    <message>
+        <source>温度曲线...</source>
+        <translation>Профиль...</translation>
+    </message>
+    <message>
+        <source>温度曲线</source>
+        <translation>Профиль</translation>
+    </message>
+    <message>
+        <source>直线</source>
+        <translation>Линии</translation>
+    </message>
+    <message>
+        <source>所选直线</source>
+        <translation>Выбранная линия</translation>
+    </message>
+    <message>
+        <source>全部直线</source>
+        <translation>Все линии</translation>
+    </message>
+    <message>
+        <source>没有直线：请在图像上画一条。</source>
+        <translation>Линий нет: проведите линию на снимке.</translation>
     </message>
 </context>
 <context>

@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: MIT
+#include "analysis/windows/histogram_window.h"
 #include "analysis/windows/magnifier.h"
+#include "analysis/windows/profile_window.h"
+#include "plots/plot_view.h"
 #include "simulator/tour/opened_photograph.h"
 
 #include <QCheckBox>
+#include <QComboBox>
+#include <QCoreApplication>
 #include <QLabel>
 #include <QTest>
 
@@ -48,10 +53,42 @@ void magnify(Walk& walk)
     close<analysis::Magnifier>(walk);
 }
 
+/// Opens a window beside the picture from the picture's context menu.
+template<typename Window>
+Window& chosenBeside(Walk& walk, const char* context, const char* entry)
+{
+    chooseFrom(walk, openMenuOf(walk, pictureOf(walk)),
+               QCoreApplication::translate(context, entry));
+    return shownBeside<Window>(walk);
+}
+
+void plotProfile(Walk& walk)
+{
+    auto& profile =
+        chosenBeside<analysis::ProfileWindow>(walk, "analysis::ProfileWindow", "温度曲线...");
+    auto& plot = *profile.findChild<plots::PlotView*>();
+    walk.await("the line has its curve", [&] { return !plot.plot().curves.empty(); });
+    plot.setCursor(plots::Place{0, int(plot.plot().curves[0].points.size()) / 3});
+    walk.shoot("profile");
+    close<analysis::ProfileWindow>(walk);
+}
+
+void plotHistogram(Walk& walk)
+{
+    auto& histogram =
+        chosenBeside<analysis::HistogramWindow>(walk, "analysis::HistogramWindow", "直方图...");
+    find<QComboBox>(histogram, "area").setCurrentIndex(1); // the whole picture
+    find<QCheckBox>(histogram, "logarithmic").setChecked(true);
+    walk.shoot("histogram");
+    close<analysis::HistogramWindow>(walk);
+}
+
 } // namespace
 
 void takeLookingSteps(Walk& walk)
 {
+    plotProfile(walk);
+    plotHistogram(walk);
     magnify(walk);
 }
 
