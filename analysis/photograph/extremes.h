@@ -12,6 +12,10 @@ struct Extremes
     std::vector<Reading> coldest; ///< coldest first
 };
 
+/// What is looked for where nobody says otherwise.
+constexpr int usualExtremes = 5;       ///< of either kind
+constexpr double usualDistance = 10.0; ///< pixels
+
 /// The `count` hottest and coldest local extremes that are further than `distance` pixels from each
 /// other (the hottest first, then each next one that is far enough from all before it).
 ///

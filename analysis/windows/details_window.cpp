@@ -89,13 +89,14 @@ DetailsWindow::DetailsWindow(ViewedPhotograph& viewed)
 
     auto* grid = new QGridLayout(this);
     grid->addWidget(m_subject, 0, 0, 1, 4);
-    grid->addWidget(m_table, 1, 0, 1, 4);
+    grid->addWidget(m_table, 1, 0, 1, 4, Qt::AlignLeft);
     grid->addWidget(m_notes, 2, 0, 1, 4);
     addThreshold(*grid);
     addComparison(*grid);
     grid->addWidget(copy, 5, 3, Qt::AlignRight);
     grid->setRowStretch(1, 1);
     m_table->setFocus();
+    refresh(); // tells how large the table is
 }
 
 /// At first what halves the picture, roughly.
@@ -158,52 +159,82 @@ void DetailsWindow::refresh()
     m_otherFigure->setVisible(!m_reference->isVisibleTo(this));
     m_otherFigure->setEnabled(m_other->currentIndex() != None);
 
-    const Temperatures& temperatures = viewed().photograph().temperatures;
-    const Conversion conversion = viewed().unit().conversion;
-    const std::vector<ToolRow> selected = toolRows(selectedOf(tools), temperatures, conversion);
-    const ToolRow* table = selected.empty() ? nullptr : &selected.front();
-    const std::optional<Area> area =
-        areaNamed(table ? table->name : QString(), tools, temperatures, conversion);
-    m_subject->setText(table ? tr("%1 - %2").arg(table->name, kindCaption(table->kind))
-                             : tr("整幅图像"));
-    const std::optional<Details> details = detailsOf(*area);
-    const QStringList notes =
-        table ? DetailsText::otherInTable(*table, *area, details) : QStringList();
-    m_notes->setText(notes.join(QLatin1Char('\n')));
-    m_notes->setVisible(!notes.isEmpty());
-    showNumbers(*area, details);
-    showMarks(details);
+    QString tool;
+    const overlay::Tools selected = selectedOf(tools);
+    overlay::forEachTool(selected, [&](const auto& only) {
+        tool = only.name;
+        m_subject->setText(tr("%1 - %2").arg(tool, kindCaption(only.kind)));
+    });
+    if (tool.isEmpty())
+        m_subject->setText(tr("整幅图像"));
+    std::vector<Measured> sets{measured(tool, viewed().photograph().temperatures)};
+    if (const auto corrected = viewed().corrected())
+        sets.push_back(measured(tool, *corrected));
+    showNumbers(sets);
+    showNotes(sets.front());
+    showMarks(sets.front().details);
 }
 
-void DetailsWindow::showNumbers(const Area& area, const std::optional<Details>& details)
+DetailsWindow::Measured DetailsWindow::measured(const QString& tool,
+                                                const Temperatures& temperatures) const
 {
-    const double threshold = m_threshold->value();
-    const QStringList captions = DetailsText::captions(signOf(viewed().unit().unit), threshold);
-    const QStringList values = DetailsText::values(
-        area, details, threshold, differenceIn(details, viewed().photograph().temperatures));
-    TextRows rows;
-    for (int row = 0; row < captions.size(); ++row) {
-        rows.push_back({captions.at(row), values.at(row)});
-        if (!details || row > DetailsText::Low)
-            continue;
-        const Reading& place = row == DetailsText::High ? details->high : details->low;
-        rows.back() << QString::number(place.x) << QString::number(place.y);
-    }
-    m_table->setTexts({tr("项目"), tr("数值"), QStringLiteral("X"), QStringLiteral("Y")}, rows);
-}
-
-std::optional<double> DetailsWindow::differenceIn(const std::optional<Details>& details,
-                                                  const Temperatures& temperatures) const
-{
-    if (m_other->currentIndex() == None)
-        return std::nullopt;
+    const auto areaOfTool = [&](const QString& name) {
+        return areaNamed(name, viewed().tools(), temperatures, viewed().unit().conversion)
+            .value_or(Area());
+    };
+    Measured set{areaOfTool(tool), std::nullopt, std::nullopt};
+    set.details = detailsOf(set.area);
     const Figure figure = figureIn(*m_figure);
     if (m_other->currentIndex() == Typed)
-        return differenceOf(details, figure, m_reference->value());
-    const std::optional<Area> other =
-        areaNamed(m_other->tool(), viewed().tools(), temperatures, viewed().unit().conversion);
-    return other ? differenceOf(details, figure, detailsOf(*other), figureIn(*m_otherFigure))
-                 : std::nullopt;
+        set.difference = differenceOf(set.details, figure, m_reference->value());
+    else if (m_other->currentIndex() != None)
+        set.difference = differenceOf(set.details, figure, detailsOf(areaOfTool(m_other->tool())),
+                                      figureIn(*m_otherFigure));
+    return set;
+}
+
+/// Each set of readings has its own places: a pixel can lose its reading by a correction.
+void DetailsWindow::showNumbers(const std::vector<Measured>& sets)
+{
+    const double threshold = m_threshold->value();
+    QStringList header{tr("项目")};
+    TextRows rows;
+    for (const QString& caption : DetailsText::captions(signOf(viewed().unit().unit), threshold))
+        rows.push_back({caption});
+    for (const Measured& set : sets) {
+        const QString name = &set == &sets.front() ? tr("存储的读数") : viewed().correctionName();
+        header << name << QStringLiteral("X") << QStringLiteral("Y");
+        int row = 0;
+        for (const QString& text :
+             DetailsText::values(set.area, set.details, threshold, set.difference))
+            rows[std::size_t(row++)] << text << QString() << QString();
+        if (!set.details)
+            continue;
+        for (const int extreme : {DetailsText::High, DetailsText::Low}) {
+            const Reading& place =
+                extreme == DetailsText::High ? set.details->high : set.details->low;
+            QStringList& texts = rows[std::size_t(extreme)];
+            texts[texts.size() - 2] = QString::number(place.x);
+            texts[texts.size() - 1] = QString::number(place.y);
+        }
+    }
+    const bool isOther = m_table->columnCount() != header.size();
+    m_table->setTexts(header, rows);
+    if (isOther)
+        adjustSize();
+}
+
+/// Only a tool stands in the tool table.
+void DetailsWindow::showNotes(const Measured& stored)
+{
+    const std::vector<ToolRow> table =
+        toolRows(selectedOf(viewed().tools()), viewed().photograph().temperatures,
+                 viewed().unit().conversion);
+    const QStringList notes =
+        table.empty() ? QStringList()
+                      : DetailsText::otherInTable(table.front(), stored.area, stored.details);
+    m_notes->setText(notes.join(QLatin1Char('\n')));
+    m_notes->setVisible(!notes.isEmpty());
 }
 
 /// Not called H and L, as the imager's own.

@@ -35,12 +35,20 @@ protected:
     void refresh() override;
 
 private:
+    /// With one set of readings.
+    struct Measured
+    {
+        Area area;
+        std::optional<Details> details;
+        std::optional<double> difference;
+    };
+
     void addThreshold(QGridLayout& grid);
     void addComparison(QGridLayout& grid);
     QComboBox* figureBox(const QString& name);
-    std::optional<double> differenceIn(const std::optional<Details>& details,
-                                       const Temperatures& temperatures) const;
-    void showNumbers(const Area& area, const std::optional<Details>& details);
+    Measured measured(const QString& tool, const Temperatures& temperatures) const;
+    void showNumbers(const std::vector<Measured>& sets);
+    void showNotes(const Measured& stored);
     void showMarks(const std::optional<Details>& details);
 
     QLabel* m_subject;

@@ -25,8 +25,6 @@ using overlay::ToolEditing;
 using overlay::Tools;
 
 constexpr qint64 mostBytes = 10'000'000;
-/// Far more than anybody places on a picture, and no more than table and history bear.
-constexpr int mostTools = 1000;
 const QString suffix = QStringLiteral("json");
 
 Tools& lastTools()
@@ -179,8 +177,8 @@ QString MeasurementMenu::parse(const QByteArray& json, Tools& tools)
     if (!wrong.isEmpty())
         return wrong;
     const int count = overlay::countOf(read);
-    if (count > mostTools)
-        return tr("工具过多：%1（最多 %2）").arg(count).arg(mostTools);
+    if (count > ToolCommands::mostTools)
+        return tr("工具过多：%1（最多 %2）").arg(count).arg(ToolCommands::mostTools);
     tools = read;
     return {};
 }

@@ -13,6 +13,7 @@
 #include "analysis/windows/measurement_menu.h"
 #include "analysis/windows/picture_keys.h"
 #include "analysis/windows/profile_window.h"
+#include "analysis/windows/spots_window.h"
 #include "analysis/windows/view_menu.h"
 #include "analysis/windows/viewed_photograph.h"
 
@@ -35,6 +36,7 @@ ToolCommands::ToolCommands(Analysis_Widget& window, const Ui::Analysis_Widget& f
     HistogramWindow::addTo(*this);
     LookingMenu::addTo(*this);
     Magnifier::addTo(*this);
+    SpotsWindow::addTo(*this);
     MeasurementMenu::addTo(*this);
     ViewMenu::addTo(*this, form);
     m_keeping = std::make_unique<MeasurementKeeping>(*this, form);

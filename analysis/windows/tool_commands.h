@@ -71,6 +71,10 @@ public:
             {}; ///< asked when a menu opens; always, if there is none
     };
 
+    /// Far more tools than anybody places on a picture, and no more than table and history bear.
+    /// Who adds many at once keeps to it.
+    static constexpr int mostTools = 1000;
+
     /// The form is the window's, set up already. Both must outlive the commands.
     ToolCommands(Analysis_Widget& window, const Ui::Analysis_Widget& form);
     ~ToolCommands() override;

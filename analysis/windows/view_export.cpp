@@ -51,14 +51,14 @@ ExportFormat formatOf(const QString& path, const QString& filter)
     return ExportFormat::Csv;
 }
 
-QFileDialog* saveDialog(const QString& title, const QString& photograph, const QString& suffix,
-                        QWidget* window)
+/// Suggests the file's name, in the documents folder.
+QFileDialog* saveDialog(const QString& title, const QString& name, QWidget* window)
 {
     auto* dialog = new QFileDialog(window, title, config::documentsPath());
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setFileMode(QFileDialog::AnyFile);
-    dialog->setDefaultSuffix(suffix);
-    dialog->selectFile(files::pathIn(config::documentsPath(), exportName(photograph, suffix)));
+    dialog->setDefaultSuffix(QFileInfo(name).suffix());
+    dialog->selectFile(files::pathIn(config::documentsPath(), name));
     return dialog;
 }
 
@@ -95,7 +95,8 @@ void ViewExport::savePicture(const ShownPicture& shown, const QString& photograp
     auto* how = new PictureDialog(shown, window);
     QObject::connect(how, &QDialog::accepted, page, [how, photograph, page, window] {
         const QImage picture = how->picture();
-        auto* where = saveDialog(tr("保存图片"), photograph, suffixOf(ExportFormat::Png), window);
+        auto* where =
+            saveDialog(tr("保存图片"), exportName(photograph, suffixOf(ExportFormat::Png)), window);
         where->setNameFilter(QStringLiteral("PNG (*.png)"));
         QObject::connect(where, &QFileDialog::fileSelected, window,
                          [picture, window](const QString& path) {
@@ -111,7 +112,8 @@ void ViewExport::saveTemperatures(const Photograph& shown, const ShownUnit& unit
 {
     QWidget* window = page->window();
     auto* where =
-        saveDialog(tr("保存温度"), photograph, suffixOf(temperatureFormats.front().format), window);
+        saveDialog(tr("保存温度"),
+                   exportName(photograph, suffixOf(temperatureFormats.front().format)), window);
     QStringList filters;
     for (const FormatRow& row : temperatureFormats)
         filters.append(QLatin1String(row.filter));
@@ -124,6 +126,16 @@ void ViewExport::saveTemperatures(const Photograph& shown, const ShownUnit& unit
                          const ExportFormat format = formatOf(path, where->selectedNameFilter());
                          write(path, temperatureFile(*kept, unit, format), window);
                      });
+    dialogs::open(where, page);
+}
+
+void ViewExport::saveTable(const QByteArray& csv, const QString& title, const QString& name,
+                           QWidget* window, const QWidget* page)
+{
+    auto* where = saveDialog(title, name, window);
+    where->setNameFilter(QStringLiteral("CSV (*.csv)"));
+    QObject::connect(where, &QFileDialog::fileSelected, window,
+                     [csv, window](const QString& path) { write(path, csv, window); });
     dialogs::open(where, page);
 }
 

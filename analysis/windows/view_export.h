@@ -38,6 +38,11 @@ public:
     static void saveTemperatures(const analysis::Photograph& shown, const analysis::ShownUnit& unit,
                                  const QString& photograph, QWidget* page);
 
+    /// Asks where, then writes a CSV file, `name` if no other is chosen. The dialog belongs to
+    /// `window` and ends with `page`.
+    static void saveTable(const QByteArray& csv, const QString& title, const QString& name,
+                          QWidget* window, const QWidget* page);
+
     /// Writes a whole file; one that is there already is replaced, as the dialog has asked. Tells
     /// in a message, above `window`, when it could not be written.
     static void write(const QString& path, const QByteArray& bytes, QWidget* window);

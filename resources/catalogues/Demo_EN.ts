@@ -820,8 +820,8 @@
         <translation>Quantity</translation>
     </message>
     <message>
-        <source>数值</source>
-        <translation>Value</translation>
+        <source>存储的读数</source>
+        <translation>Stored reading</translation>
     </message>
 </context>
 <context>
@@ -1023,6 +1023,81 @@
     <message>
         <source>没有直线：请在图像上画一条。</source>
         <translation>No line: draw one in the picture.</translation>
+    </message>
+</context>
+<context>
+    <name>analysis::SpotsWindow</name>
+    <message>
+        <source>热点和冷点...</source>
+        <translation>Hot and cold spots...</translation>
+    </message>
+    <message>
+        <source>热点和冷点</source>
+        <translation>Hot and cold spots</translation>
+    </message>
+    <message>
+        <source>整幅图像</source>
+        <translation>Whole picture</translation>
+    </message>
+    <message>
+        <source>热点</source>
+        <translation>Hot spot</translation>
+    </message>
+    <message>
+        <source>冷点</source>
+        <translation>Cold spot</translation>
+    </message>
+    <message>
+        <source> 像素</source>
+        <translation> pixels</translation>
+    </message>
+    <message>
+        <source>区域:</source>
+        <translation>Area:</translation>
+    </message>
+    <message>
+        <source>显示:</source>
+        <translation>Show:</translation>
+    </message>
+    <message>
+        <source>每种个数:</source>
+        <translation>Of each kind:</translation>
+    </message>
+    <message>
+        <source>最小间距:</source>
+        <translation>Minimum distance:</translation>
+    </message>
+    <message>
+        <source>放置为点</source>
+        <translation>Place as points</translation>
+    </message>
+    <message>
+        <source>保存...</source>
+        <translation>Save...</translation>
+    </message>
+    <message>
+        <source>复制表格</source>
+        <translation>Copy table</translation>
+    </message>
+    <message>
+        <source>类型</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>序号</source>
+        <translation>Rank</translation>
+    </message>
+    <message>
+        <source>温度 (%1)</source>
+        <translation>Temperature (%1)</translation>
+    </message>
+    <message>
+        <source>工具过多：%1（最多 %2）</source>
+        <translation>too many tools: %1 (at most %2)</translation>
+    </message>
+    <message>
+        <source>保存热点和冷点</source>
+        <translation>Save hot and cold spots</translation>
     </message>
 </context>
 <context>

@@ -816,8 +816,8 @@
         <translation>항목</translation>
     </message>
     <message>
-        <source>数值</source>
-        <translation>값</translation>
+        <source>存储的读数</source>
+        <translation>저장된 값</translation>
     </message>
 </context>
 <context>
@@ -1019,6 +1019,81 @@
     <message>
         <source>没有直线：请在图像上画一条。</source>
         <translation>선이 없습니다. 이미지에 선을 그리세요.</translation>
+    </message>
+</context>
+<context>
+    <name>analysis::SpotsWindow</name>
+    <message>
+        <source>热点和冷点...</source>
+        <translation>고온점과 저온점...</translation>
+    </message>
+    <message>
+        <source>热点和冷点</source>
+        <translation>고온점과 저온점</translation>
+    </message>
+    <message>
+        <source>整幅图像</source>
+        <translation>전체 이미지</translation>
+    </message>
+    <message>
+        <source>热点</source>
+        <translation>고온점</translation>
+    </message>
+    <message>
+        <source>冷点</source>
+        <translation>저온점</translation>
+    </message>
+    <message>
+        <source> 像素</source>
+        <translation> 픽셀</translation>
+    </message>
+    <message>
+        <source>区域:</source>
+        <translation>영역:</translation>
+    </message>
+    <message>
+        <source>显示:</source>
+        <translation>표시:</translation>
+    </message>
+    <message>
+        <source>每种个数:</source>
+        <translation>종류별 개수:</translation>
+    </message>
+    <message>
+        <source>最小间距:</source>
+        <translation>최소 거리:</translation>
+    </message>
+    <message>
+        <source>放置为点</source>
+        <translation>점으로 배치</translation>
+    </message>
+    <message>
+        <source>保存...</source>
+        <translation>저장...</translation>
+    </message>
+    <message>
+        <source>复制表格</source>
+        <translation>표 복사</translation>
+    </message>
+    <message>
+        <source>类型</source>
+        <translation>유형</translation>
+    </message>
+    <message>
+        <source>序号</source>
+        <translation>순위</translation>
+    </message>
+    <message>
+        <source>温度 (%1)</source>
+        <translation>온도 (%1)</translation>
+    </message>
+    <message>
+        <source>工具过多：%1（最多 %2）</source>
+        <translation>도구가 너무 많습니다: %1(최대 %2)</translation>
+    </message>
+    <message>
+        <source>保存热点和冷点</source>
+        <translation>고온점과 저온점 저장</translation>
     </message>
 </context>
 <context>

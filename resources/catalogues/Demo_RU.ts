@@ -824,8 +824,8 @@
         <translation>Величина</translation>
     </message>
     <message>
-        <source>数值</source>
-        <translation>Значение</translation>
+        <source>存储的读数</source>
+        <translation>Сохранённое показание</translation>
     </message>
 </context>
 <context>
@@ -1027,6 +1027,81 @@
     <message>
         <source>没有直线：请在图像上画一条。</source>
         <translation>Линий нет: проведите линию на снимке.</translation>
+    </message>
+</context>
+<context>
+    <name>analysis::SpotsWindow</name>
+    <message>
+        <source>热点和冷点...</source>
+        <translation>Горячие и холодные точки...</translation>
+    </message>
+    <message>
+        <source>热点和冷点</source>
+        <translation>Горячие и холодные точки</translation>
+    </message>
+    <message>
+        <source>整幅图像</source>
+        <translation>Весь снимок</translation>
+    </message>
+    <message>
+        <source>热点</source>
+        <translation>Горячая точка</translation>
+    </message>
+    <message>
+        <source>冷点</source>
+        <translation>Холодная точка</translation>
+    </message>
+    <message>
+        <source> 像素</source>
+        <translation> пикс.</translation>
+    </message>
+    <message>
+        <source>区域:</source>
+        <translation>Область:</translation>
+    </message>
+    <message>
+        <source>显示:</source>
+        <translation>Показывать:</translation>
+    </message>
+    <message>
+        <source>每种个数:</source>
+        <translation>Каждого вида:</translation>
+    </message>
+    <message>
+        <source>最小间距:</source>
+        <translation>Минимальное расстояние:</translation>
+    </message>
+    <message>
+        <source>放置为点</source>
+        <translation>Поставить точками</translation>
+    </message>
+    <message>
+        <source>保存...</source>
+        <translation>Сохранить...</translation>
+    </message>
+    <message>
+        <source>复制表格</source>
+        <translation>Копировать таблицу</translation>
+    </message>
+    <message>
+        <source>类型</source>
+        <translation>Тип</translation>
+    </message>
+    <message>
+        <source>序号</source>
+        <translation>Ранг</translation>
+    </message>
+    <message>
+        <source>温度 (%1)</source>
+        <translation>Температура (%1)</translation>
+    </message>
+    <message>
+        <source>工具过多：%1（最多 %2）</source>
+        <translation>слишком много инструментов: %1 (не более %2)</translation>
+    </message>
+    <message>
+        <source>保存热点和冷点</source>
+        <translation>Сохранение горячих и холодных точек</translation>
     </message>
 </context>
 <context>

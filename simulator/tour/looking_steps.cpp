@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "analysis/windows/details_window.h"
 #include "analysis/windows/histogram_window.h"
 #include "analysis/windows/magnifier.h"
 #include "analysis/windows/profile_window.h"
+#include "analysis/windows/spots_window.h"
 #include "plots/plot_view.h"
 #include "simulator/tour/opened_photograph.h"
 
@@ -9,6 +11,7 @@
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QLabel>
+#include <QTableWidget>
 #include <QTest>
 
 namespace tour {
@@ -35,11 +38,17 @@ void close(Walk& walk)
     });
 }
 
-void magnify(Walk& walk)
+/// Presses a key where the keys of the picture's window go.
+void press(Walk& walk, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
 {
     walk.await("the keys are the program's again",
                [&] { return analysisOf(walk).isActiveWindow(); });
-    QTest::keyClick(analysisOf(walk).focusWidget(), Qt::Key_F8);
+    QTest::keyClick(analysisOf(walk).focusWidget(), key, modifiers);
+}
+
+void magnify(Walk& walk)
+{
+    press(walk, Qt::Key_F8);
     auto& magnifier = shownBeside<analysis::Magnifier>(walk);
     MyLabel& picture = pictureOf(walk);
     const auto& readOut = find<QLabel>(magnifier, "readOut");
@@ -83,12 +92,40 @@ void plotHistogram(Walk& walk)
     close<analysis::HistogramWindow>(walk);
 }
 
+/// Of the rectangle, compared with the line.
+void lookAtDetails(Walk& walk)
+{
+    auto& table = find<QTableWidget>(analysisOf(walk), "tableWidget");
+    walk.doubleClick(*table.viewport(), table.visualItemRect(table.item(2, 0)));
+    auto& details = shownBeside<analysis::DetailsWindow>(walk);
+    walk.await("it tells of the rectangle", [&] {
+        return find<QLabel>(details, "subject").text().startsWith(QLatin1String("R0"));
+    });
+    find<QComboBox>(details, "other").setCurrentText(QStringLiteral("L0"));
+    walk.shoot("details");
+    close<analysis::DetailsWindow>(walk);
+}
+
+void listSpots(Walk& walk)
+{
+    press(walk, Qt::Key_I, Qt::ControlModifier | Qt::ShiftModifier);
+    auto& spots = shownBeside<analysis::SpotsWindow>(walk);
+    find<QComboBox>(spots, "area").setCurrentIndex(0);
+    auto& table = find<QTableWidget>(spots, "spots");
+    walk.await("there are some", [&] { return table.rowCount() > 1; });
+    table.setCurrentCell(0, 0);
+    walk.shoot("spots");
+    close<analysis::SpotsWindow>(walk);
+}
+
 } // namespace
 
 void takeLookingSteps(Walk& walk)
 {
     plotProfile(walk);
     plotHistogram(walk);
+    lookAtDetails(walk);
+    listSpots(walk);
     magnify(walk);
 }
 

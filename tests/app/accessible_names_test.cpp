@@ -3,6 +3,7 @@
 // shows something without saying it in words, has a name.
 #include "analysis/windows/details_window.h"
 #include "analysis/windows/photo_window.h"
+#include "analysis/windows/spots_window.h"
 #include "analysis/windows/tool_commands.h"
 #include "app/main_window.h"
 #include "app/seting.h"
@@ -141,10 +142,11 @@ private slots:
         everythingSpeaks(m_window.get());
     }
 
-    void details()
+    void besideThePhotograph()
     {
         auto& viewed = openPhotograph().commands().viewed();
         everythingSpeaks(&analysis::BesideWindow::open<analysis::DetailsWindow>(viewed));
+        everythingSpeaks(&analysis::BesideWindow::open<analysis::SpotsWindow>(viewed));
     }
 
     void settings()

@@ -133,6 +133,46 @@ private slots:
         QCOMPARE(value(High), QString());
         QCOMPARE(value(Pixels), QStringLiteral("0"));
     }
+
+    /// The second set of readings stands beside the stored one, as long as there is one.
+    void correctedReadings()
+    {
+        beginOn(testing::flat(255, 600, 200));
+        open();
+        QCOMPARE(part<QTableWidget>("numbers")->columnCount(), 4);
+        analysis::ViewedPhotograph& viewed = window->commands().viewed();
+        viewed.setCorrection(analysis::Correction{0.95, 0.6, 20.0});
+        const auto* numbers = part<QTableWidget>("numbers");
+        QTRY_COMPARE(numbers->columnCount(), 7);
+        QCOMPARE(numbers->horizontalHeaderItem(1)->text(), QStringLiteral("存储的读数"));
+        QCOMPARE(numbers->horizontalHeaderItem(4)->text(), viewed.correctionName());
+        QCOMPARE(value(High), QStringLiteral("60.00"));
+        QVERIFY(std::abs(numbers->item(High, 4)->text().toDouble() - 78.8) < 0.05);
+        part<AreaBox>("other")->setCurrentText(QStringLiteral("输入的温度"));
+        typeInto(*part<TemperatureBox>("reference"), QStringLiteral("20"));
+        QCOMPARE(value(Difference), QStringLiteral("40.00"));
+        QVERIFY(std::abs(numbers->item(Difference, 4)->text().toDouble() - 58.8) < 0.05);
+        viewed.setCorrection(std::nullopt);
+        QTRY_COMPARE(numbers->columnCount(), 4);
+    }
+
+    /// What is colder than the surroundings has no corrected reading; another pixel is the coldest
+    /// then.
+    void correctedReadingsHavePlacesOfTheirOwn()
+    {
+        testing::Shot shot = testing::flat(0, 600, 0);
+        shot.gray = [](int x, int y) {
+            return x == 5 && y == 6 ? 0 : x == 7 && y == 8 ? 200 : 255;
+        };
+        beginOn(shot);
+        open();
+        window->commands().viewed().setCorrection(analysis::Correction{0.95, 0.2, 20.0});
+        const auto* numbers = part<QTableWidget>("numbers");
+        QTRY_COMPARE(numbers->columnCount(), 7);
+        QCOMPARE(texts(Low).section(QLatin1Char('|'), 1, 3), QStringLiteral("0.00|5|6"));
+        QCOMPARE(texts(Low).section(QLatin1Char('|'), 5, 6), QStringLiteral("7|8"));
+        QCOMPARE(numbers->item(Pixels, 4)->text(), QStringLiteral("76799"));
+    }
 };
 
 int main(int argc, char** argv)

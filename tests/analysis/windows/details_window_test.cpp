@@ -161,11 +161,11 @@ private slots:
         openOnSmallRectangle();
         QTest::keyClick(part<QTableWidget>("numbers"), Qt::Key_C, Qt::ControlModifier);
         const QStringList lines = QGuiApplication::clipboard()->text().split(QLatin1Char('\n'));
-        QCOMPARE(lines.at(0), QStringLiteral("项目\t数值\tX\tY"));
+        QCOMPARE(lines.at(0), QStringLiteral("项目\t存储的读数\tX\tY"));
         QCOMPARE(lines.at(1), QStringLiteral("最高 (°C)\t53.00\t22\t31"));
         QCOMPARE(lines.size(), 11);
         QVERIFY(QGuiApplication::clipboard()->mimeData()->html().contains(
-            QStringLiteral("<th>数值</th>")));
+            QStringLiteral("<th>存储的读数</th>")));
         QGuiApplication::clipboard()->clear();
         part<QPushButton>("copy")->click();
         QCOMPARE(QGuiApplication::clipboard()->text().split(QLatin1Char('\n')), lines);
