@@ -7,6 +7,24 @@
 #include <cmath>
 
 namespace analysis {
+namespace {
+
+/// No photograph tells finer temperatures apart.
+constexpr double finest = 0.001;
+
+/// From the multiple of the width at or below `low` to the one above `high`.
+std::optional<Bins> onMultiples(double low, double high, double width)
+{
+    const double first = std::floor(low / width);
+    const double count = std::floor(high / width) + 1.0 - first;
+    if (!(width > 0.0 && count <= Bins::most))
+        return std::nullopt;
+    // Products are rounded: the extremes themselves stay inside.
+    return binsByCount(std::min(low, first * width), std::max(high, (first + count) * width),
+                       int(count));
+}
+
+} // namespace
 
 double Bins::edge(int bin) const
 {
@@ -43,24 +61,32 @@ std::optional<Bins> binsByWidth(double from, double to, double width)
     return binsByCount(from, std::max(to, from + count * width), int(count));
 }
 
+std::optional<Bins> binsByCount(const Area& area, int count)
+{
+    const std::optional<Details> details = detailsOf(area);
+    if (!details)
+        return std::nullopt;
+    const double low = details->low.value;
+    return binsByCount(low, std::max(details->high.value, low + finest), count);
+}
+
+std::optional<Bins> binsByWidth(const Area& area, double width)
+{
+    const std::optional<Details> details = detailsOf(area);
+    return details ? onMultiples(details->low.value, details->high.value, width) : std::nullopt;
+}
+
 std::optional<Bins> suitingBins(const Area& area, int most)
 {
     const std::optional<Details> details = detailsOf(area);
     if (!details || most < 2)
         return std::nullopt;
-    const double low = details->low.value;
-    const double high = details->high.value;
-    // Finer than any photograph tells temperatures apart.
-    constexpr int smallestPower = -3;
-    for (int power = smallestPower;; ++power) {
+    for (double power = finest;; power *= 10.0) {
         for (const double digit : {1.0, 2.0, 5.0}) {
-            const double width = digit * std::pow(10.0, power);
-            const double first = std::floor(low / width);
-            const double count = std::floor(high / width) + 1.0 - first;
-            // Products are rounded: the extremes themselves stay inside.
-            if (count <= most)
-                return binsByCount(std::min(low, first * width),
-                                   std::max(high, (first + count) * width), int(count));
+            const std::optional<Bins> bins =
+                onMultiples(details->low.value, details->high.value, digit * power);
+            if (bins && bins->count <= most)
+                return bins;
         }
     }
 }

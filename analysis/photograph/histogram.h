@@ -32,6 +32,12 @@ std::optional<Bins> binsByCount(double from, double to, int count);
 /// As many bins of this width as the range needs; the last may reach beyond it. Nothing as above.
 std::optional<Bins> binsByWidth(double from, double to, double width);
 
+/// The same over the range of the area's readings: from the coldest to the hottest, or, by width,
+/// from the multiple of the width below the coldest. Of a single temperature the range is a
+/// thousandth of a degree. Nothing for an area without a reading, or bins as above.
+std::optional<Bins> binsByCount(const Area& area, int count);
+std::optional<Bins> binsByWidth(const Area& area, double width);
+
 /// Bins that suit the area's readings: at most `most` of 1, 2 or 5 times a power of ten each,
 /// beginning at a multiple of that. Nothing for an area without a reading, and fewer than two bins.
 std::optional<Bins> suitingBins(const Area& area, int most);

@@ -138,6 +138,27 @@ private slots:
         }
     }
 
+    void binsOfAnArea()
+    {
+        const Area area = areaOf({21.3, nothing, 29.9, 25, infinite});
+        const std::optional<Bins> four = binsByCount(area, 4);
+        QCOMPARE(four->from, 21.3);
+        QCOMPARE(four->to, 29.9);
+        QCOMPARE(four->count, 4);
+        const std::optional<Bins> twos = binsByWidth(area, 2);
+        QCOMPARE(twos->from, 20.0);
+        QCOMPARE(twos->to, 30.0);
+        QCOMPARE(twos->count, 5);
+        QCOMPARE(binsByCount(areaOf({20, 20}), 5)->to, 20.001);
+        QCOMPARE(binsByWidth(areaOf({20, 20}), 5)->to, 25.0);
+        QVERIFY(!binsByCount(area, 0));
+        QVERIFY(!binsByWidth(area, 0));
+        QVERIFY(!binsByWidth(area, -1));
+        QVERIFY(!binsByWidth(area, 1e-9));
+        QVERIFY(!binsByCount(areaOf({nothing}), 5));
+        QVERIFY(!binsByWidth({}, 5));
+    }
+
     void suitingBins_data()
     {
         QTest::addColumn<double>("low");
