@@ -6,6 +6,8 @@
 
 #include <QThread>
 
+#include <cmath>
+
 namespace tools {
 
 CommandLine::CommandLine(const QString& command, const QString& summary)
@@ -70,6 +72,20 @@ std::optional<int> CommandLine::number(const QString& option, int least, int mos
     if (isNumber && number >= least && number <= most)
         return number;
     refuse(QStringLiteral("--%1 is a whole number from %2 to %3").arg(option).arg(least).arg(most));
+    return std::nullopt;
+}
+
+std::optional<double> CommandLine::real(const QString& option, double least)
+{
+    if (!isSet(option))
+        return std::nullopt;
+    bool isNumber = false;
+    const double number = value(option).toDouble(&isNumber);
+    if (isNumber && std::isfinite(number) && number >= least)
+        return number;
+    const bool isLimited = least > std::numeric_limits<double>::lowest();
+    refuse(QStringLiteral("--%1 is a number%2")
+               .arg(option, isLimited ? QStringLiteral(" from %1").arg(least) : QString()));
     return std::nullopt;
 }
 

@@ -3,6 +3,7 @@
 
 #include <QCommandLineParser>
 
+#include <limits>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -14,6 +15,7 @@ namespace status {
 constexpr int good = 0;
 constexpr int someFailed = 1;
 constexpr int badUsage = 2;
+constexpr int limitPassed = 3;
 } // namespace status
 
 /// What a command works on, as its help names it.
@@ -47,6 +49,7 @@ public:
 
     bool isSet(const QString& option) const { return m_parser.isSet(option); }
     QString value(const QString& option) const { return m_parser.value(option); }
+    QStringList values(const QString& option) const { return m_parser.values(option); }
 
     /// The value's meaning; one of `choices`.
     template<typename T>
@@ -64,6 +67,11 @@ public:
 
     /// The value as a whole number; nothing when the option is not given.
     std::optional<int> number(const QString& option, int least, int most);
+
+    /// The value as a number with or without a decimal point, not below `least`; nothing when the
+    /// option is not given.
+    std::optional<double> real(const QString& option,
+                               double least = std::numeric_limits<double>::lowest());
 
     /// Refuses arguments that give this option no value.
     void require(const QString& option);

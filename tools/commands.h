@@ -13,6 +13,10 @@ namespace tools {
 int infoCommand(const QStringList& arguments);
 int exportCommand(const QStringList& arguments);
 int measureCommand(const QStringList& arguments);
+int profileCommand(const QStringList& arguments);
+int histogramCommand(const QStringList& arguments);
+int spotsCommand(const QStringList& arguments);
+int findCommand(const QStringList& arguments);
 int toolsCommand(const QStringList& arguments);
 
 /// Needs a drawingApplication().

@@ -17,8 +17,10 @@ constexpr struct
     const char* name;
     Command run;
 } commands[] = {
-    {"info", tools::infoCommand},       {"export", tools::exportCommand},
-    {"measure", tools::measureCommand}, {"report", tools::reportCommand},
+    {"info", tools::infoCommand},           {"export", tools::exportCommand},
+    {"measure", tools::measureCommand},     {"profile", tools::profileCommand},
+    {"histogram", tools::histogramCommand}, {"spots", tools::spotsCommand},
+    {"find", tools::findCommand},           {"report", tools::reportCommand},
     {"tools", tools::toolsCommand},
 };
 
@@ -28,19 +30,24 @@ constexpr const char* help =
     "Works on the imager's photographs, whole folders at once, without a display.\n"
     "\n"
     "Commands:\n"
-    "  info      tell what stands in photographs\n"
-    "  export    write temperatures (CSV, TIFF, NumPy) or pictures (PNG)\n"
-    "  measure   measure photographs, all with the same tools\n"
-    "  report    write a PDF report of each photograph\n"
-    "  tools     check, print, convert, combine and transform files of tools\n"
-    "  help      show this help, or all options of a command\n"
+    "  info       tell what stands in photographs\n"
+    "  export     write temperatures (CSV, TIFF, NumPy) or pictures (PNG)\n"
+    "  measure    measure photographs, all with the same tools\n"
+    "  profile    print the temperatures along lines\n"
+    "  histogram  count how many pixels have which temperature\n"
+    "  spots      print the hottest and the coldest spots\n"
+    "  find       print the names of photographs that are hot or cold somewhere\n"
+    "  report     write a PDF report of each photograph\n"
+    "  tools      check, print, convert, combine and transform files of tools\n"
+    "  help       show this help, or all options of a command\n"
     "\n"
     "Options:\n"
     "  -h, --help     show this help; behind a command, all its options\n"
     "  -v, --version  show the version\n"
     "\n"
     "Ends with 0 when all went well, 1 when some photographs or files failed (a line on the\n"
-    "error output tells why), 2 when the arguments made no sense.\n";
+    "error output tells why), 2 when the arguments made no sense, 3 when a photograph passed a\n"
+    "limit. find ends as programs do that search: 0 found, 1 not found, 2 something failed.\n";
 
 int say(const char* text)
 {

@@ -1,106 +1,138 @@
 // SPDX-License-Identifier: MIT
-#include "analysis/photograph/photograph_reader.h"
 #include "analysis/photograph/tool_statistics.h"
-#include "platform/console.h"
 #include "tools/commands.h"
+#include "tools/comparisons.h"
 #include "tools/measuring_options.h"
-#include "tools/messages.h"
 #include "tools/photograph_run.h"
-#include "tools/texts.h"
+#include "tools/rows.h"
 
-#include <QJsonArray>
-#include <QJsonObject>
-
-#include <cmath>
-
+using analysis::Area;
+using analysis::Details;
 using analysis::PhotographReader;
+using analysis::threeDecimals;
 using analysis::ToolRow;
-using analysis::Unit;
-using files::Outcome;
 
 namespace tools {
 namespace {
 
-/// The tool table of one photograph.
-struct Measured
+/// What is told of each photograph.
+struct Wanted
 {
-    QString file;
-    QString unit; ///< "C" or "F"
-    std::vector<ToolRow> rows;
+    Measuring measuring;
+    bool more = false;
+    std::vector<Delta> deltas;
+    std::vector<Limit> limits;
 };
 
-QString typeOf(const ToolRow& row)
+std::vector<Column> columnsOf(const Wanted& wanted)
 {
-    return QLatin1String(overlay::rowOf(row.kind).name);
-}
-
-/// The number that a cell shows; null for what JSON has no number for.
-QJsonValue number(const QString& cell)
-{
-    const double value = cell.toDouble();
-    return std::isfinite(value) ? QJsonValue(value) : QJsonValue();
-}
-
-QByteArray json(const Measured& measured)
-{
-    QJsonArray tools;
-    for (const ToolRow& row : measured.rows)
-        tools.append(QJsonObject{{QStringLiteral("name"), row.name},
-                                 {QStringLiteral("type"), typeOf(row)},
-                                 {QStringLiteral("high"), number(row.high)},
-                                 {QStringLiteral("low"), number(row.low)},
-                                 {QStringLiteral("average"), number(row.average)}});
-    const QJsonObject object{{QStringLiteral("file"), measured.file},
-                             {QStringLiteral("unit"), measured.unit},
-                             {QStringLiteral("tools"), tools}};
-    return jsonLine(object);
-}
-
-/// A field as spreadsheets take it: quoted where it must be.
-QString csvField(QString text)
-{
-    constexpr const char* special = ",\"\r\n";
-    const bool isPlain = std::none_of(text.begin(), text.end(), [](QChar character) {
-        return QLatin1String(special).contains(character);
-    });
-    if (isPlain)
-        return text;
-    return QLatin1Char('"') + text.replace(QLatin1Char('"'), QLatin1String("\"\"")) +
-           QLatin1Char('"');
-}
-
-QByteArray csv(const Measured& measured)
-{
-    const QString file = csvField(measured.file);
-    QString lines;
-    for (const ToolRow& row : measured.rows) {
-        const QStringList fields{file,     measured.unit, row.name,   typeOf(row),
-                                 row.high, row.low,       row.average};
-        lines += fields.join(QLatin1Char(',')) + QLatin1Char('\n');
-    }
-    return lines.toUtf8();
-}
-
-QByteArray table(const Measured& measured)
-{
-    QString lines = QStringLiteral("%1 (°%2)\n").arg(measured.file, measured.unit);
-    const auto line = [&lines](const QString& name, const QString& type, const QString& high,
-                               const QString& low, const QString& average) {
-        lines += QStringLiteral("%1 %2 %3 %4 %5\n")
-                     .arg(name, -5)
-                     .arg(type, -9)
-                     .arg(high, 8)
-                     .arg(low, 8)
-                     .arg(average, 8);
+    int widest = 5;
+    for (const Delta& delta : wanted.deltas)
+        widest = std::max(widest, delta.text.size());
+    std::vector<Column> columns{{QStringLiteral("name"), -widest, true},
+                                {QStringLiteral("type"), -9, true}};
+    const auto addNumbers = [&columns](const QStringList& names) {
+        for (const QString& name : names)
+            columns.push_back({name, std::max(name.size(), 8)});
     };
-    line(QStringLiteral("name"), QStringLiteral("type"), QStringLiteral("high"),
-         QStringLiteral("low"), QStringLiteral("average"));
-    for (const ToolRow& row : measured.rows)
-        line(row.name, typeOf(row), row.high, row.low, row.average);
-    return lines.toUtf8();
+    addNumbers({QStringLiteral("high"), QStringLiteral("low"), QStringLiteral("average")});
+    if (wanted.more)
+        addNumbers({QStringLiteral("high_x"), QStringLiteral("high_y"), QStringLiteral("low_x"),
+                    QStringLiteral("low_y"), QStringLiteral("deviation"), QStringLiteral("median"),
+                    QStringLiteral("pixels")});
+    if (!wanted.deltas.empty())
+        addNumbers({QStringLiteral("delta")});
+    return columns;
 }
 
-using Writer = QByteArray (*)(const Measured&);
+QStringList moreCells(const std::optional<Details>& details)
+{
+    const QString none = QStringLiteral("nan");
+    if (!details)
+        return {none, none, none, none, none, none, QStringLiteral("0")};
+    return {QString::number(details->high.x),  QString::number(details->high.y),
+            QString::number(details->low.x),   QString::number(details->low.y),
+            threeDecimals(details->deviation), threeDecimals(details->median),
+            QString::number(details->pixels)};
+}
+
+/// What a row says first, and what it says last; in between there is nothing.
+Row filled(Row row, const QStringList& last, std::size_t columns)
+{
+    while (row.size() + last.size() < int(columns))
+        row.append(QString());
+    return row + last;
+}
+
+std::vector<Row> rowsOf(const MeasuredPhotograph& photograph, const Wanted& wanted,
+                        const DetailsOfTools& details)
+{
+    const std::size_t columns = columnsOf(wanted).size();
+    std::vector<Row> rows;
+    for (const ToolRow& tool :
+         toolRows(wanted.measuring.tools, photograph.temperatures, photograph.shown.conversion)) {
+        const Row row{tool.name, QLatin1String(overlay::rowOf(tool.kind).name), tool.high, tool.low,
+                      tool.average};
+        const Row more = wanted.more ? moreCells(details.value(tool.name)) : Row();
+        rows.push_back(filled(row + more, {}, columns));
+    }
+    for (const Delta& delta : wanted.deltas) {
+        const std::optional<double> value = delta.comparison.value(details);
+        rows.push_back(filled({delta.text, QStringLiteral("delta")},
+                              {value ? threeDecimals(*value) : QStringLiteral("nan")}, columns));
+    }
+    return rows;
+}
+
+void judge(const std::vector<Limit>& limits, const DetailsOfTools& details, const QString& sign,
+           Result& result)
+{
+    QStringList unknown;
+    for (const Limit& limit : limits) {
+        const std::optional<double> value = limit.comparison.value(details);
+        if (!value)
+            unknown += limit.text;
+        else if (limit.isPassed(*value, limit.value))
+            result.findings += QStringLiteral("passes the limit %1: %2 %3")
+                                   .arg(limit.text, threeDecimals(*value), sign);
+    }
+    result.isFound = !result.findings.isEmpty();
+    if (!unknown.isEmpty())
+        result.failure = QStringLiteral("has no readings to judge %1 by")
+                             .arg(unknown.join(QStringLiteral(", ")));
+}
+
+Wanted readWanted(CommandLine& line)
+{
+    Wanted wanted;
+    line.require(QStringLiteral("tools"));
+    wanted.measuring = readMeasuring(line);
+    wanted.more = line.isSet(QStringLiteral("more"));
+    wanted.deltas = readDeltas(line, wanted.measuring.tools);
+    wanted.limits = readLimits(line, wanted.measuring.tools);
+    return wanted;
+}
+
+void addOptions(CommandLine& line)
+{
+    addMeasuringOptions(
+        line,
+        QStringLiteral("The tools: {\"points\": [[x, y], …], \"lines\": [[x1, y1, x2, y2], …], "
+                       "\"rectangles\": [[x1, y1, x2, y2], …], \"circles\": [[cx, cy, r], "
+                       "…]}."));
+    addRowFormat(line);
+    line.add({QStringLiteral("more")},
+             QStringLiteral("Also where the hottest and the coldest pixel lie, standard deviation, "
+                            "median and number of pixels."));
+    line.add({QStringLiteral("delta")},
+             QStringLiteral("Also how much hotter one tool is than another, or than a number: "
+                            "R0-R1, R0.high-R1.average, R0-20. May be given several times."),
+             QStringLiteral("DIFFERENCE"));
+    line.add({QStringLiteral("limit")},
+             QStringLiteral("Tell the photographs that pass it, and end with 3 if one does: "
+                            "\"R0.high>70\", \"R0-R1>=10\". May be given several times."),
+             QStringLiteral("LIMIT"));
+}
 
 } // namespace
 
@@ -108,47 +140,37 @@ int measureCommand(const QStringList& arguments)
 {
     CommandLine line(QStringLiteral("measure"),
                      QStringLiteral("Measures photographs, all with the same tools."));
-    addMeasuringOptions(
-        line,
-        QStringLiteral("The tools: {\"points\": [[x, y], …], \"lines\": [[x1, y1, x2, y2], …], "
-                       "\"rectangles\": [[x1, y1, x2, y2], …], \"circles\": [[cx, cy, r], "
-                       "…]}."));
-    line.add({QStringLiteral("format")}, QStringLiteral("How to print the tables. Default: table."),
-             QStringLiteral("csv|json|table"), QStringLiteral("table"));
+    addOptions(line);
     if (!line.parse(arguments))
         return line.status();
-
-    const std::optional<int> modelIndex = line.modelIndex();
-    const std::optional<Unit> unit = readUnit(line);
-    const auto write = line.choice<Writer>(QStringLiteral("format"),
-                                           {{"csv", csv}, {"json", json}, {"table", table}});
-    line.require(QStringLiteral("tools"));
-    const overlay::Tools tools = readTools(line);
+    const RowFormat format = readRowFormat(line);
+    const Wanted wanted = readWanted(line);
     if (!line.isGood())
         return line.status();
 
-    // For eyes; a program gets the names as they are.
-    const bool isShown = write == table || (write == csv && platform::isTerminal(stdout));
+    const RowPrinter printer(format, QStringLiteral("tools"), columnsOf(wanted));
+    const bool needsDetails = wanted.more || !wanted.deltas.empty() || !wanted.limits.empty();
     PhotographRun photographs(line);
-    photographs.work = [&](const Entry& entry, PhotographReader& reader) -> Result {
-        const Outcome outcome = reader.read(entry.path, modelIndex);
-        if (!outcome.isGood())
-            return {{}, reason(outcome)};
-        const analysis::Photograph& photograph = reader.photograph();
-        const analysis::ShownUnit shown =
-            shownUnit(unit, photograph.parameters.unit, reader.isRaw());
-        return {write({isShown ? printable(entry.path) : entry.path, letterOf(shown.unit),
-                       toolRows(tools, photograph.temperatures, shown.conversion)}),
-                {}};
+    printer.frame(photographs);
+    photographs.status = [](bool someFailed, bool someFound) {
+        if (someFound)
+            return status::limitPassed;
+        return someFailed ? status::someFailed : status::good;
     };
-    if (write == json) {
-        photographs.before = "[";
-        photographs.between = ",\n ";
-        photographs.after = "]\n";
-    } else if (write == csv)
-        photographs.before = "file,unit,name,type,high,low,average\n";
-    else
-        photographs.between = "\n";
+    photographs.work = [&](const Entry& entry, PhotographReader& reader) {
+        return measured(entry, reader, wanted.measuring, [&](const MeasuredPhotograph& photograph) {
+            DetailsOfTools details;
+            if (needsDetails) {
+                for (const Area& area : photograph.areas(wanted.measuring))
+                    details.insert(area.name, detailsOf(area));
+            }
+            Result result;
+            result.output = printer.text(entry.path, photograph.shown.unit,
+                                         rowsOf(photograph, wanted, details));
+            judge(wanted.limits, details, signOf(photograph.shown.unit), result);
+            return result;
+        });
+    };
     return run(photographs);
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/measuring_options.h"
 
+#include "tools/messages.h"
 #include "tools/tool_files.h"
 
 using analysis::Unit;
@@ -41,6 +42,36 @@ overlay::Tools readTools(CommandLine& line)
     if (!wrong.isEmpty())
         line.refuse(file + QStringLiteral(": ") + wrong);
     return tools;
+}
+
+Measuring readMeasuring(CommandLine& line)
+{
+    Measuring measuring;
+    measuring.modelIndex = line.modelIndex();
+    measuring.unit = readUnit(line);
+    measuring.tools = readTools(line);
+    measuring.isWhole = !line.isSet(QStringLiteral("tools"));
+    return measuring;
+}
+
+std::vector<analysis::Area> MeasuredPhotograph::areas(const Measuring& measuring) const
+{
+    if (!measuring.isWhole)
+        return areasOf(measuring.tools, temperatures, shown.conversion);
+    analysis::Area picture = wholePicture(temperatures, shown.conversion);
+    picture.name = QStringLiteral("picture");
+    return {picture};
+}
+
+Result measured(const Entry& entry, analysis::PhotographReader& reader, const Measuring& measuring,
+                const std::function<Result(const MeasuredPhotograph&)>& measure)
+{
+    const files::Outcome outcome = reader.read(entry.path, measuring.modelIndex);
+    if (!outcome.isGood())
+        return {{}, reason(outcome)};
+    const analysis::Photograph& photograph = reader.photograph();
+    return measure({photograph.temperatures,
+                    shownUnit(measuring.unit, photograph.parameters.unit, reader.isRaw())});
 }
 
 } // namespace tools

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <QByteArray>
-#include <QString>
+#include <QStringList>
 
 #include <functional>
 
@@ -15,6 +15,8 @@ struct Result
     QByteArray output;      ///< for the standard output
     QString failure;        ///< a line for the error output; empty when all went well
     bool isLeftOut = false; ///< nothing was done
+    QStringList findings{}; ///< lines for the error output that are no failures
+    bool isFound = false;   ///< what the command was looking for is there
 };
 
 using Work = std::function<Result(int index)>;

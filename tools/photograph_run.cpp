@@ -29,13 +29,15 @@ int run(const PhotographRun& photographs)
     const int threads = threadsToBeHad(photographs.jobs);
     if (threads == 0) {
         printError(QStringLiteral("no thread can be started"));
-        return status::someFailed;
+        return photographs.status(true, false);
     }
     const std::vector<Entry>& entries = photographs.entries;
     const int count = int(entries.size());
     ProgressBar bar(count, wantsProgressBar(photographs.writesFiles));
     int good = 0;
-    int failed = 0;
+    int printed = 0;
+    bool someFailed = false;
+    bool someFound = false;
     bool canPrint = print(photographs.before);
 
     const auto work = [&](int index) -> Result {
@@ -49,15 +51,22 @@ int run(const PhotographRun& photographs)
     const auto deliver = [&](int index, const Result& result) {
         if (result.isLeftOut)
             return false;
-        if (result.failure.isEmpty()) {
+        const bool isGood = result.failure.isEmpty();
+        if (isGood || !result.output.isEmpty()) {
             canPrint =
-                canPrint && (good == 0 || print(photographs.between)) && print(result.output);
-            ++good;
-        } else {
-            bar.hide();
-            printError(entries[std::size_t(index)].path + QStringLiteral(": ") + result.failure);
-            ++failed;
+                canPrint && (printed == 0 || print(photographs.between)) && print(result.output);
+            ++printed;
         }
+        QStringList lines = result.findings;
+        if (!isGood)
+            lines.append(result.failure);
+        for (const QString& line : lines) {
+            bar.hide();
+            printError(entries[std::size_t(index)].path + QStringLiteral(": ") + line);
+        }
+        good += isGood ? 1 : 0;
+        someFailed |= !isGood;
+        someFound |= result.isFound;
         bar.step();
         return canPrint && !platform::isInterrupted();
     };
@@ -70,9 +79,9 @@ int run(const PhotographRun& photographs)
     }
     if (!canPrint || !print(photographs.after) || !flushOutput()) {
         printOutputError();
-        return status::someFailed;
+        someFailed = true;
     }
-    return failed == 0 ? status::good : status::someFailed;
+    return photographs.status(someFailed, someFound);
 }
 
 } // namespace tools

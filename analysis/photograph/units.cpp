@@ -30,4 +30,9 @@ QString oneDecimal(double value)
     return QString::number(value, 'f', 1);
 }
 
+QString threeDecimals(double value)
+{
+    return QString::number(value, 'f', 3);
+}
+
 } // namespace analysis

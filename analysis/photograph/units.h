@@ -87,4 +87,7 @@ inline float shownTenths(qint16 tenths, Conversion conversion)
 /// One decimal. Halves go away from zero, and a small negative value is "-0.0".
 QString oneDecimal(double value);
 
+/// Three decimals, for what is computed exactly; as above.
+QString threeDecimals(double value);
+
 } // namespace analysis

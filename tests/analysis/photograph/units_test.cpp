@@ -104,6 +104,14 @@ private slots:
         QCOMPARE(text(0.0F, analysis::unchanged), QStringLiteral("0.0"));
     }
 
+    void exactNumbersHaveThreeDecimals()
+    {
+        QCOMPARE(analysis::threeDecimals(27.06149), QStringLiteral("27.061"));
+        QCOMPARE(analysis::threeDecimals(-3.0), QStringLiteral("-3.000"));
+        QCOMPARE(analysis::threeDecimals(std::numeric_limits<double>::quiet_NaN()),
+                 QStringLiteral("nan"));
+    }
+
     // Values at which double precision would show the other digit.
     void everyStepIsRoundedToSinglePrecision_data()
     {

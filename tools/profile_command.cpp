@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#include "analysis/photograph/profile.h"
+#include "tools/commands.h"
+#include "tools/measuring_options.h"
+#include "tools/photograph_run.h"
+#include "tools/rows.h"
+
+using analysis::PhotographReader;
+using analysis::ProfilePoint;
+using analysis::threeDecimals;
+
+namespace tools {
+namespace {
+
+std::vector<Row> rowsOf(const MeasuredPhotograph& photograph, const overlay::Tools& tools)
+{
+    std::vector<Row> rows;
+    for (const overlay::LineTool& line : tools.lineList) {
+        for (const ProfilePoint& point :
+             profileOf(line, photograph.temperatures, photograph.shown.conversion))
+            rows.push_back({line.name, threeDecimals(point.distance), QString::number(point.x),
+                            QString::number(point.y), threeDecimals(point.value)});
+    }
+    return rows;
+}
+
+} // namespace
+
+int profileCommand(const QStringList& arguments)
+{
+    CommandLine line(
+        QStringLiteral("profile"),
+        QStringLiteral("Prints the temperatures along lines, pixel by pixel from start "
+                       "to end, with the distance from the start in pixels."));
+    addMeasuringOptions(line, QStringLiteral("The lines, as measure takes them; other tools are "
+                                             "passed over."));
+    addRowFormat(line);
+    if (!line.parse(arguments))
+        return line.status();
+    const RowFormat format = readRowFormat(line);
+    line.require(QStringLiteral("tools"));
+    const Measuring measuring = readMeasuring(line);
+    if (measuring.tools.lineList.isEmpty())
+        line.refuse(QStringLiteral("--tools has no line"));
+    if (!line.isGood())
+        return line.status();
+
+    const RowPrinter printer(format, QStringLiteral("pixels"),
+                             {{QStringLiteral("name"), -5, true},
+                              {QStringLiteral("distance"), 8},
+                              {QStringLiteral("x"), 4},
+                              {QStringLiteral("y"), 4},
+                              {QStringLiteral("temperature"), 11}});
+    PhotographRun photographs(line);
+    printer.frame(photographs);
+    photographs.work = [&](const Entry& entry, PhotographReader& reader) {
+        return measured(entry, reader, measuring, [&](const MeasuredPhotograph& photograph) {
+            return Result{printer.text(entry.path, photograph.shown.unit,
+                                       rowsOf(photograph, measuring.tools)),
+                          {}};
+        });
+    };
+    return run(photographs);
+}
+
+} // namespace tools
