@@ -5,8 +5,6 @@
 
 #include <QRegularExpression>
 
-using analysis::Figure;
-
 namespace tools {
 namespace {
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "analysis/photograph/details.h"
 #include "analysis/photograph/histogram.h"
 #include "tools/commands.h"
 #include "tools/measuring_options.h"
@@ -112,7 +113,7 @@ Result counted(const Entry& entry, const MeasuredPhotograph& photograph, const W
         if (const std::optional<Bins> bins = wanted.binsOf(area)) {
             const std::vector<Row> more = rowsOf(area, *bins, wanted.range.has_value());
             rows.insert(rows.end(), more.begin(), more.end());
-        } else if (detailsOf(area)) {
+        } else if (analysis::detailsOf(area)) {
             return {{}, QStringLiteral("--width makes more than %1 bins").arg(Bins::most)};
         }
     }

@@ -67,7 +67,8 @@ QList<QByteArray> optionLines(const QString& command)
     return lines;
 }
 
-const QStringList commands{"info", "export", "measure", "report", "tools"};
+const QStringList commands{"info",  "export", "measure", "profile", "histogram",
+                           "spots", "find",   "report",  "tools"};
 
 } // namespace
 
@@ -96,6 +97,9 @@ private slots:
         row("with an equals sign", "info --layout=au\t I\t", "info --layout auto IR_1.bmp");
         row("actions and files of tools", "to\tcomb\tjo\tlim\t",
             "tools combine joints.json limits.csv");
+        row("a histogram", "his\t--too\tjo\t--form\tnd\tI\t",
+            "histogram --tools joints.json --format ndjson IR_1.bmp");
+        row("finding", "fi\t--ab\t80 I\t", "find --above 80 IR_1.bmp");
         row("help", "he\tmea\t", "help measure");
     }
     /// A person types this at a terminal, and the program is started with that.

@@ -41,15 +41,15 @@ void RunTest::withoutThreads()
     const Folder folder;
     for (int i = 0; i < 5; ++i)
         folder.write(QStringLiteral("in/%1.bmp").arg(i), anyPhotograph());
-    for (const char* command :
-         {"info --json", "export --jobs 3 --format png -o out", "report -o out"}) {
+    for (const char* command : {"info --json", "export --jobs 3 --format png -o out",
+                                "report -o out", "find --above 1"}) {
         const Ended ended = testing::shell(QStringLiteral("ulimit -s 200000000000 && "
                                                           "exec \"$thermaphoto\" %1 in")
                                                .arg(QLatin1String(command)),
                                            folder.path());
         QCOMPARE(ended.output, QByteArray());
         QCOMPARE(ended.errors, QByteArray("thermaphoto: no thread can be started\n"));
-        QCOMPARE(ended.status, 1);
+        QCOMPARE(ended.status, QByteArray(command).startsWith("find") ? 2 : 1);
     }
     QCOMPARE(folder.files().filter("out/"), QStringList());
 }
@@ -65,6 +65,8 @@ void RunTest::anyLocale()
          {"info in", "info --json in", "measure --tools tools.json in",
           "measure --tools tools.json --format csv in",
           "measure --tools tools.json --format json in",
+          "measure --more --delta C0-21.5 --tools tools.json --format ndjson in",
+          "histogram --width 0.5 --format csv in", "spots --distance 2.5 in",
           "export --format csv --header -o $LC_ALL in; cat $LC_ALL/*.csv",
           "report --tools tools.json -o $LC_ALL in; pdftotext $LC_ALL/1.pdf -"}) {
         const auto in = [&](const char* locale) {
@@ -84,16 +86,24 @@ void RunTest::anyLocale()
 
 void RunTest::anyNumberOfJobs_data()
 {
-    QTest::addColumn<QStringList>("command");
-    QTest::newRow("info") << QStringList{"info", "--json"};
-    QTest::newRow("measure") << QStringList{"measure", "--tools", "tools.json"};
-    QTest::newRow("export") << QStringList{"export", "--format", "csv", "--force", "-o", "out"};
+    QTest::addColumn<QString>("command");
+    QTest::addColumn<int>("status");
+    QTest::addColumn<int>("errorLines");
+    QTest::newRow("info") << "info --json" << 1 << 4;
+    QTest::newRow("measure") << "measure --tools tools.json" << 1 << 4;
+    QTest::newRow("measure more")
+        << "measure --more --tools tools.json --limit C0>1 --format ndjson" << 3 << 40;
+    QTest::newRow("spots") << "spots" << 1 << 4;
+    QTest::newRow("find") << "find --above 40" << 2 << 4;
+    QTest::newRow("export") << "export --format csv --force -o out" << 1 << 4;
 }
 
 /// Same bytes in the same order from one, some and more jobs than photographs, errors included.
 void RunTest::anyNumberOfJobs()
 {
-    QFETCH(QStringList, command);
+    QFETCH(QString, command);
+    QFETCH(int, status);
+    QFETCH(int, errorLines);
     const Folder folder;
     folder.write(QStringLiteral("tools.json"), R"({"points": [[1, 2]], "circles": [[99, 99, 9]]})");
     for (int i = 0; i < 40; ++i) {
@@ -102,17 +112,18 @@ void RunTest::anyNumberOfJobs()
                      i % 9 == 4 ? QByteArray("broken") : sample.bytes());
     }
     const auto run = [&](const char* jobs) {
-        Ended ended = thermaphoto(command + QStringList{"in", "--jobs", jobs}, folder.path());
+        Ended ended =
+            thermaphoto(command.split(' ') + QStringList{"in", "--jobs", jobs}, folder.path());
         for (const QString& file : folder.files().filter(QStringLiteral("out/")))
             ended.output += file.toUtf8() + folder.read(file);
         return ended;
     };
     const Ended one = run("1");
-    QCOMPARE(one.status, 1);
-    QCOMPARE(one.errorLines().size(), 4);
+    QCOMPARE(one.status, status);
+    QCOMPARE(one.errorLines().size(), errorLines);
     for (const char* jobs : {"2", "7", "100"}) {
         const Ended many = run(jobs);
-        QCOMPARE(many.status, 1);
+        QCOMPARE(many.status, status);
         QVERIFY(many.output == one.output);
         QCOMPARE(many.errors, one.errors);
     }

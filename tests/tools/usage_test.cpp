@@ -75,6 +75,9 @@ void UsageTest::usage_data()
     row("replaced and passed over", "export --format csv --force --skip-existing a.bmp");
     row("options before the command", "--layout 0 info a.bmp");
     row("measure format", "measure --tools tools.json --format xml a.bmp");
+    row("profile format", "profile --tools tools.json --format npy a.bmp");
+    row("spots unit", "spots --unit K a.bmp");
+    row("find layout", "find --above 1 --layout 2 a.bmp");
 }
 
 void UsageTest::usage()
@@ -111,6 +114,10 @@ void UsageTest::help_data()
     QTest::newRow("info") << QStringList{"info", "--help"} << QByteArray("--json");
     QTest::newRow("export") << QStringList{"export", "-h"} << QByteArray("--span");
     QTest::newRow("measure") << QStringList{"measure", "--help"} << QByteArray("--tools");
+    QTest::newRow("profile") << QStringList{"profile", "--help"} << QByteArray("--format");
+    QTest::newRow("histogram") << QStringList{"histogram", "--help"} << QByteArray("--width");
+    QTest::newRow("spots") << QStringList{"spots", "--help"} << QByteArray("--distance");
+    QTest::newRow("find") << QStringList{"find", "--help"} << QByteArray("--above");
     QTest::newRow("report") << QStringList{"report", "--help"} << QByteArray("--language");
     QTest::newRow("tools") << QStringList{"tools", "--help"} << QByteArray("--mirror");
     QTest::newRow("help") << QStringList("help") << QByteArray("measure");
@@ -137,6 +144,10 @@ void UsageTest::helpShowsAnOrderThatIsTaken_data()
     QTest::newRow("info") << "info" << QStringList("--json");
     QTest::newRow("export") << "export" << QStringList{"--format", "npy"};
     QTest::newRow("measure") << "measure" << QStringList{"--tools", "tools.json"};
+    QTest::newRow("profile") << "profile" << QStringList{"--tools", "line.json"};
+    QTest::newRow("histogram") << "histogram" << QStringList{"--bins", "9"};
+    QTest::newRow("spots") << "spots" << QStringList{"--count", "2"};
+    QTest::newRow("find") << "find" << QStringList{"--below", "9999"};
     QTest::newRow("report") << "report" << QStringList{"-o", "out"};
 }
 
@@ -150,6 +161,7 @@ void UsageTest::helpShowsAnOrderThatIsTaken()
     const Folder folder;
     folder.write("a.bmp", anyPhotograph());
     folder.write("tools.json", "{}");
+    folder.write("line.json", R"({"lines": [[1, 2, 3, 4]]})");
     const Ended ended =
         thermaphoto(QStringList(command) + options + QStringList("a.bmp"), folder.path());
     QCOMPARE(ended.errors, QByteArray());
@@ -162,6 +174,8 @@ void UsageTest::whatIsMissing_data()
     QTest::addColumn<QByteArray>("missing");
     QTest::newRow("export") << QStringList{"export", "a.bmp"} << QByteArray("--format");
     QTest::newRow("measure") << QStringList{"measure", "a.bmp"} << QByteArray("--tools");
+    QTest::newRow("profile") << QStringList{"profile", "a.bmp"} << QByteArray("--tools");
+    QTest::newRow("find") << QStringList{"find", "a.bmp"} << QByteArray("--above or --below");
     QTest::newRow("report") << QStringList{"report", "a.bmp"} << QByteArray("--output");
 }
 
