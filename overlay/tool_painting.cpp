@@ -28,6 +28,13 @@ bool hasPicture(const Geometry& geometry)
     return geometry.imageWidth > 0 && geometry.imageHeight > 0;
 }
 
+QSize pixelsOf(const QSize& size, qreal ratio)
+{
+    if (size.isEmpty())
+        return {};
+    return {int(std::ceil(size.width() * ratio)), int(std::ceil(size.height() * ratio))};
+}
+
 bool hasReticle(const Spots& spots)
 {
     return spots.markerC.x != 0 && spots.markerC.y != 0;
@@ -204,9 +211,14 @@ void Canvas::drawMargins() const
     }
 }
 
-QImage transparent(const Sheet& sheet)
+QRect wholeOf(const Sheet& sheet)
 {
-    QImage image(sheet.pixels(), QImage::Format_ARGB32_Premultiplied);
+    return {0, 0, sheet.geometry.labelWidth, sheet.geometry.labelHeight};
+}
+
+QImage transparent(const Sheet& sheet, const QRect& part)
+{
+    QImage image(pixelsOf(part.size(), sheet.ratio), QImage::Format_ARGB32_Premultiplied);
     image.setDevicePixelRatio(sheet.ratio);
     image.fill(Qt::transparent);
     return image;
@@ -219,10 +231,11 @@ bool isSame(const Sheet& left, const Sheet& right)
 
 /// Tools of their own layer: laid over others, smoothed edges come out a little different from
 /// tools that are drawn after them.
-QImage layerOf(const Tools& tools, const Sheet& sheet, int begin, int end)
+QImage layerOf(const Tools& tools, const Sheet& sheet, const QRect& part, int begin, int end)
 {
-    QImage image = transparent(sheet);
+    QImage image = transparent(sheet, part);
     QPainter painter(&image);
+    painter.translate(-part.topLeft());
     Canvas(painter, sheet.geometry).drawTools(tools, sheet.selectColor, begin, end);
     return image;
 }
@@ -241,18 +254,21 @@ Tools withoutSelected(Tools tools)
 
 QSize Sheet::pixels() const
 {
-    if (geometry.labelWidth <= 0 || geometry.labelHeight <= 0)
-        return {};
-    return {int(std::ceil(geometry.labelWidth * ratio)),
-            int(std::ceil(geometry.labelHeight * ratio))};
+    return pixelsOf(wholeOf(*this).size(), ratio);
 }
 
 QImage paintedTools(const Tools& tools, const Spots& spots, const Sheet& sheet)
 {
-    if (sheet.pixels().isEmpty())
+    return paintedTools(tools, spots, sheet, wholeOf(sheet));
+}
+
+QImage paintedTools(const Tools& tools, const Spots& spots, const Sheet& sheet, const QRect& part)
+{
+    if (part.isEmpty())
         return {};
-    QImage image = transparent(sheet);
+    QImage image = transparent(sheet, part);
     QPainter painter(&image);
+    painter.translate(-part.topLeft());
     const Canvas canvas(painter, sheet.geometry);
     if (hasPicture(sheet.geometry)) {
         const int selected = selectedPlace(tools);
@@ -260,7 +276,7 @@ QImage paintedTools(const Tools& tools, const Spots& spots, const Sheet& sheet)
         const int first = selected < 0 ? count : selected + 1;
         canvas.drawTools(tools, sheet.selectColor, 0, first);
         if (first < count)
-            painter.drawImage(0, 0, layerOf(tools, sheet, first, count));
+            painter.drawImage(part.topLeft(), layerOf(tools, sheet, part, first, count));
         canvas.drawSpots(spots);
     }
     if (sheet.whiteMargins)
@@ -292,8 +308,8 @@ void ToolLayers::update(const Tools& tools, const Sheet& sheet, int selected)
     if (m_tools == shown && isSame(m_sheet, sheet) && m_selected == selected && !m_under.isNull())
         return;
     const int count = countOf(tools);
-    m_under = layerOf(shown, sheet, 0, selected >= 0 ? selected : count);
-    m_over = selected >= 0 ? layerOf(shown, sheet, selected + 1, count) : QImage();
+    m_under = layerOf(shown, sheet, wholeOf(sheet), 0, selected >= 0 ? selected : count);
+    m_over = selected >= 0 ? layerOf(shown, sheet, wholeOf(sheet), selected + 1, count) : QImage();
     m_tools = shown;
     m_sheet = sheet;
     m_selected = selected;

@@ -6,6 +6,7 @@
 #include "overlay/tools.h"
 
 #include <QImage>
+#include <QRect>
 
 class QPainter;
 
@@ -27,6 +28,10 @@ struct Sheet
 /// The placed tools, then the spots, on a transparent ground of labelWidth × labelHeight. Null
 /// where the label has no extent; empty where the picture has none.
 QImage paintedTools(const Tools& tools, const Spots& spots, const Sheet& sheet);
+
+/// Only a part of the same, in label pixels: its size, not that of the sheet, is what it costs.
+/// Null for an empty part.
+QImage paintedTools(const Tools& tools, const Spots& spots, const Sheet& sheet, const QRect& part);
 
 /// The same for somebody who draws again and again while one tool is dragged.
 ///

@@ -3,6 +3,7 @@
 
 #include "analysis/windows/magnified_pixels.h"
 #include "analysis/windows/picture_keys.h"
+#include "analysis/windows/reading_set.h"
 #include "analysis/windows/tool_commands.h"
 
 #include <QAction>
@@ -13,44 +14,30 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QVBoxLayout>
-#include <QWheelEvent>
 
 namespace analysis {
-namespace {
-
-QCheckBox* tickBox(const QString& text, const char* name)
-{
-    auto* box = new QCheckBox(text);
-    box->setObjectName(QLatin1String(name));
-    box->setFocusPolicy(Qt::NoFocus); // the keys stay those of the pixels
-    return box;
-}
-
-} // namespace
 
 Magnifier::Magnifier(ViewedPhotograph& photograph)
     : BesideWindow(photograph, tr("放大镜")), m_pixels(new MagnifiedPixels), m_readOut(new QLabel),
-      m_size(new QLabel), m_frozen(tickBox(tr("定格(空格键)"), "frozen")),
-      m_corrected(tickBox(tr("校正后的读数"), "corrected")), m_set(new QLabel)
+      m_size(new QLabel), m_frozen(new QCheckBox(tr("定格(空格键)"))),
+      m_set(new ReadingSet(photograph, this))
 {
     m_pixels->setObjectName(QStringLiteral("pixels"));
     m_pixels->setAccessibleName(tr("放大镜"));
     m_pixels->setToolTip(tr("滚轮或 + 和 - 缩放，定格后用方向键移动，Ctrl+C 复制数值"));
     m_readOut->setObjectName(QStringLiteral("readOut"));
     m_size->setObjectName(QStringLiteral("size"));
+    m_frozen->setObjectName(QStringLiteral("frozen"));
+    m_frozen->setFocusPolicy(Qt::NoFocus); // the keys stay those of the pixels
     auto* below = new QHBoxLayout;
     below->addWidget(m_readOut, 1);
     below->addWidget(m_size);
     below->addSpacing(12);
     below->addWidget(m_frozen);
-    m_set->setObjectName(QStringLiteral("set"));
-    auto* sets = new QHBoxLayout;
-    sets->addWidget(m_set, 1);
-    sets->addWidget(m_corrected);
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(m_pixels, 1);
     layout->addLayout(below);
-    layout->addLayout(sets);
+    layout->addWidget(m_set);
 
     m_part.moveTo(photograph.pointedAt());
     connect(&photograph, &ViewedPhotograph::pointed, this, [this](int x, int y) {
@@ -61,15 +48,8 @@ Magnifier::Magnifier(ViewedPhotograph& photograph)
         if (isVisible())
             refresh();
     });
-    connect(m_corrected, &QCheckBox::toggled, this, &Magnifier::refresh);
+    connect(m_set, &ReadingSet::chosen, this, &Magnifier::refresh);
     m_pixels->setFocus();
-}
-
-ReadingTexts Magnifier::texts() const
-{
-    const bool isCorrected = m_correctedTemperatures && m_corrected->isChecked();
-    return {isCorrected ? *m_correctedTemperatures : viewed().photograph().temperatures,
-            viewed().unit(), isCorrected ? viewed().correctionName() : QString()};
 }
 
 Magnifier* Magnifier::openOne(const ToolCommands& commands)
@@ -107,17 +87,14 @@ void Magnifier::addTo(ToolCommands& commands)
 
 void Magnifier::refresh()
 {
-    m_correctedTemperatures = viewed().corrected();
-    m_corrected->setVisible(m_correctedTemperatures != nullptr);
-    m_set->setVisible(m_correctedTemperatures != nullptr);
-    m_set->setText(m_corrected->isChecked() ? viewed().correctionName() : tr("存储的读数"));
-    m_longestText = texts().longest();
+    m_set->refresh();
+    m_longestText = m_set->texts().longest();
     showPart();
 }
 
 void Magnifier::showPart()
 {
-    const ReadingTexts texts = this->texts();
+    const ReadingTexts texts = m_set->texts();
     const QImage colours = viewed().colours();
     const QRect pixels = m_part.pixels();
     const QRect inside = m_part.pixelsInside();
@@ -152,10 +129,7 @@ void Magnifier::grow(int steps)
 
 void Magnifier::wheelEvent(QWheelEvent* event)
 {
-    constexpr int step = QWheelEvent::DefaultDeltasPerStep;
-    m_turned += event->angleDelta().y();
-    grow(-(m_turned / step));
-    m_turned %= step;
+    grow(-m_wheel.take(*event));
     event->accept();
 }
 
@@ -186,7 +160,7 @@ void Magnifier::keyPressEvent(QKeyEvent* event)
 
 void Magnifier::copy() const
 {
-    QGuiApplication::clipboard()->setText(texts().matrix(m_part.pixelsInside()));
+    QGuiApplication::clipboard()->setText(m_set->texts().matrix(m_part.pixelsInside()));
 }
 
 } // namespace analysis

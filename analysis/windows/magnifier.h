@@ -2,8 +2,8 @@
 #pragma once
 
 #include "analysis/photograph/neighbourhood.h"
-#include "analysis/photograph/reading_texts.h"
 #include "analysis/windows/beside_window.h"
+#include "analysis/windows/wheel_steps.h"
 
 class QCheckBox;
 class QLabel;
@@ -11,6 +11,7 @@ class QLabel;
 namespace analysis {
 
 class MagnifiedPixels;
+class ReadingSet;
 class ToolCommands;
 
 /// The pixels round the mouse in large, in the picture's own colours and with their temperatures.
@@ -39,18 +40,15 @@ private:
     void grow(int steps);
     bool moveByKey(const QKeyEvent& event);
     void copy() const;
-    ReadingTexts texts() const;
 
     Neighbourhood m_part;
     int m_longestText = 0; ///< of all readings in the picture
-    int m_turned = 0;      ///< of the wheel, not yet a whole step
+    WheelSteps m_wheel;
     MagnifiedPixels* m_pixels;
     QLabel* m_readOut;
     QLabel* m_size;
     QCheckBox* m_frozen;
-    QCheckBox* m_corrected; ///< shown only while there is a corrected set …
-    QLabel* m_set;          ///< … and the name of the set that is shown
-    std::shared_ptr<const Temperatures> m_correctedTemperatures;
+    ReadingSet* m_set;
 };
 
 } // namespace analysis

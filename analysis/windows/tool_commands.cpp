@@ -8,6 +8,7 @@
 #include "analysis/windows/details_window.h"
 #include "analysis/windows/histogram_window.h"
 #include "analysis/windows/looking_menu.h"
+#include "analysis/windows/large_picture.h"
 #include "analysis/windows/magnifier.h"
 #include "analysis/windows/measurement_keeping.h"
 #include "analysis/windows/measurement_menu.h"
@@ -37,6 +38,7 @@ ToolCommands::ToolCommands(Analysis_Widget& window, const Ui::Analysis_Widget& f
     LookingMenu::addTo(*this);
     Magnifier::addTo(*this);
     SpotsWindow::addTo(*this);
+    LargePicture::addTo(*this, form);
     MeasurementMenu::addTo(*this);
     ViewMenu::addTo(*this, form);
     m_keeping = std::make_unique<MeasurementKeeping>(*this, form);

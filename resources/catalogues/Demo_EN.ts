@@ -955,6 +955,17 @@
     </message>
 </context>
 <context>
+    <name>analysis::LargePicture</name>
+    <message>
+        <source>大图</source>
+        <translation>Large picture</translation>
+    </message>
+    <message>
+        <source>Ctrl+滚轮或 + 和 - 缩放，0 显示全图，拖动或方向键移动，Ctrl+C 复制</source>
+        <translation>Zoom by Ctrl+wheel or + and −, 0 shows everything, drag or use the arrow keys to move, copy by Ctrl+C</translation>
+    </message>
+</context>
+<context>
     <name>analysis::Magnifier</name>
     <message>
         <source>放大镜</source>
@@ -971,14 +982,6 @@
     <message>
         <source>定格放大镜</source>
         <translation>Freeze the magnifier</translation>
-    </message>
-    <message>
-        <source>校正后的读数</source>
-        <translation>Corrected readings</translation>
-    </message>
-    <message>
-        <source>存储的读数</source>
-        <translation>Stored readings</translation>
     </message>
 </context>
 <context>
@@ -1023,6 +1026,17 @@
     <message>
         <source>没有直线：请在图像上画一条。</source>
         <translation>No line: draw one in the picture.</translation>
+    </message>
+</context>
+<context>
+    <name>analysis::ReadingSet</name>
+    <message>
+        <source>校正后的读数</source>
+        <translation>Corrected readings</translation>
+    </message>
+    <message>
+        <source>存储的读数</source>
+        <translation>Stored readings</translation>
     </message>
 </context>
 <context>

@@ -951,6 +951,17 @@
     </message>
 </context>
 <context>
+    <name>analysis::LargePicture</name>
+    <message>
+        <source>大图</source>
+        <translation>큰 이미지</translation>
+    </message>
+    <message>
+        <source>Ctrl+滚轮或 + 和 - 缩放，0 显示全图，拖动或方向键移动，Ctrl+C 复制</source>
+        <translation>Ctrl+휠이나 + 와 − 로 확대·축소, 0 은 전체 보기, 끌거나 방향키로 이동, Ctrl+C 로 복사</translation>
+    </message>
+</context>
+<context>
     <name>analysis::Magnifier</name>
     <message>
         <source>放大镜</source>
@@ -967,14 +978,6 @@
     <message>
         <source>定格放大镜</source>
         <translation>돋보기 고정</translation>
-    </message>
-    <message>
-        <source>校正后的读数</source>
-        <translation>보정된 측정값</translation>
-    </message>
-    <message>
-        <source>存储的读数</source>
-        <translation>저장된 측정값</translation>
     </message>
 </context>
 <context>
@@ -1019,6 +1022,17 @@
     <message>
         <source>没有直线：请在图像上画一条。</source>
         <translation>선이 없습니다. 이미지에 선을 그리세요.</translation>
+    </message>
+</context>
+<context>
+    <name>analysis::ReadingSet</name>
+    <message>
+        <source>校正后的读数</source>
+        <translation>보정된 측정값</translation>
+    </message>
+    <message>
+        <source>存储的读数</source>
+        <translation>저장된 측정값</translation>
     </message>
 </context>
 <context>

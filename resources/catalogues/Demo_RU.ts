@@ -959,6 +959,17 @@
     </message>
 </context>
 <context>
+    <name>analysis::LargePicture</name>
+    <message>
+        <source>大图</source>
+        <translation>Крупный снимок</translation>
+    </message>
+    <message>
+        <source>Ctrl+滚轮或 + 和 - 缩放，0 显示全图，拖动或方向键移动，Ctrl+C 复制</source>
+        <translation>Масштаб: Ctrl+колесо или + и −; 0 — весь снимок; перемещение мышью или стрелками; Ctrl+C копирует</translation>
+    </message>
+</context>
+<context>
     <name>analysis::Magnifier</name>
     <message>
         <source>放大镜</source>
@@ -975,14 +986,6 @@
     <message>
         <source>定格放大镜</source>
         <translation>Зафиксировать лупу</translation>
-    </message>
-    <message>
-        <source>校正后的读数</source>
-        <translation>Исправленные показания</translation>
-    </message>
-    <message>
-        <source>存储的读数</source>
-        <translation>Сохранённые показания</translation>
     </message>
 </context>
 <context>
@@ -1027,6 +1030,17 @@
     <message>
         <source>没有直线：请在图像上画一条。</source>
         <translation>Линий нет: проведите линию на снимке.</translation>
+    </message>
+</context>
+<context>
+    <name>analysis::ReadingSet</name>
+    <message>
+        <source>校正后的读数</source>
+        <translation>Исправленные показания</translation>
+    </message>
+    <message>
+        <source>存储的读数</source>
+        <translation>Сохранённые показания</translation>
     </message>
 </context>
 <context>

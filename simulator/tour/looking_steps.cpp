@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "analysis/windows/details_window.h"
 #include "analysis/windows/histogram_window.h"
+#include "analysis/windows/large_picture.h"
 #include "analysis/windows/magnifier.h"
+#include "analysis/windows/picture_view.h"
 #include "analysis/windows/profile_window.h"
 #include "analysis/windows/spots_window.h"
 #include "plots/plot_view.h"
@@ -13,6 +15,7 @@
 #include <QLabel>
 #include <QTableWidget>
 #include <QTest>
+#include <QWheelEvent>
 
 namespace tour {
 namespace {
@@ -118,6 +121,30 @@ void listSpots(Walk& walk)
     close<analysis::SpotsWindow>(walk);
 }
 
+/// By Ctrl with the wheel over the hot joint.
+void enlarge(Walk& walk)
+{
+    MyLabel& picture = pictureOf(walk);
+    const QPoint place(picture.width() / 2 + picture.imageWidth / 18,
+                       picture.height() / 2 + picture.imageHeight / 15);
+    const auto turn = [&] {
+        QWheelEvent event(place, picture.mapToGlobal(place), {}, {0, 120}, Qt::NoButton,
+                          Qt::ControlModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&picture, &event);
+    };
+    turn();
+    auto& large = shownBeside<analysis::LargePicture>(walk);
+    const analysis::PictureZoom& zoom = large.view().zoom();
+    while (zoom.factor() < 6)
+        turn();
+    QWidget& seen = *large.view().viewport();
+    QTest::mouseMove(&seen, seen.rect().center());
+    walk.await("the pixel is read",
+               [&] { return !find<QLabel>(large, "readOut").text().isEmpty(); });
+    walk.shoot("large-picture");
+    close<analysis::LargePicture>(walk);
+}
+
 } // namespace
 
 void takeLookingSteps(Walk& walk)
@@ -127,6 +154,7 @@ void takeLookingSteps(Walk& walk)
     lookAtDetails(walk);
     listSpots(walk);
     magnify(walk);
+    enlarge(walk);
 }
 
 } // namespace tour

@@ -246,9 +246,9 @@ private:
         Qt::Key_Escape, Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Delete, Qt::Key_Tab, Qt::Key_Z};
     static constexpr std::array<const char*, 5> m_modeButtons{
         "pushButton_9", "pushButton_8", "pushButton_7", "pushButton_6", "pushButton_5"};
-    static constexpr std::array<const char*, 10> m_entries{
-        "撤销",           "重做",        "删除所选工具", "粘贴",       "复制测量",
-        "应用上次的测量", "详细数据...", "放大镜",       "定格放大镜", "热点和冷点..."};
+    static constexpr std::array<const char*, 11> m_entries{
+        "撤销",        "重做",   "删除所选工具", "粘贴",          "复制测量", "应用上次的测量",
+        "详细数据...", "放大镜", "定格放大镜",   "热点和冷点...", "大图"};
 
     std::mt19937 m_random;
     QVector<ToolsState> m_states;
