@@ -13,14 +13,11 @@ using analysis::Reading;
 namespace tools {
 namespace {
 
-constexpr int usualCount = 5;
-constexpr double usualDistance = 10.0; ///< pixels
-
 struct Wanted
 {
     Measuring measuring;
-    int count = usualCount;
-    double distance = usualDistance;
+    int count = analysis::usualExtremes;
+    double distance = analysis::usualDistance;
 };
 
 void addOptions(CommandLine& line)
@@ -28,13 +25,13 @@ void addOptions(CommandLine& line)
     addMeasuringOptions(line, QStringLiteral("Where to look; the whole picture by default. See "
                                              "thermaphoto measure --help."));
     addRowFormat(line);
-    line.add(
-        {QStringLiteral("count")},
-        QStringLiteral("So many hot and so many cold ones at most. Default: %1.").arg(usualCount),
-        QStringLiteral("N"));
+    line.add({QStringLiteral("count")},
+             QStringLiteral("So many hot and so many cold ones at most. Default: %1.")
+                 .arg(analysis::usualExtremes),
+             QStringLiteral("N"));
     line.add({QStringLiteral("distance")},
              QStringLiteral("Further than so many pixels from each other. Default: %1.")
-                 .arg(usualDistance),
+                 .arg(analysis::usualDistance),
              QStringLiteral("PIXELS"));
 }
 
@@ -43,8 +40,8 @@ Wanted readWanted(CommandLine& line)
     constexpr int most = 10000;
     Wanted wanted;
     wanted.measuring = readMeasuring(line);
-    wanted.count = line.number(QStringLiteral("count"), 1, most).value_or(usualCount);
-    wanted.distance = line.real(QStringLiteral("distance"), 0.0).value_or(usualDistance);
+    wanted.count = line.number(QStringLiteral("count"), 1, most).value_or(analysis::usualExtremes);
+    wanted.distance = line.real(QStringLiteral("distance"), 0.0).value_or(analysis::usualDistance);
     return wanted;
 }
 

@@ -18,18 +18,7 @@ double medianOf(std::vector<double>& values)
     return (*std::max_element(values.begin(), middle) + *middle) / 2.0;
 }
 
-/// In two passes: what a long sum loses is small beside the sum, not beside the differences.
-double meanOf(const std::vector<double>& values)
-{
-    const auto count = double(values.size());
-    const double nearly = std::accumulate(values.begin(), values.end(), 0.0) / count;
-    double rest = 0.0;
-    for (const double value : values)
-        rest += value - nearly;
-    return nearly + rest / count;
-}
-
-/// From the mean, because sums of squares would cancel each other out.
+/// In a pass of its own, because sums of squares would cancel each other out.
 double deviationOf(const std::vector<double>& values, double mean)
 {
     double squares = 0.0;
@@ -73,7 +62,7 @@ std::optional<Details> detailsOf(const Area& area)
         return std::nullopt;
     details.pixels = int(values.size());
     details.withoutReading = int(area.readings.size()) - details.pixels;
-    details.mean = meanOf(values);
+    details.mean = std::accumulate(values.begin(), values.end(), 0.0) / details.pixels;
     details.deviation = deviationOf(values, details.mean);
     details.median = medianOf(values);
     return details;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Opening a photograph, measuring tools, listing a disk, and how far from what the work costs
 // alone.
-#include "analysis/photograph/correction.h"
 #include "analysis/photograph/tool_statistics.h"
 #include "analysis/windows/analysis_widget.h"
 #include "analysis/windows/photo_window.h"
@@ -186,19 +185,6 @@ void toolTable(benchmark::State& state)
         window.updat_Tool_Temp();
 }
 
-/// Every pixel has a temperature of its own, in no order.
-void pictureCorrected(benchmark::State& state)
-{
-    std::mt19937 random(7);
-    std::uniform_real_distribution<float> anyTemperature(-40, 1000);
-    const auto stored = std::make_unique<analysis::Temperatures>();
-    for (float& temperature : *stored)
-        temperature = anyTemperature(random);
-    for ([[maybe_unused]] auto _ : state)
-        benchmark::DoNotOptimize(analysis::correctedTemperatures(
-            *stored, analysis::Unit::Fahrenheit, {0.95, 0.6, 20.0}));
-}
-
 /// A disk of so many photographs: hard links to a hundred files, so that their content fits.
 QString diskOf(int photographs)
 {
@@ -340,7 +326,6 @@ BENCHMARK(doubleClickToPicture)->MeasureProcessCPUTime()->Unit(benchmark::kMicro
 BENCHMARK(readAndMeasured)->Unit(benchmark::kMicrosecond);
 BENCHMARK(readAndMeasuredInNumpy)->Iterations(1)->UseManualTime()->Unit(benchmark::kMicrosecond);
 BENCHMARK(toolTable)->ArgName("largest")->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
-BENCHMARK(pictureCorrected)->Unit(benchmark::kMicrosecond);
 BENCHMARK(diskListed)->Arg(1000)->Arg(10000)->UseRealTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(diskScrolled)->Arg(1000)->Arg(10000)->Iterations(1)->Unit(benchmark::kMillisecond);
 BENCHMARK(filesReadAlone)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
