@@ -3,6 +3,7 @@
 
 #include "analysis/photograph/photograph.h"
 #include "analysis/photograph/units.h"
+#include "overlay/tool_rules.h"
 #include "overlay/tools.h"
 
 #include <cmath>
@@ -40,10 +41,17 @@ Reading readingAt(int x, int y, const Temperatures& temperatures, Conversion con
 /// shows. None for a tool that is not placed, has no extent, or lies outside the picture.
 Area areaOf(const overlay::PointTool& point, const Temperatures& temperatures,
             Conversion conversion);
-Area areaOf(const overlay::LineTool& line, const Temperatures& temperatures, Conversion conversion);
-Area areaOf(const overlay::RectTool& rect, const Temperatures& temperatures, Conversion conversion);
-Area areaOf(const overlay::CircleTool& circle, const Temperatures& temperatures,
-            Conversion conversion);
+template<typename Tool>
+Area areaOf(const Tool& tool, const Temperatures& temperatures, Conversion conversion)
+{
+    Area area{tool.name, {}};
+    if (!overlay::isPlaced(tool))
+        return area;
+    overlay::forEachPixel(tool, [&](int x, int y) {
+        area.readings.push_back(readingAt(x, y, temperatures, conversion));
+    });
+    return area;
+}
 
 /// One for each row of the tool table, in its order: unplaced tools have none.
 std::vector<Area> areasOf(const overlay::Tools& tools, const Temperatures& temperatures,

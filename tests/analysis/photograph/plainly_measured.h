@@ -56,10 +56,10 @@ analysis::AreaStatistics plainly(const Tool& tool, const analysis::Temperatures&
     analysis::AreaStatistics result{std::is_same_v<Tool, overlay::CircleTool> ? -50.0F : -10.0F,
                                     2000.0F, 0.0F, 0};
     float sum = 0.0F;
-    const Box box = boxOf(tool);
+    const Box box = testing::boxOf(tool);
     for (int x = box.x1; x <= box.x2; ++x) {
         for (int y = box.y1; y <= box.y2; ++y) {
-            if (x < 0 || x > 239 || y < 0 || y > 319 || !covers(tool, x, y))
+            if (x < 0 || x > 239 || y < 0 || y > 319 || !testing::covers(tool, x, y))
                 continue;
             const float t = temperatures[std::size_t(x * 320 + y)];
             if (t > result.high)

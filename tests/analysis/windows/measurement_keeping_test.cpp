@@ -40,7 +40,7 @@ class MeasurementKeepingTest : public testing::BrowserTest
     QAction* choice() const
     {
         for (QAction* action : opened()->commands().findChildren<QAction*>()) {
-            if (action->isCheckable())
+            if (action->text() == QStringLiteral("随照片保存测量"))
                 return action;
         }
         return nullptr;
