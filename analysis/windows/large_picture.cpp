@@ -63,6 +63,7 @@ LargePicture::LargePicture(ViewedPhotograph& photograph)
     m_view->setToolTip(tr("Ctrl+滚轮或 + 和 - 缩放，0 显示全图，拖动或方向键移动，Ctrl+C 复制"));
     m_readOut->setObjectName(QStringLiteral("readOut"));
     m_zoom->setObjectName(QStringLiteral("zoom"));
+    m_zoom->setAccessibleName(tr("放大倍率"));
     auto* below = new QHBoxLayout;
     below->addWidget(m_readOut, 1);
     below->addWidget(m_zoom);
@@ -99,7 +100,8 @@ void LargePicture::addTo(ToolCommands& commands, const Ui::Analysis_Widget& form
 
 void LargePicture::refresh()
 {
-    m_view->show({viewed().colours(), viewed().tools(), viewed().photograph()});
+    const overlay::Spots& spots = viewed().photograph();
+    m_view->show({viewed().colours(), viewed().tools(), spots});
     m_set->refresh();
     showReadOut();
 }

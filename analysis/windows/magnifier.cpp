@@ -27,6 +27,7 @@ Magnifier::Magnifier(ViewedPhotograph& photograph)
     m_pixels->setToolTip(tr("滚轮或 + 和 - 缩放，定格后用方向键移动，Ctrl+C 复制数值"));
     m_readOut->setObjectName(QStringLiteral("readOut"));
     m_size->setObjectName(QStringLiteral("size"));
+    m_size->setAccessibleName(tr("像素数"));
     m_frozen->setObjectName(QStringLiteral("frozen"));
     m_frozen->setFocusPolicy(Qt::NoFocus); // the keys stay those of the pixels
     auto* below = new QHBoxLayout;
@@ -70,14 +71,18 @@ void Magnifier::addTo(ToolCommands& commands)
                                   {QKeySequence(Qt::Key_F8)},
                                   ToolCommands::Focus::Window,
                                   ToolCommands::Menus::Picture});
-    open->setObjectName(QStringLiteral("magnifier"));
+    open->setCheckable(true);
+    connect(open, &QAction::triggered, open, [&commands, open] {
+        if (const Magnifier* magnifier = openOne(commands))
+            connect(magnifier, &QObject::destroyed, open, [open] { open->setChecked(false); });
+    });
     commands.add({ToolCommands::Group::Looking,
                   tr("定格放大镜"),
                   [&commands] {
                       if (const Magnifier* magnifier = openOne(commands))
                           magnifier->m_frozen->toggle();
                   },
-                  {QKeySequence(Qt::SHIFT | Qt::Key_F8)},
+                  {QKeySequence::fromString(QStringLiteral("Shift+F8"))},
                   ToolCommands::Focus::Window,
                   ToolCommands::Menus::Picture,
                   [&commands] {

@@ -964,6 +964,10 @@
         <source>Ctrl+滚轮或 + 和 - 缩放，0 显示全图，拖动或方向键移动，Ctrl+C 复制</source>
         <translation>Zoom by Ctrl+wheel or + and −, 0 shows everything, drag or use the arrow keys to move, copy by Ctrl+C</translation>
     </message>
+    <message>
+        <source>放大倍率</source>
+        <translation>Zoom</translation>
+    </message>
 </context>
 <context>
     <name>analysis::Magnifier</name>
@@ -982,6 +986,10 @@
     <message>
         <source>定格放大镜</source>
         <translation>Freeze the magnifier</translation>
+    </message>
+    <message>
+        <source>像素数</source>
+        <translation>Pixels</translation>
     </message>
 </context>
 <context>

@@ -960,6 +960,10 @@
         <source>Ctrl+滚轮或 + 和 - 缩放，0 显示全图，拖动或方向键移动，Ctrl+C 复制</source>
         <translation>Ctrl+휠이나 + 와 − 로 확대·축소, 0 은 전체 보기, 끌거나 방향키로 이동, Ctrl+C 로 복사</translation>
     </message>
+    <message>
+        <source>放大倍率</source>
+        <translation>배율</translation>
+    </message>
 </context>
 <context>
     <name>analysis::Magnifier</name>
@@ -978,6 +982,10 @@
     <message>
         <source>定格放大镜</source>
         <translation>돋보기 고정</translation>
+    </message>
+    <message>
+        <source>像素数</source>
+        <translation>픽셀 수</translation>
     </message>
 </context>
 <context>

@@ -968,6 +968,10 @@
         <source>Ctrl+滚轮或 + 和 - 缩放，0 显示全图，拖动或方向键移动，Ctrl+C 复制</source>
         <translation>Масштаб: Ctrl+колесо или + и −; 0 — весь снимок; перемещение мышью или стрелками; Ctrl+C копирует</translation>
     </message>
+    <message>
+        <source>放大倍率</source>
+        <translation>Масштаб</translation>
+    </message>
 </context>
 <context>
     <name>analysis::Magnifier</name>
@@ -986,6 +990,10 @@
     <message>
         <source>定格放大镜</source>
         <translation>Зафиксировать лупу</translation>
+    </message>
+    <message>
+        <source>像素数</source>
+        <translation>Пикселей</translation>
     </message>
 </context>
 <context>

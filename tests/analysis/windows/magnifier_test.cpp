@@ -40,6 +40,31 @@ private slots:
         QVERIFY(isFrozen());
     }
 
+    /// However it was closed.
+    void theMenuTellsWhetherItIsOpen()
+    {
+        beginOn(testing::slope());
+        const auto isTicked = [this] {
+            QMenu* menu = rightClick(label(), at(50, 60));
+            const bool ticked = entryOf(*menu, "放大镜")->isChecked();
+            menu->close();
+            QTest::mouseRelease(&label(), Qt::RightButton, {}, at(50, 60));
+            return ticked;
+        };
+        QVERIFY(!isTicked());
+        for (const Qt::Key closing : {Qt::Key_Escape, Qt::Key_F8}) {
+            press(Qt::Key_F8);
+            QVERIFY(isTicked());
+            pressIn(closing);
+            QTRY_VERIFY(!magnifier());
+            QVERIFY(!isTicked());
+        }
+        press(Qt::Key_F8);
+        press(Qt::Key_F8);
+        QTRY_VERIFY(!magnifier());
+        QVERIFY(!isTicked());
+    }
+
     void beginsWhereTheMouseIs()
     {
         beginOn(testing::slope());
