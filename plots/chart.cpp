@@ -4,12 +4,14 @@
 #include "plots/plot_scale.h"
 
 #include <QPen>
+#include <qwt_graphic.h>
 #include <qwt_legend.h>
 #include <qwt_plot_canvas.h>
 #include <qwt_plot_layout.h>
 #include <qwt_scale_draw.h>
 #include <qwt_scale_engine.h>
 #include <qwt_symbol.h>
+#include <qwt_text_label.h>
 
 #include <algorithm>
 #include <cmath>
@@ -32,9 +34,11 @@ QPalette paper()
 }
 
 /// Names come from files of strangers: they are no mark-up.
-QwtText plain(const QString& text)
+QwtText plainText(const QString& text)
 {
-    return {text, QwtText::PlainText};
+    QwtText plain(text, QwtText::PlainText);
+    plain.setRenderFlags(int(Qt::AlignCenter) | int(Qt::TextDontClip)); // descenders need room
+    return plain;
 }
 
 QString withUnit(const QString& number, const Axis& axis)
@@ -42,14 +46,25 @@ QString withUnit(const QString& number, const Axis& axis)
     return axis.unit.isEmpty() ? number : number + QLatin1Char(' ') + axis.unit;
 }
 
+/// In the legend, an outline has the colour of its line.
+class Histogram : public QwtPlotHistogram
+{
+public:
+    QwtGraphic legendIcon(int index, const QSizeF& size) const override
+    {
+        return style() == Outline ? defaultIcon(pen().color(), size)
+                                  : QwtPlotHistogram::legendIcon(index, size);
+    }
+};
+
 /// Makes as many items as there are values; those that stay keep their place in the legend.
-template<typename Item>
+template<typename Made, typename Item>
 void setCount(std::vector<std::unique_ptr<Item>>& items, std::size_t count, QwtPlot* plot)
 {
     while (items.size() > count)
         items.pop_back();
     while (items.size() < count) {
-        items.push_back(std::make_unique<Item>());
+        items.push_back(std::make_unique<Made>());
         items.back()->setRenderHint(QwtPlotItem::RenderAntialiased);
         items.back()->attach(plot);
     }
@@ -64,6 +79,7 @@ Chart::Chart(QWidget* parent) : QwtPlot(parent), m_limits(*this)
     setPalette(paper());
     setAutoFillBackground(true);
     setContentsMargins(6, 6, 12, 6);
+    titleLabel()->setMargin(fontMetrics().descent()); // or it cuts underscores off
     auto* canvas = new QwtPlotCanvas;
     canvas->setObjectName(QStringLiteral("canvas"));
     canvas->setFrameStyle(int(QFrame::Box) | int(QFrame::Plain));
@@ -100,6 +116,7 @@ void Chart::setPlot(const Plot& plot)
         if (m_plot.y.isLogarithmic) {
             setAxisScaleEngine(yLeft, new QwtLogScaleEngine);
             axisScaleEngine(yLeft)->setAttribute(QwtScaleEngine::Floating);
+            axisScaleEngine(yLeft)->setMargins(0, 0.1); // decades
         } else
             setAxisScaleEngine(yLeft, new QwtLinearScaleEngine);
         m_range.reset(); // 0 can be within one and not within the other
@@ -113,8 +130,8 @@ void Chart::setPlot(const Plot& plot)
 
 void Chart::takeSeries()
 {
-    setCount(m_curves, m_plot.curves.size(), this);
-    setCount(m_bars, m_plot.bars.size(), this);
+    setCount<QwtPlotCurve>(m_curves, m_plot.curves.size(), this);
+    setCount<Histogram>(m_bars, m_plot.bars.size(), this);
     m_drawn.assign(m_curves.size(), {});
     for (std::size_t number = 0; number < m_curves.size(); ++number)
         takeCurve(number);
@@ -133,7 +150,7 @@ void Chart::takeCurve(std::size_t number)
         }
     }
     QwtPlotCurve& item = *m_curves[number];
-    item.setTitle(plain(curve.name));
+    item.setTitle(plainText(curve.name));
     item.setPen(curve.colour, 2, curve.isDashed ? Qt::DashLine : Qt::SolidLine);
     item.setLegendAttribute(QwtPlotCurve::LegendShowLine);
     item.setLegendIconSize({28, 10}); // enough for dashes
@@ -148,7 +165,7 @@ void Chart::takeBars(std::size_t number)
     QVector<QwtIntervalSample> samples;
     for (const Bar& bar : bars.bars)
         samples.append({std::max(bar.height, base), bar.from, bar.to});
-    item.setTitle(plain(bars.name));
+    item.setTitle(plainText(bars.name));
     item.setBaseline(base);
     item.setStyle(bars.isOutline ? QwtPlotHistogram::Outline : QwtPlotHistogram::Columns);
     item.setPen(bars.isOutline ? QPen(bars.colour, 2) : QPen(Qt::NoPen));
@@ -164,13 +181,13 @@ bool Chart::isDrawn(const QPointF& point) const
 
 void Chart::takeAxes()
 {
-    QwtText title = plain(m_plot.title);
+    QwtText title = plainText(m_plot.title);
     QFont bold = font();
     bold.setBold(true);
     title.setFont(bold);
     setTitle(title);
-    setAxisTitle(xBottom, plain(captionOf(m_plot.x)));
-    setAxisTitle(yLeft, plain(captionOf(m_plot.y)));
+    setAxisTitle(xBottom, plainText(captionOf(m_plot.x)));
+    setAxisTitle(yLeft, plainText(captionOf(m_plot.y)));
 }
 
 /// A single series needs none: the title names it.
@@ -310,7 +327,7 @@ void Chart::showCursor()
         return;
     const QPointF value = valueAt(*m_cursor);
     m_cursorMark.setValue(value);
-    QwtText label = plain(cursorText());
+    QwtText label = plainText(cursorText());
     label.setColor(Qt::black);
     label.setBackgroundBrush(QColor(255, 255, 255, 220));
     m_cursorMark.setLabel(label);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "plots/plot.h"
 
+#include <algorithm>
 #include <array>
 
 namespace plots {
@@ -33,6 +34,16 @@ QString tabLine(const QStringList& row)
 }
 
 } // namespace
+
+Limits moved(const Limits& limits, Limit which, double value)
+{
+    Limits other = limits;
+    if (which == Limit::Lower)
+        other.lower = std::min(value, limits.upper);
+    else
+        other.upper = std::max(value, limits.lower);
+    return other;
+}
 
 QColor colourOf(int series)
 {

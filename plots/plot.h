@@ -75,6 +75,27 @@ struct Place
     }
 };
 
+/// Two values on the x axis, and what lies between them.
+struct Limits
+{
+    double lower;
+    double upper; ///< never below `lower`
+    double step;  ///< what a key moves one of them by
+    friend bool operator==(const Limits& a, const Limits& b)
+    {
+        return a.lower == b.lower && a.upper == b.upper && a.step == b.step;
+    }
+};
+
+enum class Limit
+{
+    Lower,
+    Upper
+};
+
+/// The limits with one of them moved to a value; it stops at the other one.
+Limits moved(const Limits& limits, Limit which, double value);
+
 /// Light colours that differ, also to colour-blind eyes and on paper; they come round again.
 QColor colourOf(int series);
 

@@ -13,26 +13,16 @@ namespace {
 
 constexpr double reach = 6;             ///< pixels from a line
 constexpr QRgb lineColour = 0xff7f0000; // no series has it
-constexpr QRgb tintColour = 0xfffff2cc;
+constexpr QRgb tintColour = 0x50ffc000; // bars show through
 
 } // namespace
-
-Limits moved(const Limits& limits, Limit which, double value)
-{
-    Limits other = limits;
-    if (which == Limit::Lower)
-        other.lower = std::min(value, limits.upper);
-    else
-        other.upper = std::max(value, limits.lower);
-    return other;
-}
 
 LimitLines::LimitLines(QwtPlot& plot) : m_plot(plot)
 {
     m_tint.setOrientation(Qt::Vertical);
     m_tint.setPen(QPen(Qt::NoPen));
-    m_tint.setBrush(QColor::fromRgb(tintColour));
-    m_tint.setZ(1);
+    m_tint.setBrush(QColor::fromRgba(tintColour));
+    m_tint.setZ(25); // series have 20
     m_tint.attach(&plot);
     for (QwtPlotMarker& line : m_lines) {
         line.setLineStyle(QwtPlotMarker::VLine);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "plots/plot.h"
+
 #include <qwt_plot_marker.h>
 #include <qwt_plot_zoneitem.h>
 
@@ -10,27 +12,6 @@
 class QwtPlot;
 
 namespace plots {
-
-/// Two values on the x axis, and what lies between them.
-struct Limits
-{
-    double lower;
-    double upper; ///< never below `lower`
-    double step;  ///< what a key moves one of them by
-    friend bool operator==(const Limits& a, const Limits& b)
-    {
-        return a.lower == b.lower && a.upper == b.upper && a.step == b.step;
-    }
-};
-
-enum class Limit
-{
-    Lower,
-    Upper
-};
-
-/// The limits with one of them moved to a value; it stops at the other one.
-Limits moved(const Limits& limits, Limit which, double value);
 
 /// Draws the limits, as two lines and a tint between them.
 class LimitLines

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "plots/plot.h"
-#include "plots/plot_limits.h"
 
 #include <QRectF>
 #include <QWidget>

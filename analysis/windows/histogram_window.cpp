@@ -149,6 +149,7 @@ void HistogramWindow::takeUnit()
     const Unit unit = viewed().unit().unit;
     for (TemperatureBox* box : {m_from, m_to, m_lower, m_upper})
         box->setUnit(unit);
+    m_width->setSuffix(QLatin1Char(' ') + signOf(unit));
     if (unit == m_unit)
         return;
     const QSignalBlocker quiet(m_width);

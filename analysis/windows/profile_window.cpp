@@ -79,7 +79,7 @@ void ProfileWindow::showMark(const std::optional<plots::Place>& place)
         const auto curve = std::size_t(place->series);
         const ProfilePoint& pixel = m_shown.pixels[curve][std::size_t(place->point)];
         marks.push_back(
-            {QRect(pixel.x, pixel.y, 1, 1), m_shown.plot.curves[curve].colour,
+            {QRect(pixel.x, pixel.y, 1, 1), Qt::white,
              oneDecimal(pixel.value) + QLatin1Char(' ') + signOf(viewed().unit().unit)});
     }
     viewed().mark(*this, marks);

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <qwt_legend.h>
 #include <qwt_scale_draw.h>
+#include <qwt_text_label.h>
 
 #include <limits>
 #include <memory>
@@ -63,6 +64,21 @@ private slots:
         QCOMPARE(chart->title().text(), QStringLiteral("IMG001.bmp"));
         QCOMPARE(chart->range(), QRectF(QPointF(0, 20), QPointF(10, 40)));
         QCOMPARE(chart->axisScaleDraw(QwtPlot::yLeft)->label(25).text(), QStringLiteral("25"));
+    }
+
+    /// Names of photographs have underscores.
+    void aTitleIsWhole()
+    {
+        Plot plot = testing::twoCurves();
+        plot.title = QStringLiteral("____");
+        show(plot);
+        const QImage title = chart->titleLabel()->grab().toImage();
+        int dark = 0;
+        for (int pixel = 0; pixel < title.width() * title.height(); ++pixel) {
+            const QColor colour = title.pixelColor(pixel % title.width(), pixel / title.width());
+            dark += colour.lightness() < 128 ? 1 : 0;
+        }
+        QVERIFY(dark > 20);
     }
 
     void severalCurvesHaveALegendOneHasNone()
@@ -204,7 +220,18 @@ private slots:
         show(plot);
         QVERIFY(shows({25, 50}, colourOf(0)));
         QVERIFY(shows({25, 500}, colourOf(1)));
+        // Both have their colour in the legend.
         QVERIFY(chart->legend());
+        const QImage legend = chart->legend()->grab().toImage();
+        int filled = 0;
+        int outlined = 0;
+        for (int pixel = 0; pixel < legend.width() * legend.height(); ++pixel) {
+            const QColor colour = legend.pixelColor(pixel % legend.width(), pixel / legend.width());
+            filled += colour == colourOf(0) ? 1 : 0;
+            outlined += colour == colourOf(1) ? 1 : 0;
+        }
+        QVERIFY(filled > 20);
+        QVERIFY(outlined > 20);
     }
 
     void aRangeStaysWhileTheNumbersChange()

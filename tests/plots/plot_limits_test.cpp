@@ -13,15 +13,6 @@ class PlotLimitsTest : public QObject
     Q_OBJECT
 
 private slots:
-    void aMovedLimitStopsAtTheOther()
-    {
-        const Limits limits{20, 30, 1};
-        QVERIFY((plots::moved(limits, Limit::Lower, 25) == Limits{25, 30, 1}));
-        QVERIFY((plots::moved(limits, Limit::Lower, 35) == Limits{30, 30, 1}));
-        QVERIFY((plots::moved(limits, Limit::Upper, 25) == Limits{20, 25, 1}));
-        QVERIFY((plots::moved(limits, Limit::Upper, 15) == Limits{20, 20, 1}));
-    }
-
     /// 6 pixels to each side; the nearer of two; the side where both lie upon each other.
     void aLineIsWithinReachOfItsPlaceOnTheCanvas()
     {

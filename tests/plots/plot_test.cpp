@@ -45,6 +45,15 @@ private slots:
         QCOMPARE(numberText(36.55, 2), QStringLiteral("36.55"));
     }
 
+    void aMovedLimitStopsAtTheOther()
+    {
+        const Limits limits{20, 30, 1};
+        QVERIFY((plots::moved(limits, Limit::Lower, 25) == Limits{25, 30, 1}));
+        QVERIFY((plots::moved(limits, Limit::Lower, 35) == Limits{30, 30, 1}));
+        QVERIFY((plots::moved(limits, Limit::Upper, 25) == Limits{20, 25, 1}));
+        QVERIFY((plots::moved(limits, Limit::Upper, 15) == Limits{20, 20, 1}));
+    }
+
     void sevenSeriesHaveColoursOfTheirOwnThatPaperShows()
     {
         std::set<QRgb> colours;
