@@ -79,7 +79,6 @@ Chart::Chart(QWidget* parent) : QwtPlot(parent), m_limits(*this)
     setPalette(paper());
     setAutoFillBackground(true);
     setContentsMargins(6, 6, 12, 6);
-    titleLabel()->setMargin(fontMetrics().descent()); // or it cuts underscores off
     auto* canvas = new QwtPlotCanvas;
     canvas->setObjectName(QStringLiteral("canvas"));
     canvas->setFrameStyle(int(QFrame::Box) | int(QFrame::Plain));
@@ -182,9 +181,10 @@ bool Chart::isDrawn(const QPointF& point) const
 void Chart::takeAxes()
 {
     QwtText title = plainText(m_plot.title);
-    QFont bold = font();
+    QFont bold = axisFont(xBottom);
     bold.setBold(true);
     title.setFont(bold);
+    titleLabel()->setMargin(QFontMetrics(bold).descent() + 1); // or it cuts underscores off
     setTitle(title);
     setAxisTitle(xBottom, plainText(captionOf(m_plot.x)));
     setAxisTitle(yLeft, plainText(captionOf(m_plot.y)));

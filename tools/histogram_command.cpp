@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "analysis/export/histogram_plot.h"
 #include "analysis/photograph/details.h"
-#include "analysis/photograph/histogram.h"
 #include "tools/commands.h"
 #include "tools/measuring_options.h"
 #include "tools/photograph_run.h"
@@ -10,7 +10,6 @@ using analysis::Area;
 using analysis::Bins;
 using analysis::binsByCount;
 using analysis::binsByWidth;
-using analysis::Histogram;
 using analysis::PhotographReader;
 
 namespace tools {
@@ -80,38 +79,13 @@ Wanted readWanted(CommandLine& line)
     return wanted;
 }
 
-/// A line for each bin; where a range was asked for, one without a beginning for what is below it
-/// and one without an end for what is above.
-std::vector<Row> rowsOf(const Area& area, const Bins& bins, bool isRange)
-{
-    const Histogram histogram = histogramOf(area, bins);
-    const int pixels = int(area.readings.size()) - histogram.withoutReading;
-    std::vector<Row> rows;
-    const auto add = [&](const QString& from, const QString& to, int count) {
-        const double share = pixels > 0 ? double(count) / pixels : 0.0;
-        rows.push_back(
-            {area.name, from, to, QString::number(count), QString::number(share, 'f', 6)});
-    };
-    const auto edge = [&bins](int bin) {
-        constexpr int digits = 10; // what is beyond is the rounding of the edges
-        return QString::number(bins.edge(bin), 'g', digits);
-    };
-    if (isRange)
-        add({}, edge(0), histogram.below);
-    for (int bin = 0; bin < bins.count; ++bin)
-        add(edge(bin), edge(bin + 1), histogram.counts[std::size_t(bin)]);
-    if (isRange)
-        add(edge(bins.count), {}, histogram.above);
-    return rows;
-}
-
 Result counted(const Entry& entry, const MeasuredPhotograph& photograph, const Wanted& wanted,
                const RowPrinter& printer)
 {
     std::vector<Row> rows;
     for (const Area& area : photograph.areas(wanted.measuring)) {
         if (const std::optional<Bins> bins = wanted.binsOf(area)) {
-            const std::vector<Row> more = rowsOf(area, *bins, wanted.range.has_value());
+            const std::vector<Row> more = histogramRows(area, *bins, wanted.range.has_value());
             rows.insert(rows.end(), more.begin(), more.end());
         } else if (analysis::detailsOf(area)) {
             return {{}, QStringLiteral("--width makes more than %1 bins").arg(Bins::most)};

@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "analysis/photograph/profile.h"
+#include "analysis/export/profile_plot.h"
 #include "tools/commands.h"
 #include "tools/measuring_options.h"
 #include "tools/photograph_run.h"
 #include "tools/rows.h"
 
 using analysis::PhotographReader;
-using analysis::ProfilePoint;
-using analysis::threeDecimals;
 
 namespace tools {
 namespace {
@@ -16,10 +14,9 @@ std::vector<Row> rowsOf(const MeasuredPhotograph& photograph, const overlay::Too
 {
     std::vector<Row> rows;
     for (const overlay::LineTool& line : tools.lineList) {
-        for (const ProfilePoint& point :
-             profileOf(line, photograph.temperatures, photograph.shown.conversion))
-            rows.push_back({line.name, threeDecimals(point.distance), QString::number(point.x),
-                            QString::number(point.y), threeDecimals(point.value)});
+        const std::vector<Row> more = analysis::profileRows(
+            line.name, profileOf(line, photograph.temperatures, photograph.shown.conversion));
+        rows.insert(rows.end(), more.begin(), more.end());
     }
     return rows;
 }

@@ -21,25 +21,16 @@ plots::Curve curveOf(const QString& name, int number, const Points& points)
     return curve;
 }
 
-void addRows(plots::Table& table, const QString& name, const PlottedReadings& readings,
-             const Points& stored, const Points& corrected)
-{
-    for (std::size_t number = 0; number < stored.size(); ++number) {
-        const ProfilePoint& point = stored[number];
-        QStringList row{readings.file,
-                        letterOf(readings.unit.unit),
-                        name,
-                        plots::numberText(point.distance, 3),
-                        QString::number(point.x),
-                        QString::number(point.y),
-                        plots::numberText(point.value, 3)};
-        if (!corrected.empty())
-            row.append(plots::numberText(corrected[number].value, 3));
-        table.rows.push_back(row);
-    }
-}
-
 } // namespace
+
+std::vector<QStringList> profileRows(const QString& name, const Points& points)
+{
+    std::vector<QStringList> rows;
+    for (const ProfilePoint& point : points)
+        rows.push_back({name, threeDecimals(point.distance), QString::number(point.x),
+                        QString::number(point.y), threeDecimals(point.value)});
+    return rows;
+}
 
 ProfilePlot profilePlot(const QVector<overlay::LineTool>& lines, const std::vector<int>& plotted,
                         const PlottedReadings& readings)
@@ -69,7 +60,13 @@ ProfilePlot profilePlot(const QVector<overlay::LineTool>& lines, const std::vect
             plot.curves.back().isDashed = true;
             profile.pixels.push_back(corrected);
         }
-        addRows(plot.table, line.name, readings, stored, corrected);
+        const std::vector<QStringList> rows = profileRows(line.name, stored);
+        for (std::size_t row = 0; row < rows.size(); ++row) {
+            plot.table.rows.push_back(QStringList{readings.file, letterOf(readings.unit.unit)} +
+                                      rows[row]);
+            if (readings.corrected)
+                plot.table.rows.back().append(threeDecimals(corrected[row].value));
+        }
     }
     return profile;
 }

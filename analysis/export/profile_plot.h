@@ -20,6 +20,9 @@ struct PlottedReadings
     QString correctionName = {};
 };
 
+/// The columns name, distance, x, y and temperature, a row for each pixel.
+std::vector<QStringList> profileRows(const QString& name, const std::vector<ProfilePoint>& points);
+
 /// Temperatures over the distance along lines.
 struct ProfilePlot
 {
