@@ -59,13 +59,13 @@ std::vector<float> shownRows(const Photograph& photograph, Conversion conversion
 }
 
 QByteArray temperatureFile(const Photograph& photograph, const ShownUnit& unit, ExportFormat format,
-                           const CsvOptions& csv)
+                           const CsvOptions& csv, const std::optional<Correction>& correction)
 {
     const std::vector<float> values = shownRows(photograph, unit.conversion);
     if (format == ExportFormat::Npy)
         return npyOf(values);
     if (format == ExportFormat::Tiff)
-        return tiffOf(values, unit, photograph.parameters);
+        return tiffOf(values, unit, photograph.parameters, correction);
     return csvOf(values, unit, csv);
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "analysis/export/csv.h"
+#include "analysis/photograph/correction.h"
 #include "analysis/photograph/photograph_reader.h"
 #include "files/whole_file.h"
 
@@ -48,9 +49,11 @@ struct ExportOptions
 /// precision number that the cursor read-out of the analysis window rounds to one decimal.
 std::vector<float> shownRows(const Photograph& photograph, Conversion conversion);
 
-/// The bytes of a file with the temperatures as seen; `format` is not Png.
+/// The bytes of a file with the temperatures as seen; `format` is not Png. `correction` is what
+/// made the photograph's temperatures, if that was not the imager alone.
 QByteArray temperatureFile(const Photograph& photograph, const ShownUnit& unit, ExportFormat format,
-                           const CsvOptions& csv = {});
+                           const CsvOptions& csv = {},
+                           const std::optional<Correction>& correction = {});
 
 /// Reads a photograph and writes one file that `make` makes of it, complete or absent; both are
 /// left undone where the target is refused. The target's folder must exist. `modelIndex` is as

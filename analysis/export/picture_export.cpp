@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "analysis/export/picture_export.h"
 
+#include "analysis/photograph/area.h"
+#include "analysis/photograph/details.h"
 #include "analysis/photograph/false_colour.h"
+#include "analysis/photograph/looking_texts.h"
 #include "analysis/report/report_font.h"
 #include "overlay/colour_bar_scale.h"
 #include "overlay/tool_painting.h"
@@ -54,6 +57,7 @@ public:
           m_font(reportFont(textSize * m_scale, QFont::Normal, shown.language)),
           m_boldFont(reportFont(textSize * m_scale, QFont::Bold, shown.language)),
           m_hasColourBar(options.hasColourBar),
+          m_hasIsotherm(options.hasColourBar && !shown.isothermName.isEmpty()),
           m_hasValues(options.hasValues && !shown.measured.empty())
     {
     }
@@ -63,9 +67,16 @@ public:
         QSize size = m_picture;
         if (m_hasColourBar)
             size.rwidth() += barWidth();
-        if (m_hasValues)
-            size = {std::max(size.width(), columnEdges().back() + at(gap)),
-                    size.height() + at(rowHeight) * (int(m_shown.measured.size()) + 2) + at(gap)};
+        int rows = m_hasIsotherm ? 1 : 0;
+        if (m_hasIsotherm)
+            size.setWidth(std::max(size.width(), isothermWidth()));
+        if (m_hasValues) {
+            size.setWidth(std::max(size.width(), valuesWidth()));
+            for (const auto* table : {&m_shown.measured, &m_shown.corrected})
+                rows += table->empty() ? 0 : int(table->size()) + 2;
+        }
+        if (rows > 0)
+            size.rheight() += at(rowHeight) * rows + at(gap);
         return size;
     }
 
@@ -78,8 +89,13 @@ public:
         painter.drawImage(0, 0, pictureWithTools(m_shown, geometryAt(m_scale)));
         if (m_hasColourBar)
             paintColourBar(painter);
+        int top = m_picture.height() + at(gap) / 2;
+        if (m_hasIsotherm)
+            paintIsotherm(painter, top);
         if (m_hasValues)
-            paintValues(painter);
+            paintValues(painter, top, headingOf(m_shown), m_shown.measured);
+        if (m_hasValues && !m_shown.corrected.empty())
+            paintValues(painter, top, m_shown.correctionName, m_shown.corrected);
         return sheet;
     }
 
@@ -131,23 +147,51 @@ private:
                                       tip + QPoint(at(markerWidth), at(markerHalfHeight))}));
     }
 
+    int isothermWidth() const
+    {
+        return at(gap + stripWidth + gap + gap) +
+               QFontMetrics(m_font).horizontalAdvance(m_shown.isothermName);
+    }
+
+    /// Its colour, and what it colours.
+    void paintIsotherm(QPainter& painter, int& top) const
+    {
+        painter.setPen(Qt::black);
+        painter.setFont(m_font);
+        painter.fillRect(at(gap), top + at(rowHeight) / 4, at(stripWidth), at(rowHeight) / 2,
+                         m_shown.isothermColour);
+        painter.drawText(QRect(at(gap + stripWidth + gap), top, isothermWidth(), at(rowHeight)),
+                         Qt::AlignLeft | Qt::AlignVCenter, m_shown.isothermName);
+        top += at(rowHeight);
+    }
+
+    int valuesWidth() const
+    {
+        return std::max(columnEdges().back(),
+                        at(gap) +
+                            QFontMetrics(m_boldFont).horizontalAdvance(m_shown.correctionName)) +
+               at(gap);
+    }
+
     /// Where each column's texts start, and at last where a further column's would.
     std::array<int, std::tuple_size_v<ToolCells> + 1> columnEdges() const
     {
         std::array<int, std::tuple_size_v<ToolCells> + 1> edges{at(gap)};
         for (std::size_t column = 0; column + 1 < edges.size(); ++column) {
             int width = QFontMetrics(m_boldFont).horizontalAdvance(m_captions[column]);
-            for (const ToolCells& row : m_shown.measured)
-                width = std::max(width, QFontMetrics(m_font).horizontalAdvance(row[column]));
+            for (const auto* table : {&m_shown.measured, &m_shown.corrected}) {
+                for (const ToolCells& row : *table)
+                    width = std::max(width, QFontMetrics(m_font).horizontalAdvance(row[column]));
+            }
             edges[column + 1] = edges[column] + width + at(2 * gap);
         }
         return edges;
     }
 
-    void paintValues(QPainter& painter) const
+    void paintValues(QPainter& painter, int& top, const QString& heading,
+                     const std::vector<ToolCells>& table) const
     {
         const auto edges = columnEdges();
-        int top = m_picture.height() + at(gap) / 2;
         const auto row = [&](const ToolCells& cells, const QFont& font) {
             painter.setFont(font);
             for (std::size_t column = 0; column < cells.size(); ++column)
@@ -161,10 +205,10 @@ private:
         painter.setPen(Qt::black);
         painter.setFont(m_boldFont);
         painter.drawText(QRect(edges.front(), top, painter.window().width(), at(rowHeight)),
-                         Qt::AlignLeft | Qt::AlignVCenter, headingOf(m_shown));
+                         Qt::AlignLeft | Qt::AlignVCenter, heading);
         top += at(rowHeight);
         row(m_captions, m_boldFont);
-        for (const ToolCells& cells : m_shown.measured)
+        for (const ToolCells& cells : table)
             row(cells, m_font);
     }
 
@@ -175,6 +219,7 @@ private:
     const QFont m_boldFont;
     const ToolCells m_captions = toolCaptions();
     const bool m_hasColourBar;
+    const bool m_hasIsotherm;
     const bool m_hasValues;
 };
 
@@ -197,6 +242,33 @@ ShownPicture shownPicture(const Photograph& photograph, const ShownUnit& unit,
     for (const ToolRow& row : toolRows(tools, photograph.temperatures, unit.conversion))
         shown.measured.push_back(toolCells(row));
     return shown;
+}
+
+void addIsotherm(ShownPicture& shown, const Isotherm& isotherm, const Temperatures& temperatures,
+                 const ShownUnit& unit)
+{
+    paint(isotherm, temperatures, unit, shown.falseColours);
+    shown.isothermName = LookingTexts::nameOf(inUnit(isotherm, unit.unit));
+    shown.isothermColour = isotherm.colour;
+}
+
+void addCorrected(ShownPicture& shown, const QString& correctionName, const Temperatures& corrected,
+                  Conversion conversion)
+{
+    shown.correctionName = correctionName;
+    shown.corrected = shown.measured;
+    const std::vector<Area> areas = areasOf(shown.tools, corrected, conversion);
+    for (std::size_t row = 0; row < areas.size(); ++row) {
+        const std::optional<Details> details = detailsOf(areas[row]);
+        const auto text = [&details](double value) {
+            return details ? oneDecimal(value) : QStringLiteral("-");
+        };
+        const Details numbers = details.value_or(Details());
+        ToolCells& cells = shown.corrected[row];
+        cells[2] = text(numbers.high.value);
+        cells[3] = text(numbers.low.value);
+        cells[4] = text(numbers.mean);
+    }
 }
 
 /// Where the picture lies on the label is how the label centres it.

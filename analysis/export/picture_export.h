@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "analysis/photograph/isotherm.h"
 #include "analysis/photograph/photograph.h"
 #include "analysis/photograph/photograph_reader.h"
 #include "analysis/photograph/tool_statistics.h"
@@ -28,14 +29,27 @@ struct ShownPicture
     float topTemperature = 0.0F; ///< beside the strip, in the unit shown
     float bottomTemperature = 0.0F;
     Unit unit = Unit::Celsius;
-    std::vector<ToolCells> measured; ///< rows of the tool table
-    QString language;                ///< a code of config/language.h, for the choice of the font
+    std::vector<ToolCells> measured;  ///< rows of the tool table
+    QString correctionName;           ///< what stands above the next; empty without a correction
+    std::vector<ToolCells> corrected; ///< the same tools by corrected temperatures
+    QString isothermName;             ///< empty without an isotherm
+    QColor isothermColour;
+    QString language; ///< a code of config/language.h, for the choice of the font
 };
 
 /// A photograph as the analysis window shows it with these tools, this unit and the markers of the
 /// colour bar at these values. Captions are in the language of the installed translators.
 ShownPicture shownPicture(const Photograph& photograph, const ShownUnit& unit,
                           const overlay::Tools& tools, int startValue, int endValue);
+
+/// Colours it over its false colours, and names it beside the colour bar.
+void addIsotherm(ShownPicture& shown, const Isotherm& isotherm, const Temperatures& temperatures,
+                 const ShownUnit& unit);
+
+/// Measures the tools once more, by corrected temperatures and, unlike the tool table, exactly: "-"
+/// stands where no pixel has a temperature.
+void addCorrected(ShownPicture& shown, const QString& correctionName, const Temperatures& corrected,
+                  Conversion conversion);
 
 /// The picture with tools and spots, exactly as large and drawn as a label of this geometry shows
 /// it, without the margins. Null where the geometry has no picture.
@@ -45,7 +59,7 @@ struct PictureOptions
 {
     static constexpr int largestScale = 4;
     int scale = 2;            ///< 1 … largestScale, others are taken as the nearest of these
-    bool hasColourBar = true; ///< with its temperatures, to the right of the picture
+    bool hasColourBar = true; ///< with its temperatures, to the right; below, the isotherm's name
     bool hasValues = false;   ///< the tool table, below the picture; none without tools
 };
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "analysis/export/tiff.h"
 
+#include "analysis/photograph/looking_texts.h"
+
 #include <QDataStream>
 #include <QtEndian>
 
@@ -8,12 +10,30 @@ namespace analysis {
 
 using namespace format;
 
+namespace {
+
+/// Two decimals, or as many more as it has.
+QByteArray emissivity(double value)
+{
+    return LookingTexts::emissivity(value).toLatin1();
+}
+
+QByteArray emissivities(const Parameters& parameters, const std::optional<Correction>& correction)
+{
+    if (!correction)
+        return " emissivity=" + emissivity(parameters.emissivity100 / 100.0);
+    return " corrected emissivity=" + emissivity(correction->emissivity) +
+           " stored_emissivity=" + emissivity(correction->storedEmissivity) +
+           " reflected_celsius=" + oneDecimal(correction->reflected).toLatin1();
+}
+
+} // namespace
+
 QByteArray tiffOf(const std::vector<float>& values, const ShownUnit& unit,
-                  const Parameters& parameters)
+                  const Parameters& parameters, const std::optional<Correction>& correction)
 {
     const QByteArray description =
-        "unit=" + letterOf(unit.unit).toLatin1() +
-        " emissivity=" + QByteArray::number(parameters.emissivity100 / 100.0, 'f', 2) + '\0';
+        "unit=" + letterOf(unit.unit).toLatin1() + emissivities(parameters, correction) + '\0';
     const QByteArray software("ThermaDesk\0", 11);
     constexpr int strip = 8;
     constexpr int stripBytes = grayBytes * int(sizeof(float));

@@ -68,4 +68,14 @@ int paint(const Isotherm& isotherm, const Temperatures& temperatures, const Show
     return painted;
 }
 
+int paint(const Isotherm& isotherm, const Temperatures& temperatures, const ShownUnit& unit,
+          QImage& picture)
+{
+    if (picture.format() != QImage::Format_RGB888)
+        return 0;
+    cv::Mat colours(picture.height(), picture.width(), CV_8UC3, picture.bits(),
+                    std::size_t(picture.bytesPerLine()));
+    return paint(isotherm, temperatures, unit, colours);
+}
+
 } // namespace analysis

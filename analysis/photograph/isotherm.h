@@ -5,6 +5,7 @@
 #include "analysis/photograph/photograph_reader.h"
 
 #include <QColor>
+#include <QImage>
 
 #include <opencv2/core.hpp>
 
@@ -72,5 +73,8 @@ bool covers(const Isotherm& isotherm, double reading);
 /// shape they stay as they are.
 int paint(const Isotherm& isotherm, const Temperatures& temperatures, const ShownUnit& unit,
           cv::Mat& colours);
+/// The same on a picture of 240 × 320, Format_RGB888.
+int paint(const Isotherm& isotherm, const Temperatures& temperatures, const ShownUnit& unit,
+          QImage& picture);
 
 } // namespace analysis

@@ -108,12 +108,15 @@ void ViewExport::savePicture(const ShownPicture& shown, const QString& photograp
 }
 
 void ViewExport::saveTemperatures(const Photograph& shown, const ShownUnit& unit,
-                                  const QString& photograph, QWidget* page)
+                                  const QString& photograph, QWidget* page,
+                                  const std::optional<Correction>& correction)
 {
     QWidget* window = page->window();
-    auto* where =
-        saveDialog(tr("保存温度"),
-                   exportName(photograph, suffixOf(temperatureFormats.front().format)), window);
+    const QString suffix = suffixOf(temperatureFormats.front().format);
+    auto* where = saveDialog(
+        correction ? tr("保存校正后的温度") : tr("保存温度"),
+        exportName(photograph, correction ? QStringLiteral("corrected.") + suffix : suffix),
+        window);
     QStringList filters;
     for (const FormatRow& row : temperatureFormats)
         filters.append(QLatin1String(row.filter));
@@ -122,9 +125,9 @@ void ViewExport::saveTemperatures(const Photograph& shown, const ShownUnit& unit
                      [where](const QString& filter) { followFilter(*where, filter); });
     const auto kept = std::make_shared<const Photograph>(shown);
     QObject::connect(where, &QFileDialog::fileSelected, window,
-                     [where, kept, unit, window](const QString& path) {
+                     [where, kept, unit, correction, window](const QString& path) {
                          const ExportFormat format = formatOf(path, where->selectedNameFilter());
-                         write(path, temperatureFile(*kept, unit, format), window);
+                         write(path, temperatureFile(*kept, unit, format, {}, correction), window);
                      });
     dialogs::open(where, page);
 }

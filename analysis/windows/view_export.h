@@ -34,9 +34,11 @@ public:
                             QWidget* page);
 
     /// Asks where, then writes the temperatures in the unit shown; the name that is chosen, or else
-    /// the chosen kind of file, says in which format.
+    /// the chosen kind of file, says in which format. `correction` is what made the temperatures of
+    /// `shown`, if that was not the imager alone; title and proposed name then say so.
     static void saveTemperatures(const analysis::Photograph& shown, const analysis::ShownUnit& unit,
-                                 const QString& photograph, QWidget* page);
+                                 const QString& photograph, QWidget* page,
+                                 const std::optional<analysis::Correction>& correction = {});
 
     /// Asks where, then writes a CSV file, `name` if no other is chosen. The dialog belongs to
     /// `window` and ends with `page`.

@@ -20,7 +20,23 @@ ShownPicture seen(const ToolCommands& commands, const Form& form)
         shownPicture(commands.window().photograph, commands.viewed().unit(), commands.state().tools,
                      form.widget->startValue, form.widget->endValue);
     shown.language = commands.window().configurationField;
+    const ViewedPhotograph& viewed = commands.viewed();
+    if (viewed.isotherm())
+        addIsotherm(shown, *viewed.isotherm(), viewed.photograph().temperatures, viewed.unit());
+    if (viewed.corrected())
+        addCorrected(shown, viewed.correctionName(), *viewed.corrected(), viewed.unit().conversion);
     return shown;
+}
+
+void saveCorrected(const ToolCommands& commands)
+{
+    const ViewedPhotograph& viewed = commands.viewed();
+    if (!viewed.corrected())
+        return;
+    const auto corrected = std::make_unique<Photograph>(viewed.photograph());
+    corrected->temperatures = *viewed.corrected();
+    ViewExport::saveTemperatures(*corrected, viewed.unit(), viewed.name(), &viewed.window(),
+                                 viewed.correction());
 }
 
 QStringList textsOf(const ToolCells& cells)
@@ -81,6 +97,14 @@ void ViewMenu::addTo(ToolCommands& commands, const Form& form)
                   [&form] {
                       return form.tableWidget->selectionModel()->hasSelection();
                   }});
+    addSaving(commands, form);
+}
+
+void ViewMenu::addSaving(ToolCommands& commands, const Form& form)
+{
+    using Group = ToolCommands::Group;
+    using Focus = ToolCommands::Focus;
+    using Menus = ToolCommands::Menus;
     commands.add({Group::Copies,
                   tr("保存图片..."),
                   [&] {
@@ -100,6 +124,15 @@ void ViewMenu::addTo(ToolCommands& commands, const Form& form)
                   {},
                   Focus::Window,
                   Menus::Picture});
+    commands.add({Group::Copies,
+                  tr("保存校正后的温度..."),
+                  [&] { saveCorrected(commands); },
+                  {},
+                  Focus::Window,
+                  Menus::Picture,
+                  [&commands] {
+                      return commands.viewed().corrected() != nullptr;
+                  }});
 }
 
 } // namespace analysis

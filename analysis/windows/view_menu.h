@@ -19,6 +19,9 @@ class ViewMenu
 
 public:
     static void addTo(ToolCommands& commands, const Ui::Analysis_Widget& form);
+
+private:
+    static void addSaving(ToolCommands& commands, const Ui::Analysis_Widget& form);
 };
 
 } // namespace analysis

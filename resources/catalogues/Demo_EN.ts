@@ -690,6 +690,10 @@
         <translation>The file “%1” could not be written; a file that was there stays as it was.
 %2</translation>
     </message>
+    <message>
+        <source>保存校正后的温度</source>
+        <translation>Save corrected temperatures</translation>
+    </message>
 </context>
 <context>
     <name>ViewMenu</name>
@@ -712,6 +716,10 @@
     <message>
         <source>保存温度...</source>
         <translation>Save temperatures...</translation>
+    </message>
+    <message>
+        <source>保存校正后的温度...</source>
+        <translation>Save corrected temperatures...</translation>
     </message>
 </context>
 <context>

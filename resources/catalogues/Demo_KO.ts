@@ -686,6 +686,10 @@
         <translation>파일 “%1”을(를) 쓸 수 없습니다. 기존 파일은 그대로 남아 있습니다.
 %2</translation>
     </message>
+    <message>
+        <source>保存校正后的温度</source>
+        <translation>보정된 온도 저장</translation>
+    </message>
 </context>
 <context>
     <name>ViewMenu</name>
@@ -708,6 +712,10 @@
     <message>
         <source>保存温度...</source>
         <translation>온도 저장...</translation>
+    </message>
+    <message>
+        <source>保存校正后的温度...</source>
+        <translation>보정된 온도 저장...</translation>
     </message>
 </context>
 <context>

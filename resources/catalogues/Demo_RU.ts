@@ -694,6 +694,10 @@
         <translation>Не удалось записать файл «%1»; прежний файл остался без изменений.
 %2</translation>
     </message>
+    <message>
+        <source>保存校正后的温度</source>
+        <translation>Сохранение исправленных температур</translation>
+    </message>
 </context>
 <context>
     <name>ViewMenu</name>
@@ -716,6 +720,10 @@
     <message>
         <source>保存温度...</source>
         <translation>Сохранить температуры...</translation>
+    </message>
+    <message>
+        <source>保存校正后的温度...</source>
+        <translation>Сохранить исправленные температуры...</translation>
     </message>
 </context>
 <context>

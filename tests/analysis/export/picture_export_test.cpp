@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "analysis/export/picture_export.h"
 #include "analysis/photograph/false_colour.h"
+#include "analysis/photograph/looking_texts.h"
 #include "files/picture_file.h"
 #include "overlay/tool_coordinates.h"
 #include "overlay/tool_painting.h"
@@ -8,6 +9,7 @@
 
 #include <QPainter>
 
+#include <limits>
 #include <memory>
 
 using namespace analysis;
@@ -207,6 +209,66 @@ private slots:
                 }
             }
         }
+    }
+
+    /// Where it is 40 °C and more: in the lower half.
+    void anIsothermIsColouredAndNamed()
+    {
+        const auto colder = sample();
+        for (int x = 0; x < 240; ++x)
+            std::fill_n(colder->temperatures.begin() + x * 320 + 160, 160, 40.0F);
+        Isotherm isotherm;
+        isotherm.side = Isotherm::Side::Inside;
+        isotherm.from = 40;
+        isotherm.to = 50;
+        ShownPicture with = shownPicture(*colder, {}, {}, 0, 255);
+        const QImage before = with.falseColours;
+        addIsotherm(with, isotherm, colder->temperatures, {});
+        QCOMPARE(with.falseColours.copy(0, 0, 240, 160), before.copy(0, 0, 240, 160));
+        QCOMPARE(countOf(with.falseColours, {0, 160, 240, 160}, isothermColour), 240 * 160);
+        QCOMPARE(with.isothermName, LookingTexts::nameOf(isotherm));
+        PictureOptions options;
+        options.scale = 1;
+        const QImage picture = exportedPicture(with, options);
+        QCOMPARE(picture.height(), 320 + 14 + 6);
+        QVERIFY(countOf(picture, {0, 320, 40, 20}, isothermColour) > 40); // its key
+        options.hasColourBar = false;
+        QCOMPARE(exportedPicture(with, options).size(), QSize(240, 320));
+        // In the unit that is shown.
+        addIsotherm(with, isotherm, colder->temperatures, {Unit::Fahrenheit, toFahrenheit});
+        QVERIFY(with.isothermName.contains(QStringLiteral("104.0 °F")));
+    }
+
+    /// A second table below the first, under its name.
+    void correctedValuesStandBelowTheStoredOnes()
+    {
+        const auto corrected = sample();
+        corrected->temperatures.fill(99.96F);
+        std::fill_n(corrected->temperatures.begin(), 120 * 320, // the left half
+                    std::numeric_limits<float>::quiet_NaN());
+        overlay::Tools tools;
+        addTool(tools, overlay::ToolKind::Point, {5, 5}, Qt::white);
+        addTool(tools, overlay::ToolKind::Rect, {0, 0, 239, 319}, Qt::white);
+        ShownPicture both = shown(tools);
+        const QString name = QString(60, QLatin1Char('W'));
+        addCorrected(both, name, corrected->temperatures, unchanged);
+        QCOMPARE(both.corrected.size(), std::size_t(2));
+        QCOMPARE(both.measured, shown(tools).measured);
+        QCOMPARE(both.corrected[0], (ToolCells{"P0", both.measured[0][1], "-", "-", "-"}));
+        QCOMPARE(both.corrected[1],
+                 (ToolCells{"R0", both.measured[1][1], "100.0", "100.0", "100.0"}));
+        PictureOptions options;
+        options.scale = 1;
+        options.hasColourBar = false;
+        QCOMPARE(exportedPicture(both, options), exportedPicture(shown(tools), options));
+        options.hasValues = true;
+        const QImage without = exportedPicture(shown(tools), options);
+        const QImage with = exportedPicture(both, options);
+        QCOMPARE(with.height(), without.height() + 4 * 14);
+        QCOMPARE(with.copy(0, 0, 240, 320), without.copy(0, 0, 240, 320));
+        QVERIFY(with.width() > without.width()); // the name is not cut
+        const QRect edge(with.width() - 3, 0, 3, with.height());
+        QCOMPARE(countOf(with, edge, qRgb(255, 255, 255)), 3 * with.height());
     }
 
     /// A word that is longer than the picture is wide is not cut.

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "analysis/windows/analysis_widget.h"
+#include "analysis/windows/tool_commands.h"
+#include "analysis/windows/viewed_photograph.h"
 #include "config/configuration_record.h"
 #include "dialogs/dialogs.h"
 #include "overlay/my_color_slider.h"
@@ -21,6 +23,7 @@
 #include <QPushButton>
 #include <QTableWidget>
 
+#include <cmath>
 #include <memory>
 
 using testing::Answer;
@@ -127,6 +130,24 @@ private slots:
         QVERIFY(text.contains("最低温度: 68.0"));
         QVERIFY(text.contains(rowTexts().join(' ')));
         QVERIFY(rowTexts().at(2).toDouble() > 68);
+    }
+
+    /// Above 40.0 °C: from column 170 of 240 on. Corrected readings are not the report's.
+    void theIsothermIsInThePicture()
+    {
+        QVERIFY(save());
+        const QImage without = testing::pdfImages(target()).value(0);
+        const QString text = testing::pdfText(target());
+        analysis::Isotherm above;
+        above.from = 40;
+        m_window->commands().viewed().setIsotherm(above);
+        m_window->commands().viewed().setCorrection(analysis::Correction{0.95, 0.5, 20});
+        QVERIFY(save());
+        const QImage with = testing::pdfImages(target()).value(0);
+        QVERIFY(std::abs(qRed(with.pixel(210 + 3 * 200, 50)) - 85) < 4);
+        QVERIFY(std::abs(qBlue(with.pixel(210 + 3 * 200, 50)) - 255) < 4);
+        QCOMPARE(with.copy(0, 0, 210 + 3 * 168, 960), without.copy(0, 0, 210 + 3 * 168, 960));
+        QCOMPARE(testing::pdfText(target()), text);
     }
 
     void theSpanOfTheColourBarCounts()

@@ -3,9 +3,11 @@
 #include "analysis/windows/picture_dialog.h"
 #include "analysis/windows/tool_commands.h"
 #include "analysis/windows/view_menu.h"
+#include "analysis/windows/viewed_photograph.h"
 #include "tests/analysis/windows/tool_keys_test.h"
 #include "tests/support/dialogs.h"
 
+#include <QCheckBox>
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QMenu>
@@ -86,6 +88,20 @@ private slots:
         QCOMPARE(copied, grabbed);
     }
 
+    void copiesThePictureWithItsIsotherm()
+    {
+        begin();
+        drawOneOfEach();
+        analysis::Isotherm all;
+        all.from = -100;
+        window->commands().viewed().setIsotherm(all);
+        QCoreApplication::processEvents();
+        chooseEntry(label(), QStringLiteral("复制图片"));
+        const QImage copied = clipboard().image().convertToFormat(QImage::Format_RGB32);
+        const QPoint free(copied.width() / 2, copied.height() * 3 / 4); // no tool is there
+        QCOMPARE(copied.pixel(free), analysis::isothermColour);
+    }
+
     void copiesTheTable()
     {
         begin();
@@ -152,6 +168,70 @@ private slots:
         // In the unit that is shown.
         const double first = target.read(QStringLiteral("a.csv")).split(',').first().toDouble();
         QCOMPARE(analysis::oneDecimal(first), toolRow(0).at(2));
+    }
+
+    /// 60 °C with an emissivity of 0.60 instead of 0.95 are 78.8 °C, 173.84 °F.
+    void savesCorrectedTemperaturesWhenAsked()
+    {
+        begin();
+        QVERIFY(load(testing::flat(255, 600)));
+        const QAction* corrected = entry(label(), QStringLiteral("保存校正后的温度..."));
+        QVERIFY(corrected && !corrected->isEnabled());
+        closeMenu();
+        window->commands().viewed().setCorrection(analysis::Correction{0.95, 0.6, 20});
+        unit().setCurrentIndex(1);
+        const testing::Folder target;
+        for (const char* text : {"保存温度...", "保存校正后的温度..."}) {
+            chooseEntry(label(), QString::fromUtf8(text));
+            QTRY_VERIFY(window->findChild<QFileDialog*>());
+            const QString proposed =
+                QFileInfo(window->findChild<QFileDialog*>()->selectedFiles().value(0)).fileName();
+            for (const char* suffix : {".csv", ".tiff"}) {
+                if (!window->findChild<QFileDialog*>())
+                    chooseEntry(label(), QString::fromUtf8(text));
+                testing::choose(
+                    *window->findChild<QFileDialog*>(),
+                    target / (QFileInfo(proposed).completeBaseName() + QLatin1String(suffix)));
+                QTRY_VERIFY(!window->findChild<QFileDialog*>());
+            }
+        }
+        QCOMPARE(target.files(),
+                 (QStringList{QStringLiteral("shot.corrected.csv"),
+                              QStringLiteral("shot.corrected.tiff"), QStringLiteral("shot.csv"),
+                              QStringLiteral("shot.tiff")}));
+        const auto first = [&target](const QString& name) {
+            return target.read(name).split(',').first().toDouble();
+        };
+        QVERIFY(std::abs(first(QStringLiteral("shot.csv")) - 140) < 0.1);
+        QVERIFY(std::abs(first(QStringLiteral("shot.corrected.csv")) - 173.84) < 0.1);
+        QVERIFY(target.read(QStringLiteral("shot.tiff")).contains("unit=F emissivity=0.95"));
+        QVERIFY(target.read(QStringLiteral("shot.corrected.tiff"))
+                    .contains("unit=F corrected emissivity=0.60 stored_emissivity=0.95 "
+                              "reflected_celsius=20.0"));
+    }
+
+    void savesThePictureWithWhatIsCorrected()
+    {
+        begin();
+        drawOneOfEach();
+        analysis::Isotherm all;
+        all.from = -100;
+        window->commands().viewed().setIsotherm(all);
+        window->commands().viewed().setCorrection(analysis::Correction{0.95, 0.6, 20});
+        chooseEntry(label(), QStringLiteral("保存图片..."));
+        auto* how = window->findChild<PictureDialog*>();
+        QVERIFY(how);
+        testing::part<QCheckBox>(how, "values")->setChecked(true);
+        analysis::ShownPicture expected = seen();
+        const auto& viewed = window->commands().viewed();
+        analysis::addIsotherm(expected, all, viewed.photograph().temperatures, viewed.unit());
+        analysis::addCorrected(expected, viewed.correctionName(), *viewed.corrected(),
+                               viewed.unit().conversion);
+        QCOMPARE(how->picture(), analysis::exportedPicture(expected, how->options()));
+        QVERIFY(how->picture().height() >
+                analysis::exportedPicture(seen(), how->options()).height());
+        how->reject();
+        QTRY_VERIFY(!window->findChild<PictureDialog*>());
     }
 };
 
