@@ -41,6 +41,7 @@ void addOptions(CommandLine& line)
     addMeasuringOptions(line,
                         QStringLiteral("Where to look: under any of these tools; in the whole "
                                        "picture by default. See thermaphoto measure --help."));
+    addCorrectionOptions(line);
     line.add({QStringLiteral("above")}, QStringLiteral("A pixel must be hotter than this."),
              QStringLiteral("TEMPERATURE"));
     line.add({QStringLiteral("below")},

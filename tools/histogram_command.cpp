@@ -38,6 +38,7 @@ void addOptions(CommandLine& line)
 {
     addMeasuringOptions(line, QStringLiteral("What to look at; the whole picture by default. See "
                                              "thermaphoto measure --help."));
+    addCorrectionOptions(line);
     addRowFormat(line);
     line.add({QStringLiteral("from")},
              QStringLiteral("Where the bins begin. Default: at the coldest pixel."),
@@ -91,7 +92,7 @@ Result counted(const Entry& entry, const MeasuredPhotograph& photograph, const W
             return {{}, QStringLiteral("--width makes more than %1 bins").arg(Bins::most)};
         }
     }
-    return {printer.text(entry.path, photograph.shown.unit, rows), {}};
+    return {photograph.printed(printer, entry.path, rows), {}};
 }
 
 } // namespace
@@ -111,11 +112,11 @@ int histogramCommand(const QStringList& arguments)
         return line.status();
 
     const RowPrinter printer(format, QStringLiteral("bins"),
-                             {{QStringLiteral("name"), -7, true},
-                              {QStringLiteral("from"), 11},
-                              {QStringLiteral("to"), 11},
-                              {QStringLiteral("pixels"), 6},
-                              {QStringLiteral("share"), 8}});
+                             columnsFor(wanted.measuring, {{QStringLiteral("name"), -7, true},
+                                                           {QStringLiteral("from"), 11},
+                                                           {QStringLiteral("to"), 11},
+                                                           {QStringLiteral("pixels"), 6},
+                                                           {QStringLiteral("share"), 8}}));
     PhotographRun photographs(line);
     printer.frame(photographs);
     photographs.work = [&](const Entry& entry, PhotographReader& reader) {

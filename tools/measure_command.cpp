@@ -8,6 +8,7 @@
 
 using analysis::Area;
 using analysis::Details;
+using analysis::oneDecimal;
 using analysis::PhotographReader;
 using analysis::threeDecimals;
 using analysis::ToolRow;
@@ -64,6 +65,15 @@ Row filled(Row row, const QStringList& last, std::size_t columns)
     return row + last;
 }
 
+/// Corrected readings have nothing to do with the tool table, nor with what it begins from.
+Row correctedCells(const std::optional<Details>& details)
+{
+    if (!details)
+        return {QStringLiteral("nan"), QStringLiteral("nan"), QStringLiteral("nan")};
+    return {oneDecimal(details->high.value), oneDecimal(details->low.value),
+            oneDecimal(details->mean)};
+}
+
 std::vector<Row> rowsOf(const MeasuredPhotograph& photograph, const Wanted& wanted,
                         const DetailsOfTools& details)
 {
@@ -71,8 +81,9 @@ std::vector<Row> rowsOf(const MeasuredPhotograph& photograph, const Wanted& want
     std::vector<Row> rows;
     for (const ToolRow& tool :
          toolRows(wanted.measuring.tools, photograph.temperatures, photograph.shown.conversion)) {
-        const Row row{tool.name, QLatin1String(overlay::rowOf(tool.kind).name), tool.high, tool.low,
-                      tool.average};
+        const Row numbers = photograph.correction ? correctedCells(details.value(tool.name))
+                                                  : Row{tool.high, tool.low, tool.average};
+        const Row row = Row{tool.name, QLatin1String(overlay::rowOf(tool.kind).name)} + numbers;
         const Row more = wanted.more ? moreCells(details.value(tool.name)) : Row();
         rows.push_back(filled(row + more, {}, columns));
     }
@@ -120,6 +131,7 @@ void addOptions(CommandLine& line)
         QStringLiteral("The tools: {\"points\": [[x, y], …], \"lines\": [[x1, y1, x2, y2], …], "
                        "\"rectangles\": [[x1, y1, x2, y2], …], \"circles\": [[cx, cy, r], "
                        "…]}."));
+    addCorrectionOptions(line);
     addRowFormat(line);
     line.add({QStringLiteral("more")},
              QStringLiteral("Also where the hottest and the coldest pixel lie, standard deviation, "
@@ -148,8 +160,10 @@ int measureCommand(const QStringList& arguments)
     if (!line.isGood())
         return line.status();
 
-    const RowPrinter printer(format, QStringLiteral("tools"), columnsOf(wanted));
-    const bool needsDetails = wanted.more || !wanted.deltas.empty() || !wanted.limits.empty();
+    const RowPrinter printer(format, QStringLiteral("tools"),
+                             columnsFor(wanted.measuring, columnsOf(wanted)));
+    const bool needsDetails = wanted.more || !wanted.deltas.empty() || !wanted.limits.empty() ||
+                              wanted.measuring.correction;
     PhotographRun photographs(line);
     printer.frame(photographs);
     photographs.status = [](bool someFailed, bool someFound) {
@@ -165,8 +179,8 @@ int measureCommand(const QStringList& arguments)
                     details.insert(area.name, detailsOf(area));
             }
             Result result;
-            result.output = printer.text(entry.path, photograph.shown.unit,
-                                         rowsOf(photograph, wanted, details));
+            result.output =
+                photograph.printed(printer, entry.path, rowsOf(photograph, wanted, details));
             judge(wanted.limits, details, signOf(photograph.shown.unit), result);
             return result;
         });

@@ -50,6 +50,7 @@ Measuring readMeasuring(CommandLine& line)
     measuring.modelIndex = line.modelIndex();
     measuring.unit = readUnit(line);
     measuring.tools = readTools(line);
+    measuring.correction = readCorrection(line);
     measuring.isWhole = !line.isSet(QStringLiteral("tools"));
     return measuring;
 }
@@ -63,6 +64,25 @@ std::vector<analysis::Area> MeasuredPhotograph::areas(const Measuring& measuring
     return {picture};
 }
 
+QByteArray MeasuredPhotograph::printed(const RowPrinter& printer, const QString& file,
+                                       std::vector<Row> rows) const
+{
+    if (correction) {
+        for (Row& row : rows)
+            row += correctionCells(*correction, shown.unit);
+    }
+    return printer.text(file, shown.unit, rows);
+}
+
+std::vector<Column> columnsFor(const Measuring& measuring, std::vector<Column> columns)
+{
+    if (measuring.correction) {
+        const std::vector<Column> more = correctionColumns();
+        columns.insert(columns.end(), more.begin(), more.end());
+    }
+    return columns;
+}
+
 Result measured(const Entry& entry, analysis::PhotographReader& reader, const Measuring& measuring,
                 const std::function<Result(const MeasuredPhotograph&)>& measure)
 {
@@ -70,8 +90,20 @@ Result measured(const Entry& entry, analysis::PhotographReader& reader, const Me
     if (!outcome.isGood())
         return {{}, reason(outcome)};
     const analysis::Photograph& photograph = reader.photograph();
-    return measure({photograph.temperatures,
-                    shownUnit(measuring.unit, photograph.parameters.unit, reader.isRaw())});
+    const analysis::ShownUnit shown =
+        shownUnit(measuring.unit, photograph.parameters.unit, reader.isRaw());
+    if (!measuring.correction)
+        return measure({photograph.temperatures, shown, {}});
+
+    const analysis::Correction correction = measuring.correction->of(photograph, shown.unit);
+    const std::optional<Unit> scale =
+        analysis::storedUnit(photograph.parameters.unit, reader.isRaw());
+    const QString against = reasonAgainst(correction, scale);
+    if (!against.isEmpty())
+        return {{}, against};
+    const analysis::CorrectedTemperatures corrected =
+        correctedTemperatures(photograph.temperatures, *scale, correction);
+    return measure({*corrected.temperatures, shown, correction});
 }
 
 } // namespace tools

@@ -31,6 +31,7 @@ int profileCommand(const QStringList& arguments)
                        "to end, with the distance from the start in pixels."));
     addMeasuringOptions(line, QStringLiteral("The lines, as measure takes them; other tools are "
                                              "passed over."));
+    addCorrectionOptions(line);
     addRowFormat(line);
     if (!line.parse(arguments))
         return line.status();
@@ -43,18 +44,17 @@ int profileCommand(const QStringList& arguments)
         return line.status();
 
     const RowPrinter printer(format, QStringLiteral("pixels"),
-                             {{QStringLiteral("name"), -5, true},
-                              {QStringLiteral("distance"), 8},
-                              {QStringLiteral("x"), 4},
-                              {QStringLiteral("y"), 4},
-                              {QStringLiteral("temperature"), 11}});
+                             columnsFor(measuring, {{QStringLiteral("name"), -5, true},
+                                                    {QStringLiteral("distance"), 8},
+                                                    {QStringLiteral("x"), 4},
+                                                    {QStringLiteral("y"), 4},
+                                                    {QStringLiteral("temperature"), 11}}));
     PhotographRun photographs(line);
     printer.frame(photographs);
     photographs.work = [&](const Entry& entry, PhotographReader& reader) {
         return measured(entry, reader, measuring, [&](const MeasuredPhotograph& photograph) {
-            return Result{printer.text(entry.path, photograph.shown.unit,
-                                       rowsOf(photograph, measuring.tools)),
-                          {}};
+            return Result{
+                photograph.printed(printer, entry.path, rowsOf(photograph, measuring.tools)), {}};
         });
     };
     return run(photographs);

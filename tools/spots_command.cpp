@@ -24,6 +24,7 @@ void addOptions(CommandLine& line)
 {
     addMeasuringOptions(line, QStringLiteral("Where to look; the whole picture by default. See "
                                              "thermaphoto measure --help."));
+    addCorrectionOptions(line);
     addRowFormat(line);
     line.add({QStringLiteral("count")},
              QStringLiteral("So many hot and so many cold ones at most. Default: %1.")
@@ -77,17 +78,16 @@ int spotsCommand(const QStringList& arguments)
         return line.status();
 
     const RowPrinter printer(format, QStringLiteral("spots"),
-                             {{QStringLiteral("name"), -7, true},
-                              {QStringLiteral("type"), -4, true},
-                              {QStringLiteral("x"), 4},
-                              {QStringLiteral("y"), 4},
-                              {QStringLiteral("temperature"), 11}});
+                             columnsFor(wanted.measuring, {{QStringLiteral("name"), -7, true},
+                                                           {QStringLiteral("type"), -4, true},
+                                                           {QStringLiteral("x"), 4},
+                                                           {QStringLiteral("y"), 4},
+                                                           {QStringLiteral("temperature"), 11}}));
     PhotographRun photographs(line);
     printer.frame(photographs);
     photographs.work = [&](const Entry& entry, PhotographReader& reader) {
         return measured(entry, reader, wanted.measuring, [&](const MeasuredPhotograph& photograph) {
-            return Result{
-                printer.text(entry.path, photograph.shown.unit, rowsOf(photograph, wanted)), {}};
+            return Result{photograph.printed(printer, entry.path, rowsOf(photograph, wanted)), {}};
         });
     };
     return run(photographs);

@@ -1,21 +1,29 @@
 // SPDX-License-Identifier: MIT
+#include "analysis/windows/correction_dialog.h"
 #include "analysis/windows/details_window.h"
 #include "analysis/windows/histogram_window.h"
+#include "analysis/windows/isotherm_dialog.h"
 #include "analysis/windows/large_picture.h"
 #include "analysis/windows/magnifier.h"
+#include "analysis/windows/picture_dialog.h"
 #include "analysis/windows/picture_view.h"
 #include "analysis/windows/profile_window.h"
 #include "analysis/windows/spots_window.h"
 #include "plots/plot_view.h"
 #include "simulator/tour/opened_photograph.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QCoreApplication>
+#include <QDoubleSpinBox>
 #include <QLabel>
+#include <QPushButton>
 #include <QTableWidget>
 #include <QTest>
 #include <QWheelEvent>
+
+#include <stdexcept>
 
 namespace tour {
 namespace {
@@ -145,6 +153,64 @@ void enlarge(Walk& walk)
     close<analysis::LargePicture>(walk);
 }
 
+template<typename Dialog>
+Dialog& chosenDialog(Walk& walk, const char* entry)
+{
+    chooseFrom(walk, openMenuOf(walk, pictureOf(walk)),
+               QCoreApplication::translate("LookingMenu", entry));
+    return shownDialog<Dialog>(walk);
+}
+
+template<typename Dialog>
+void awaitEndOf(Walk& walk)
+{
+    walk.await("the dialog is gone", [&] { return !walk.window().findChild<Dialog*>(); });
+}
+
+/// Opens such a dialog once more, to switch off what it has switched on.
+template<typename Dialog>
+void switchOff(Walk& walk, const char* entry)
+{
+    walk.click(find<QPushButton>(chosenDialog<Dialog>(walk, entry), "off"));
+    awaitEndOf<Dialog>(walk);
+}
+
+void colourAndCorrect(Walk& walk)
+{
+    constexpr const char* isothermEntry = "等温线...";
+    constexpr const char* correctionEntry = "校正发射率...";
+    auto& isotherm = chosenDialog<analysis::IsothermDialog>(walk, isothermEntry);
+    find<QComboBox>(isotherm, "fromSource").setFocus();
+    walk.shoot("isotherm");
+    isotherm.accept();
+    awaitEndOf<analysis::IsothermDialog>(walk);
+
+    auto& correction = chosenDialog<analysis::CorrectionDialog>(walk, correctionEntry);
+    find<QDoubleSpinBox>(correction, "emissivity").setValue(0.6);
+    walk.shoot("correction");
+    find<QDoubleSpinBox>(correction, "stored").setValue(0);
+    walk.shoot("correction-refused");
+    find<QDoubleSpinBox>(correction, "stored").setValue(0.95);
+    correction.accept();
+    awaitEndOf<analysis::CorrectionDialog>(walk);
+
+    openMenuOf(walk, pictureOf(walk));
+    walk.shoot("corrected-menu");
+    QApplication::activePopupWidget()->close();
+    chooseFrom(walk, openMenuOf(walk, pictureOf(walk)),
+               QCoreApplication::translate("ViewMenu", "保存图片..."));
+    auto& picture = shownDialog<PictureDialog>(walk);
+    walk.click(find<QCheckBox>(picture, "values"));
+    const QString path = walk.pathOf(QStringLiteral("saved-corrected.png"));
+    if (!picture.picture().save(path))
+        throw std::runtime_error(qPrintable(path));
+    picture.reject();
+    awaitEndOf<PictureDialog>(walk);
+
+    switchOff<analysis::IsothermDialog>(walk, isothermEntry);
+    switchOff<analysis::CorrectionDialog>(walk, correctionEntry);
+}
+
 } // namespace
 
 void takeLookingSteps(Walk& walk)
@@ -155,6 +221,7 @@ void takeLookingSteps(Walk& walk)
     listSpots(walk);
     magnify(walk);
     enlarge(walk);
+    colourAndCorrect(walk);
 }
 
 } // namespace tour
