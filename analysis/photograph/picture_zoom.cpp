@@ -15,15 +15,17 @@ namespace {
 constexpr std::array<double, 13> factors{
     PictureZoom::smallest, 0.75, 1, 1.5, 2, 3, 4, 6, 8, 12, 16, 24, PictureZoom::largest};
 
-/// The next factor of the row in this direction; at its end, or beyond it, the factor itself.
+/// The next factor of the row in this direction; at its end, or beyond it, the factor itself. One
+/// that is hardly other is passed: a step should be seen.
 double nextFactor(double factor, bool isUp)
 {
+    constexpr double hardlyOther = 1.1;
     if (isUp) {
-        const auto* next = std::upper_bound(factors.begin(), factors.end(), factor);
-        return next == factors.end() ? factor : *next;
+        const auto* next = std::upper_bound(factors.begin(), factors.end(), factor * hardlyOther);
+        return next == factors.end() ? std::max(factor, PictureZoom::largest) : *next;
     }
-    const auto* next = std::lower_bound(factors.begin(), factors.end(), factor);
-    return next == factors.begin() ? factor : *(next - 1);
+    const auto* next = std::lower_bound(factors.begin(), factors.end(), factor / hardlyOther);
+    return next == factors.begin() ? std::min(factor, PictureZoom::smallest) : *(next - 1);
 }
 
 /// The picture's pixel under the middle of the sheet's.

@@ -9,6 +9,7 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 
+#include <algorithm>
 #include <cmath>
 
 namespace analysis {
@@ -31,10 +32,19 @@ bool isSame(const PictureView::Content& a, const PictureView::Content& b)
            a.colours == b.colours;
 }
 
-QRect scaled(const QRect& rect, qreal ratio)
+QSize scaled(const QSize& size, qreal ratio)
 {
-    return {int(std::lround(rect.left() * ratio)), int(std::lround(rect.top() * ratio)),
-            int(std::ceil(rect.width() * ratio)), int(std::ceil(rect.height() * ratio))};
+    return {int(std::ceil(size.width() * ratio)), int(std::ceil(size.height() * ratio))};
+}
+
+/// A part of the sheet in the screen's pixels; rounding does not lead out of the sheet.
+QRect scaled(const QRect& part, qreal ratio, const QSize& sheet)
+{
+    const QSize size = scaled(part.size(), ratio);
+    const QSize room = sheet - size;
+    return {QPoint(std::clamp(int(std::lround(part.left() * ratio)), 0, room.width()),
+                   std::clamp(int(std::lround(part.top() * ratio)), 0, room.height())),
+            size};
 }
 
 } // namespace
@@ -119,8 +129,9 @@ QImage PictureView::seen() const
     if (part.isEmpty() || m_content.colours.isNull())
         return {};
     const qreal ratio = viewport()->devicePixelRatioF();
-    QImage picture = enlarged(m_content.colours, scaled(QRect(QPoint(), size), ratio).size(),
-                              scaled(part, ratio), m_zoom.isSharp());
+    const QSize pixels = scaled(size, ratio);
+    QImage picture =
+        enlarged(m_content.colours, pixels, scaled(part, ratio, pixels), m_zoom.isSharp());
     picture.setDevicePixelRatio(ratio);
     const overlay::Sheet sheet{
         {size.width() + 2 * margin, size.width(), size.height(), size.height()}, ratio};

@@ -50,13 +50,14 @@ private slots:
         QCOMPARE(zoom.pixelAt({75, 0}).value(), QPoint(0, 0));
         QCOMPARE(zoom.pixelAt({524, 599}).value(), QPoint(239, 319));
         QVERIFY(!zoom.pixelAt({525, 599}));
-        zoom.zoomBy(1, {0, 0});
+        zoom.zoomBy(1, {0, 0}); // from 1.875: 2 would hardly be seen
         QVERIFY(!zoom.isFitted());
-        QCOMPARE(zoom.factor(), 2.0);
+        QCOMPARE(zoom.factor(), 3.0);
         zoom.setPlace({480, 640});
-        QCOMPARE(zoom.factor(), 2.0);
+        QCOMPARE(zoom.factor(), 3.0);
         zoom.fit();
         QVERIFY(zoom.isFitted());
+        QCOMPARE(zoom.factor(), 2.0);
     }
 
     void goesByARowOfFactorsToItsEnds()
@@ -75,6 +76,19 @@ private slots:
         zoom.zoomBy(1000, {});
         QCOMPARE(zoom.factor(), 32.0);
         QCOMPARE(zoom.sheet(), QSize(7680, 10240));
+    }
+
+    void smallDifferencesAreNoSteps()
+    {
+        PictureZoom zoom = zoomOf({252, 336}); // 1.05
+        zoom.zoomBy(-1, {});
+        QCOMPARE(zoom.factor(), 0.75);
+        zoom = zoomOf({7440, 9920}); // 31
+        zoom.zoomBy(1, {});
+        QCOMPARE(zoom.factor(), 32.0);
+        zoom = zoomOf({125, 167}); // 0.52
+        zoom.zoomBy(-1, {});
+        QCOMPARE(zoom.factor(), 0.5);
     }
 
     void isSharpAboveFour()
