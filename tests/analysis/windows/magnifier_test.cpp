@@ -5,6 +5,8 @@
 
 #include <QPointer>
 
+#include <algorithm>
+
 using analysis::Magnifier;
 
 class MagnifierTest : public testing::MagnifierFixture
@@ -209,6 +211,14 @@ private slots:
         bar().update();
         QTRY_VERIFY(colours() != whole);
         QCOMPARE(colours(), expected());
+        const std::vector<QRgb> narrow = colours();
+        analysis::Isotherm isotherm;
+        isotherm.from = 20;
+        window->commands().viewed().setIsotherm(isotherm);
+        QTRY_VERIFY(colours() != narrow);
+        QCOMPARE(colours(), expected());
+        const std::vector<QRgb> over = colours();
+        QVERIFY(std::find(over.begin(), over.end(), isotherm.colour.rgb()) != over.end());
         QVERIFY(load(testing::flat(33)));
         QTRY_COMPARE(readOutOfMagnifier().section(QLatin1Char(' '), -1), reading(100, 100));
         QTRY_COMPARE(colours(), expected());
