@@ -48,7 +48,7 @@ struct Limit
 {
     QString text; ///< as it was written
     Comparison comparison;
-    std::function<bool(double, double)> isPassed;
+    std::function<bool(double, double)> isPassed; ///< of a number as it is told, and `value`
     double value = 0.0;
 };
 

@@ -8,6 +8,7 @@
 #include <algorithm>
 
 using analysis::Area;
+using analysis::asReading;
 using analysis::PhotographReader;
 using analysis::Reading;
 
@@ -30,8 +31,8 @@ struct Wanted
     bool isIn(const Area& area) const
     {
         return std::any_of(area.readings.begin(), area.readings.end(), [this](const Reading& one) {
-            return one.isNumber() && (!above || one.value > *above) &&
-                   (!below || one.value < *below);
+            return one.isNumber() && (!above || one.value > asReading(*above)) &&
+                   (!below || one.value < asReading(*below));
         });
     }
 };

@@ -103,7 +103,7 @@ void judge(const std::vector<Limit>& limits, const DetailsOfTools& details, cons
         const std::optional<double> value = limit.comparison.value(details);
         if (!value)
             unknown += limit.text;
-        else if (limit.isPassed(*value, limit.value))
+        else if (limit.isPassed(threeDecimals(*value).toDouble(), limit.value))
             result.findings += QStringLiteral("passes the limit %1: %2 %3")
                                    .arg(limit.text, threeDecimals(*value), sign);
     }

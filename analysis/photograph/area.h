@@ -28,6 +28,12 @@ struct Reading
     bool isBefore(const Reading& other) const { return y != other.y ? y < other.y : x < other.x; }
 };
 
+/// A typed temperature as precise as readings are, so that it is equal to what is shown as that.
+inline double asReading(double typed)
+{
+    return double(float(typed));
+}
+
 /// Some pixels of a picture, each once: column after column from left to right, and down each.
 struct Area
 {

@@ -70,12 +70,12 @@ std::optional<Details> detailsOf(const Area& area)
 
 double shareAbove(const Area& area, double threshold)
 {
-    return shareOf(area, [threshold](double value) { return value > threshold; });
+    return shareOf(area, [limit = asReading(threshold)](double value) { return value > limit; });
 }
 
 double shareBelow(const Area& area, double threshold)
 {
-    return shareOf(area, [threshold](double value) { return value < threshold; });
+    return shareOf(area, [limit = asReading(threshold)](double value) { return value < limit; });
 }
 
 double valueOf(const Details& details, Figure figure)

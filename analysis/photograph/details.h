@@ -25,8 +25,8 @@ struct Details
 /// Nothing for an area in which no pixel has a reading.
 std::optional<Details> detailsOf(const Area& area);
 
-/// How much of the area, 0 … 1, is strictly above or strictly below the threshold. Pixels without a
-/// reading do not count; 0 where there is no other.
+/// How much of the area, 0 … 1, is strictly above or strictly below the threshold (as asReading()).
+/// Pixels without a reading do not count; 0 where there is no other.
 double shareAbove(const Area& area, double threshold);
 double shareBelow(const Area& area, double threshold);
 

@@ -108,13 +108,15 @@ Histogram histogramOf(const Area& area, const Bins& bins)
 
 double shareBetween(const Area& area, double limit, double other)
 {
+    const double lower = asReading(std::min(limit, other));
+    const double upper = asReading(std::max(limit, other));
     int pixels = 0;
     int inside = 0;
     for (const Reading& reading : area.readings) {
         if (!reading.isNumber())
             continue;
         ++pixels;
-        if (reading.value >= std::min(limit, other) && reading.value <= std::max(limit, other))
+        if (reading.value >= lower && reading.value <= upper)
             ++inside;
     }
     return pixels > 0 ? double(inside) / pixels : 0.0;

@@ -53,8 +53,8 @@ struct Histogram
 
 Histogram histogramOf(const Area& area, const Bins& bins);
 
-/// How much of the area, 0 … 1, lies between two limits, both included, in either order. Pixels
-/// without a reading do not count; 0 where there is no other.
+/// How much of the area, 0 … 1, lies between two limits (as asReading()), both included, in either
+/// order. Pixels without a reading do not count; 0 where there is no other.
 double shareBetween(const Area& area, double limit, double other);
 
 } // namespace analysis

@@ -130,6 +130,8 @@ void ComparisonsTest::limits_data()
                                   << "8.000";
     QTest::newRow("a difference from a number") << "R1.average-20>=10.5"
                                                 << "10.500";
+    QTest::newRow("as it is told") << "R1.average-20.1>=10.4"
+                                   << "10.400";
     QTest::newRow("a difference that holds") << "R1-R0>8"
                                              << "";
     QTest::newRow("a negative limit") << "R0-R1<-7.9"

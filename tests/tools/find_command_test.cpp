@@ -32,7 +32,7 @@ private slots:
         QTest::addColumn<QString>("options");
         QTest::addColumn<QByteArray>("names");
         QTest::newRow("hotter") << "--above 30" << QByteArray("a.bmp\n");
-        QTest::newRow("just not hotter") << "--above 43.91" << QByteArray();
+        QTest::newRow("just not hotter") << "--above 43.9" << QByteArray();
         QTest::newRow("just hotter") << "--above 43.85" << QByteArray("a.bmp\n");
         QTest::newRow("both") << "--above 20" << QByteArray("a.bmp\ncold.bmp\n");
         QTest::newRow("colder") << "--below 0.1" << QByteArray("cold.bmp\n");

@@ -214,6 +214,16 @@ private slots:
         QCOMPARE(shareBelow(row({nothing}), 0.0), 0.0);
     }
 
+    /// 43.9 in single precision is more than 43.9, and 20.3 is less than 20.3.
+    void thresholdsAreAsPreciseAsReadings()
+    {
+        const Area area = row({double(43.9F), double(20.3F)});
+        QCOMPARE(shareAbove(area, 43.9), 0.0);
+        QCOMPARE(shareAbove(area, 20.3), 0.5);
+        QCOMPARE(shareBelow(area, 20.3), 0.0);
+        QCOMPARE(shareBelow(area, 43.9), 0.5);
+    }
+
     void figures()
     {
         const std::optional<Details> details = detailsOf(row({4, 2, 4, 9, 4, 5, 5, 7}));

@@ -220,6 +220,8 @@ private slots:
         QCOMPARE(shareBetween(area, -infinite, infinite), 1.0);
         QCOMPARE(shareBetween(area, nothing, 3), 0.0);
         QCOMPARE(shareBetween({}, 0, 9), 0.0);
+        // 43.9 in single precision is more than 43.9, and 20.3 is less than 20.3.
+        QCOMPARE(shareBetween(areaOf({double(20.3F), double(43.9F)}), 20.3, 43.9), 1.0);
         QCOMPARE(shareBetween(areaOf({nothing}), 0, 9), 0.0);
     }
 };
