@@ -1,5 +1,9 @@
 // SPDX-License-Identifier: MIT
+#include "analysis/photograph/area.h"
+#include "analysis/photograph/details.h"
 #include "analysis/windows/analysis_widget.h"
+#include "analysis/windows/tool_commands.h"
+#include "analysis/windows/viewed_photograph.h"
 #include "config/configuration_record.h"
 #include "overlay/my_label.h"
 #include "tests/analysis/pdf_reader.h"
@@ -106,6 +110,8 @@ private slots:
     void information();
     void toolTable_data() { addKinds(); }
     void toolTable();
+    void correctedReadings_data() { addKinds(); }
+    void correctedReadings();
     void report_data();
     void report();
     void reportInTheConfiguredLanguage_data();
@@ -154,6 +160,39 @@ void WindowTest::toolTable()
         QCOMPARE(tool["high"].toDouble(), opened.cell("tableWidget", row, 2).toDouble());
         QCOMPARE(tool["low"].toDouble(), opened.cell("tableWidget", row, 3).toDouble());
         QCOMPARE(tool["average"].toDouble(), opened.cell("tableWidget", row, 4).toDouble());
+    }
+}
+
+void WindowTest::correctedReadings()
+{
+    QFETCH(int, sample);
+    QFETCH(QString, unit);
+    Opened opened(testing::samples()[std::size_t(sample)]);
+    opened.show(unit);
+    analysis::ViewedPhotograph& viewed = opened.window.commands().viewed();
+    viewed.setCorrection(analysis::Correction{0.9, 0.5, 15});
+    QVERIFY(viewed.corrected());
+    const std::vector<analysis::Area> areas =
+        areasOf(viewed.tools(), *viewed.corrected(), viewed.unit().conversion);
+    const QString reflected = unit == QLatin1String("F") ? "59" : "15";
+    const QJsonArray tools =
+        thermaphoto({"measure", "--more", "--tools", opened.toolPath, "--unit", unit, "--format",
+                     "json", "--stored-emissivity", "0.9", "--emissivity", "0.5", "--reflected",
+                     reflected, opened.photographPath})
+            .json()[0]
+            .toObject()["tools"]
+            .toArray();
+    QCOMPARE(tools.size(), int(areas.size()));
+    for (int row = 0; row < tools.size(); ++row) {
+        const QJsonObject tool = tools[row].toObject();
+        const auto details = detailsOf(areas[std::size_t(row)]);
+        QVERIFY(details);
+        QCOMPARE(tool["name"].toString(), areas[std::size_t(row)].name);
+        QCOMPARE(QString::number(tool["high"].toDouble(), 'f', 1),
+                 analysis::oneDecimal(details->high.value));
+        QCOMPARE(QString::number(tool["median"].toDouble(), 'f', 3),
+                 analysis::threeDecimals(details->median));
+        QVERIFY(viewed.correctionName().contains("0.90 → 0.50"));
     }
 }
 
