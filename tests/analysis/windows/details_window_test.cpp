@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/analysis/windows/details_test.h"
 #include "tests/support/accessible.h"
+#include "tests/support/paint_counter.h"
 
 #include <QClipboard>
 #include <QMimeData>
@@ -154,6 +155,15 @@ private slots:
         QTest::keyClick(details(), Qt::Key_Escape);
         QTRY_VERIFY(!details());
         QTRY_COMPARE(label().grab().toImage(), before);
+    }
+
+    void comesToRest()
+    {
+        openOnSmallRectangle();
+        const testing::PaintCounter paints(*details(), testing::PaintCounter::Of::WidgetAndParts);
+        const testing::PaintCounter picture(label());
+        QVERIFY(testing::comeToRest(paints));
+        QVERIFY(testing::comeToRest(picture));
     }
 
     void theNumbersAreCopied()

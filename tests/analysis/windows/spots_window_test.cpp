@@ -4,6 +4,7 @@
 #include "tests/analysis/windows/tool_keys_test.h"
 #include "tests/support/accessible.h"
 #include "tests/support/dialogs.h"
+#include "tests/support/paint_counter.h"
 
 #include <QClipboard>
 #include <QFile>
@@ -155,6 +156,15 @@ private slots:
         part<QSpinBox>("count")->setValue(1);
         part<QPushButton>("place")->click();
         QCOMPARE(overlay::countOf(window->commands().state().tools), 999);
+    }
+
+    void comesToRest()
+    {
+        openOn(spotted());
+        const testing::PaintCounter paints(*spots(), testing::PaintCounter::Of::WidgetAndParts);
+        const testing::PaintCounter picture(label());
+        QVERIFY(testing::comeToRest(paints));
+        QVERIFY(testing::comeToRest(picture));
     }
 
     void areCopied()
