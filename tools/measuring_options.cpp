@@ -60,7 +60,7 @@ std::vector<analysis::Area> MeasuredPhotograph::areas(const Measuring& measuring
     if (!measuring.isWhole)
         return areasOf(measuring.tools, temperatures, shown.conversion);
     analysis::Area picture = wholePicture(temperatures, shown.conversion);
-    picture.name = QStringLiteral("picture");
+    picture.name = QLatin1String(analysis::pictureInFiles);
     return {picture};
 }
 

@@ -63,6 +63,8 @@ Area areaOf(const Tool& tool, const Temperatures& temperatures, Conversion conve
 std::vector<Area> areasOf(const overlay::Tools& tools, const Temperatures& temperatures,
                           Conversion conversion);
 
+/// The name of the whole picture in files and on the command line.
+constexpr const char* pictureInFiles = "picture";
 Area wholePicture(const Temperatures& temperatures, Conversion conversion);
 
 } // namespace analysis

@@ -42,11 +42,6 @@ QSpinBox* numberBox(const char* name, int first, int last, int value)
     return box;
 }
 
-QString exactly(double value)
-{
-    return QString::number(value, 'f', 3);
-}
-
 void addLine(QGridLayout& grid, const QString& caption, QWidget* widget)
 {
     auto* label = new QLabel(caption);
@@ -239,18 +234,19 @@ void SpotsWindow::placePoints()
 /// As `thermaphoto spots` prints them; corrected readings are a column more.
 void SpotsWindow::save()
 {
+    const QString area = m_area->tool().isEmpty() ? QLatin1String(pictureInFiles) : m_area->tool();
     plots::Table table;
     for (const char* caption : {"file", "unit", "name", "type", "x", "y", "temperature"})
         table.captions.append(QLatin1String(caption));
     if (m_corrected)
         table.captions.append(QStringLiteral("corrected"));
     for (const Spot& spot : m_spots) {
-        table.rows.push_back({viewed().name(), letterOf(viewed().unit().unit), m_area->tool(),
+        table.rows.push_back({viewed().name(), letterOf(viewed().unit().unit), area,
                               spot.isHot ? QStringLiteral("hot") : QStringLiteral("cold"),
                               QString::number(spot.reading.x), QString::number(spot.reading.y),
-                              exactly(spot.reading.value)});
+                              threeDecimals(spot.reading.value)});
         if (m_corrected)
-            table.rows.back().append(correctedText(spot, exactly));
+            table.rows.back().append(correctedText(spot, threeDecimals));
     }
     ViewExport::saveTable(plots::csvOf(table), tr("保存热点和冷点"),
                           exportName(viewed().name(), QStringLiteral("spots.csv")), page().window(),

@@ -7,12 +7,13 @@
 #include "analysis/windows/tool_commands.h"
 #include "overlay/my_label.h"
 #include "plots/plot_view.h"
-#include "tests/support/parts.h"
+#include "tests/support/dialogs.h"
 #include "tests/support/test_run.h"
 #include "tests/tools/thermaphoto.h"
 
 #include <QComboBox>
 #include <QJsonObject>
+#include <QPushButton>
 #include <QTableWidget>
 
 #include <cmath>
@@ -87,6 +88,7 @@ private slots:
     void profile();
     void histogram();
     void spots();
+    void savedSpots();
 };
 
 void LookingTest::init()
@@ -182,6 +184,17 @@ void LookingTest::spots()
         QCOMPARE(cell(3), QString::number(spot["y"].toInt()));
         QVERIFY(isShownAs(spot["temperature"].toDouble(), cell(4)));
     }
+}
+
+/// Byte for byte.
+void LookingTest::savedSpots()
+{
+    testing::part<QPushButton>(&opened<analysis::SpotsWindow>(), "save")->click();
+    testing::choose(*window->findChild<QFileDialog*>(), folder / "spots.csv");
+    const testing::Ended ended =
+        thermaphoto({"spots", "--format", "csv", "--unit", unit, "a.bmp"}, folder.path());
+    QVERIFY(ended.output.count('\n') > 2);
+    QCOMPARE(folder.read("spots.csv"), ended.output);
 }
 
 int main(int argc, char** argv)

@@ -195,8 +195,8 @@ private slots:
         QFile file(path);
         QVERIFY(file.open(QIODevice::ReadOnly));
         QCOMPARE(file.readAll(), QByteArray("file,unit,name,type,x,y,temperature\n"
-                                            "shot.bmp,C,,hot,50,60,250.000\n"
-                                            "shot.bmp,C,,hot,150,200,240.000\n"));
+                                            "shot.bmp,C,picture,hot,50,60,250.000\n"
+                                            "shot.bmp,C,picture,hot,150,200,240.000\n"));
     }
 
     void correctedReadingsStandBeside()
@@ -214,7 +214,7 @@ private slots:
         QVERIFY(file.open(QIODevice::ReadOnly));
         QVERIFY(file.readLine().endsWith(",temperature,corrected\n"));
         const QByteArrayList saved = file.readLine().trimmed().split(',');
-        QCOMPARE(saved.mid(0, 7).join(','), QByteArray("shot.bmp,C,,hot,119,159,60.000"));
+        QCOMPARE(saved.mid(0, 7).join(','), QByteArray("shot.bmp,C,picture,hot,119,159,60.000"));
         QVERIFY(std::abs(saved.at(7).toDouble() - 78.8) < 0.05);
     }
 
