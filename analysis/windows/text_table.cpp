@@ -28,8 +28,8 @@ void TextTable::setTexts(const QStringList& captions, const TextRows& rows)
         for (int column = 0; column < columnCount(); ++column) {
             if (!item(row, column)) {
                 auto* made = new QTableWidgetItem;
-                made->setTextAlignment((column == 0 ? Qt::AlignLeft : Qt::AlignRight) |
-                                       Qt::AlignVCenter);
+                const Qt::Alignment side = column == 0 ? Qt::AlignLeft : Qt::AlignRight;
+                made->setTextAlignment(int(side | Qt::AlignVCenter));
                 setItem(row, column, made);
             }
             item(row, column)->setText(texts.value(column));
