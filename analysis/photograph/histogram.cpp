@@ -81,13 +81,15 @@ std::optional<Bins> suitingBins(const Area& area, int most)
     const std::optional<Details> details = detailsOf(area);
     if (!details || most < 2)
         return std::nullopt;
-    for (double power = finest;; power *= 10.0) {
+    double power = finest;
+    while (true) {
         for (const double digit : {1.0, 2.0, 5.0}) {
             const std::optional<Bins> bins =
                 onMultiples(details->low.value, details->high.value, digit * power);
             if (bins && bins->count <= most)
                 return bins;
         }
+        power *= 10.0;
     }
 }
 
