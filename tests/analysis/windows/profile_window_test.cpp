@@ -122,8 +122,14 @@ private slots:
         QVERIFY(changed > 0);
         plot().setCursor(std::optional<plots::Place>());
         QVERIFY(!isMarking());
-        plot().setCursor(plots::Place{1, 5});
+        const QImage unmarked = label().grab().toImage();
+        plot().setCursor(plots::Place{1, 5}); // of L1: (105, 84)
         QVERIFY(isMarking());
+        const QImage marked = label().grab().toImage();
+        changed = 0;
+        for (int dx = -8; dx <= 8; ++dx)
+            changed += marked.pixel(at(105 + dx, 84)) != unmarked.pixel(at(105 + dx, 84)) ? 1 : 0;
+        QVERIFY(changed > 0);
         shownWindow<ProfileWindow>()->close();
         QTRY_VERIFY(!shownWindow<ProfileWindow>());
         QVERIFY(!isMarking());
