@@ -91,7 +91,7 @@ private slots:
     void theReflectedTemperatureIsInTheShownUnit()
     {
         const Across folder(tools, photographBytes(sixty(1)));
-        const auto high = [&](const QString& options) {
+        const auto high = [&](const QString& options) -> QJsonValue {
             return firstRow(
                 folder.run("measure --tools tools.json --format json --emissivity 0.6 " + options +
                            " a.bmp"),
