@@ -171,11 +171,14 @@ private slots:
         shot.maximum10 = 600;
         const Across folder(R"({"points": [[5, 5]], "rectangles": [[0, 0, 19, 0]]})",
                             photographBytes(shot));
-        QCOMPARE(
+        const QList<QByteArray> lines =
             folder.run("measure --tools tools.json --more --format csv --emissivity 0.3 a.bmp")
-                .output.split('\n')
-                .at(1),
+                .output.split('\n');
+        QCOMPARE(
+            lines.at(1),
             QByteArray("a.bmp,C,P0,point,nan,nan,nan,nan,nan,nan,nan,nan,nan,0,0.30,0.95,20.0"));
+        QVERIFY2(lines.at(2).startsWith("a.bmp,C,R0,rectangle,121.4,121.4,121.4,"),
+                 lines.at(2).constData());
     }
 
     void aPhotographThatCannotBeCorrectedFails_data()
