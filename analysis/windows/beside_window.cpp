@@ -45,6 +45,7 @@ void BesideWindow::appear()
     if (!screen)
         screen = QGuiApplication::primaryScreen();
     const QRect room = screen->availableGeometry();
+    take(); // tells how large it wants to be
     adjustSize();
     // A spin box waits in its context menu; nothing may end below that.
     for (QAbstractSpinBox* box : findChildren<QAbstractSpinBox*>())

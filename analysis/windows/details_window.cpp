@@ -96,7 +96,6 @@ DetailsWindow::DetailsWindow(ViewedPhotograph& viewed)
     grid->addWidget(copy, 5, 3, Qt::AlignRight);
     grid->setRowStretch(1, 1);
     m_table->setFocus();
-    refresh(); // tells how large the table is
 }
 
 /// At first what halves the picture, roughly.

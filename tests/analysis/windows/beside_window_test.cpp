@@ -40,6 +40,18 @@ public:
     using CountWindow::CountWindow;
 };
 
+/// Knows only with the photograph how wide it has to be.
+class WideWindow : public CountWindow
+{
+    Q_OBJECT
+
+public:
+    using CountWindow::CountWindow;
+
+protected:
+    void refresh() override { setMinimumWidth(500); }
+};
+
 } // namespace
 
 /// What all windows beside the picture have in common.
@@ -129,6 +141,9 @@ private slots:
         const QRect room = window->screen()->availableGeometry();
         window->move(room.right() - 50, room.bottom() - 50);
         QVERIFY(room.contains(open<CountWindow>().geometry().topLeft()));
+        const WideWindow& wide = open<WideWindow>();
+        QVERIFY(wide.width() >= 500);
+        QVERIFY(room.contains(wide.geometry().topRight()));
     }
 
 private:
