@@ -5,35 +5,6 @@
 #include <array>
 
 namespace plots {
-namespace {
-
-QString quotedIfNeeded(QString field)
-{
-    for (const QChar& special : QStringLiteral(",\"\r\n")) {
-        if (field.contains(special))
-            return QLatin1Char('"') + field.replace(QLatin1Char('"'), QLatin1String("\"\"")) +
-                   QLatin1Char('"');
-    }
-    return field;
-}
-
-QString csvLine(const QStringList& row)
-{
-    QStringList fields;
-    for (const QString& field : row)
-        fields.append(quotedIfNeeded(field));
-    return fields.join(QLatin1Char(',')) + QLatin1Char('\n');
-}
-
-QString tabLine(const QStringList& row)
-{
-    QStringList fields;
-    for (const QString& field : row)
-        fields.append(field.simplified());
-    return fields.join(QLatin1Char('\t')) + QLatin1Char('\n');
-}
-
-} // namespace
 
 Limits moved(const Limits& limits, Limit which, double value)
 {
@@ -65,18 +36,17 @@ QString numberText(double value, int decimals)
 
 QByteArray csvOf(const Table& table)
 {
-    QString text = csvLine(table.captions);
-    for (const QStringList& row : table.rows)
-        text += csvLine(row);
+    QString text;
+    for (const QStringList& row : rowsOf(table))
+        text += files::csvLine(row);
     return text.toUtf8();
 }
 
-QString tabSeparated(const Table& table)
+files::TextRows rowsOf(const Table& table)
 {
-    QString text = tabLine(table.captions);
-    for (const QStringList& row : table.rows)
-        text += tabLine(row);
-    return text;
+    files::TextRows rows{table.captions};
+    rows.insert(rows.end(), table.rows.begin(), table.rows.end());
+    return rows;
 }
 
 } // namespace plots

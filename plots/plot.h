@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "files/table_text.h"
+
 #include <QColor>
 #include <QPointF>
 #include <QString>
@@ -109,7 +111,7 @@ QString numberText(double value, int decimals);
 /// UTF-8.
 QByteArray csvOf(const Table& table);
 
-/// The same for spreadsheets on the clipboard. Line ends and tabs within a text become spaces.
-QString tabSeparated(const Table& table);
+/// The captions, then the rows.
+files::TextRows rowsOf(const Table& table);
 
 } // namespace plots

@@ -167,7 +167,7 @@ void PlotView::copy()
 {
     auto* contents = new QMimeData;
     contents->setImageData(pictureOf(*m_chart));
-    contents->setText(tabSeparated(plot().table));
+    contents->setText(files::tabSeparated(rowsOf(plot().table)));
     QGuiApplication::clipboard()->setMimeData(contents);
 }
 

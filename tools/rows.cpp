@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tools/rows.h"
 
+#include "files/table_text.h"
 #include "platform/console.h"
 #include "tools/command_line.h"
 #include "tools/photograph_run.h"
@@ -9,7 +10,6 @@
 #include <QJsonArray>
 #include <QJsonObject>
 
-#include <algorithm>
 #include <cmath>
 
 namespace tools {
@@ -20,19 +20,6 @@ QJsonValue number(const QString& cell)
 {
     const double value = cell.toDouble();
     return std::isfinite(value) ? QJsonValue(value) : QJsonValue();
-}
-
-/// A field as spreadsheets take it: quoted where it must be.
-QString csvField(QString text)
-{
-    constexpr const char* special = ",\"\r\n";
-    const bool isPlain = std::none_of(text.begin(), text.end(), [](QChar character) {
-        return QLatin1String(special).contains(character);
-    });
-    if (isPlain)
-        return text;
-    return QLatin1Char('"') + text.replace(QLatin1Char('"'), QLatin1String("\"\"")) +
-           QLatin1Char('"');
 }
 
 QStringList namesOf(const std::vector<Column>& columns)
@@ -126,7 +113,7 @@ QByteArray RowPrinter::json(const QString& file, const QString& unit,
 QByteArray RowPrinter::csv(const QString& file, const QString& unit,
                            const std::vector<Row>& rows) const
 {
-    const QString begin = csvField(file) + QLatin1Char(',') + unit + QLatin1Char(',');
+    const QString begin = files::csvField(file) + QLatin1Char(',') + unit + QLatin1Char(',');
     QString lines;
     for (const Row& row : rows)
         lines += begin + row.join(QLatin1Char(',')) + QLatin1Char('\n');

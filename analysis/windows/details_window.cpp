@@ -197,7 +197,7 @@ void DetailsWindow::showNumbers(const std::vector<Measured>& sets)
 {
     const double threshold = m_threshold->value();
     QStringList header{tr("项目")};
-    TextRows rows;
+    files::TextRows rows;
     for (const QString& caption : DetailsText::captions(signOf(viewed().unit().unit), threshold))
         rows.push_back({caption});
     for (const Measured& set : sets) {

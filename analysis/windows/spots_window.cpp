@@ -166,7 +166,7 @@ void SpotsWindow::showRows()
                          tr("温度 (%1)").arg(signOf(viewed().unit().unit))};
     if (m_corrected)
         captions.append(viewed().correctionName());
-    TextRows rows;
+    files::TextRows rows;
     for (const Spot& spot : m_spots) {
         rows.push_back({spot.isHot ? tr("热点") : tr("冷点"), QString::number(spot.rank),
                         QString::number(spot.reading.x), QString::number(spot.reading.y),

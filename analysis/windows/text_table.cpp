@@ -18,7 +18,7 @@ TextTable::TextTable(const QString& name)
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
 }
 
-void TextTable::setTexts(const QStringList& captions, const TextRows& rows)
+void TextTable::setTexts(const QStringList& captions, const files::TextRows& rows)
 {
     setColumnCount(captions.size());
     setHorizontalHeaderLabels(captions);
@@ -37,9 +37,9 @@ void TextTable::setTexts(const QStringList& captions, const TextRows& rows)
     }
 }
 
-TextRows TextTable::texts() const
+files::TextRows TextTable::texts() const
 {
-    TextRows rows{QStringList()};
+    files::TextRows rows{QStringList()};
     for (int column = 0; column < columnCount(); ++column)
         rows.front().append(horizontalHeaderItem(column)->text());
     for (int row = 0; row < rowCount(); ++row) {

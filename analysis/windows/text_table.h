@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "analysis/export/table_text.h"
+#include "files/table_text.h"
 
 #include <QTableWidget>
 
@@ -19,9 +19,9 @@ public:
     explicit TextTable(const QString& name);
 
     /// Replaces all texts. The current row stays the current one if it still exists.
-    void setTexts(const QStringList& captions, const TextRows& rows);
+    void setTexts(const QStringList& captions, const files::TextRows& rows);
     /// With the captions as first row.
-    TextRows texts() const;
+    files::TextRows texts() const;
     /// To the clipboard, for spreadsheets and documents.
     void copy() const;
 };

@@ -81,11 +81,11 @@ void ViewExport::copyPicture(const ShownPicture& shown, const overlay::Geometry&
         QGuiApplication::clipboard()->setImage(picture);
 }
 
-void ViewExport::copyTable(const TextRows& rows, bool header)
+void ViewExport::copyTable(const files::TextRows& rows, bool header)
 {
     auto* data = new QMimeData;
-    data->setText(tabSeparated(rows));
-    data->setHtml(htmlTable(rows, header));
+    data->setText(files::tabSeparated(rows));
+    data->setHtml(files::htmlTable(rows, header));
     QGuiApplication::clipboard()->setMimeData(data);
 }
 

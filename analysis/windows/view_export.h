@@ -3,7 +3,7 @@
 
 #include "analysis/export/photograph_export.h"
 #include "analysis/export/picture_export.h"
-#include "analysis/export/table_text.h"
+#include "files/table_text.h"
 
 #include <QCoreApplication>
 #include <QString>
@@ -26,7 +26,7 @@ public:
 
     /// Rows of a table, as text for spreadsheets and as a table for documents. With `header`, the
     /// first row holds the captions.
-    static void copyTable(const analysis::TextRows& rows, bool header);
+    static void copyTable(const files::TextRows& rows, bool header);
 
     /// Asks how and where, then writes a PNG file. `photograph` is the name or path of the
     /// photograph's file, after which the new one is called.

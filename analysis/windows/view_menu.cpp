@@ -44,18 +44,18 @@ QStringList textsOf(const ToolCells& cells)
     return QStringList(cells.begin(), cells.end());
 }
 
-TextRows wholeTable(const Form& form)
+files::TextRows wholeTable(const Form& form)
 {
-    TextRows rows{textsOf(toolCaptions())};
+    files::TextRows rows{textsOf(toolCaptions())};
     for (const ToolCells& tool : shownTools(*form.tableWidget))
         rows.push_back(textsOf(tool));
     return rows;
 }
 
-TextRows chosenRows(const Form& form)
+files::TextRows chosenRows(const Form& form)
 {
     const std::vector<ToolCells> all = shownTools(*form.tableWidget);
-    TextRows rows;
+    files::TextRows rows;
     for (const QModelIndex& index : form.tableWidget->selectionModel()->selectedRows())
         rows.push_back(textsOf(all[std::size_t(index.row())]));
     return rows;

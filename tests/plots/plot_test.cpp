@@ -17,7 +17,8 @@ private slots:
                           {{QStringLiteral("L0"), QStringLiteral("36.5")},
                            {QStringLiteral("热点"), QStringLiteral("-1.0")}}};
         QCOMPARE(csvOf(table), QByteArray("tool,value\nL0,36.5\n\xe7\x83\xad\xe7\x82\xb9,-1.0\n"));
-        QCOMPARE(tabSeparated(table), QStringLiteral("tool\tvalue\nL0\t36.5\n热点\t-1.0\n"));
+        QCOMPARE(files::tabSeparated(rowsOf(table)),
+                 QStringLiteral("tool\tvalue\nL0\t36.5\n热点\t-1.0\n"));
     }
 
     /// Names come from files of strangers.
@@ -26,7 +27,8 @@ private slots:
         const Table table{{QStringLiteral("a,b")},
                           {{QStringLiteral("say \"no\"")}, {QStringLiteral("two\nlines\tmore")}}};
         QCOMPARE(csvOf(table), QByteArray("\"a,b\"\n\"say \"\"no\"\"\"\n\"two\nlines\tmore\"\n"));
-        QCOMPARE(tabSeparated(table), QStringLiteral("a,b\nsay \"no\"\ntwo lines more\n"));
+        QCOMPARE(files::tabSeparated(rowsOf(table)),
+                 QStringLiteral("a,b\nsay \"no\"\ntwo lines more\n"));
     }
 
     void anEmptyTableIsAnEmptyLine() { QCOMPARE(csvOf({}), QByteArray("\n")); }

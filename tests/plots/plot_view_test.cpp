@@ -259,7 +259,7 @@ private slots:
     {
         press(Qt::Key_C, Qt::ControlModifier);
         const QMimeData* data = QGuiApplication::clipboard()->mimeData();
-        QCOMPARE(data->text(), tabSeparated(view->plot().table));
+        QCOMPARE(data->text(), files::tabSeparated(plots::rowsOf(view->plot().table)));
         const QImage copied = qvariant_cast<QImage>(data->imageData());
         QVERIFY(copied.width() >= 2 * view->width() - 2);
     }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "analysis/export/table_text.h"
 #include "analysis/windows/picture_dialog.h"
 #include "analysis/windows/view_export.h"
 #include "dialogs/dialogs.h"
+#include "files/table_text.h"
 #include "overlay/tool_coordinates.h"
 #include "tests/support/dialogs.h"
 #include "tests/support/folder.h"
@@ -100,15 +100,15 @@ private slots:
         const auto textsOf = [](const ToolCells& cells) {
             return QStringList(cells.begin(), cells.end());
         };
-        TextRows rows{textsOf(toolCaptions())};
+        files::TextRows rows{textsOf(toolCaptions())};
         for (const ToolCells& row : shown().measured)
             rows.push_back(textsOf(row));
         ViewExport::copyTable(rows, true);
         const QMimeData* data = QGuiApplication::clipboard()->mimeData();
         QCOMPARE(data->text().count(QLatin1Char('\n')), 5);
         QVERIFY(data->text().startsWith(QStringLiteral("名称\t类型\t高\t低\t平均\nP0\t点\t")));
-        QCOMPARE(data->text(), tabSeparated(rows));
-        QCOMPARE(data->html(), htmlTable(rows, true));
+        QCOMPARE(data->text(), files::tabSeparated(rows));
+        QCOMPARE(data->html(), files::htmlTable(rows, true));
     }
 
     void theDialogTellsTheSizeAndWhatIsChosen()

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "analysis/export/table_text.h"
+#include "files/table_text.h"
 #include "tests/support/test_run.h"
 
 class TableTextTest : public QObject
@@ -10,20 +10,20 @@ private slots:
     void aRowOnEachLine()
     {
         const QString text =
-            analysis::tabSeparated({QStringList({"Name", "Type", "High", "Low", "Average"}),
-                                    QStringList({"P0", "点", "1.0", "-0.0", "2.5"})});
+            files::tabSeparated({QStringList({"Name", "Type", "High", "Low", "Average"}),
+                                 QStringList({"P0", "点", "1.0", "-0.0", "2.5"})});
         QCOMPARE(text, QStringLiteral("Name\tType\tHigh\tLow\tAverage\nP0\t点\t1.0\t-0.0\t2.5\n"));
     }
 
     void aTextStaysInItsCell()
     {
-        QCOMPARE(analysis::tabSeparated({QStringList({"a\tb", "c\nd", "e\r\nf", "", " g"})}),
+        QCOMPARE(files::tabSeparated({QStringList({"a\tb", "c\nd", "e\r\nf", "", " g"})}),
                  QStringLiteral("a b\tc d\te f\t\tg\n"));
     }
 
     void aTableForDocuments()
     {
-        const QString html = analysis::htmlTable(
+        const QString html = files::htmlTable(
             {QStringList({"a", "b", "c", "d", "e"}), QStringList({"<b>", "&", "\"", "x", "点"})},
             true);
         QCOMPARE(html,
@@ -35,11 +35,11 @@ private slots:
 
     void rowsWithoutCaptions()
     {
-        const QString html = analysis::htmlTable({QStringList({"a", "b", "c", "d", "e"})}, false);
+        const QString html = files::htmlTable({QStringList({"a", "b", "c", "d", "e"})}, false);
         QVERIFY(!html.contains(QStringLiteral("<th>")));
         QCOMPARE(html.count(QStringLiteral("<td>")), 5);
-        QCOMPARE(analysis::htmlTable({}, true).count(QStringLiteral("<tr>")), 0);
-        QCOMPARE(analysis::tabSeparated({}), QString());
+        QCOMPARE(files::htmlTable({}, true).count(QStringLiteral("<tr>")), 0);
+        QCOMPARE(files::tabSeparated({}), QString());
     }
 };
 

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "analysis/export/table_text.h"
+#include "files/table_text.h"
 
-namespace analysis {
+#include <algorithm>
+
+namespace files {
 
 QString tabSeparated(const TextRows& rows)
 {
@@ -33,4 +35,23 @@ QString htmlTable(const TextRows& rows, bool header)
     return html + QStringLiteral("</table>\n");
 }
 
-} // namespace analysis
+QString csvField(QString text)
+{
+    constexpr QLatin1String special(",\"\r\n");
+    const bool isPlain = std::none_of(text.begin(), text.end(),
+                                      [&](QChar character) { return special.contains(character); });
+    if (isPlain)
+        return text;
+    return QLatin1Char('"') + text.replace(QLatin1Char('"'), QLatin1String("\"\"")) +
+           QLatin1Char('"');
+}
+
+QString csvLine(const QStringList& row)
+{
+    QStringList fields;
+    for (const QString& field : row)
+        fields.append(csvField(field));
+    return fields.join(QLatin1Char(',')) + QLatin1Char('\n');
+}
+
+} // namespace files
