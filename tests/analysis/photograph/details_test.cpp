@@ -157,12 +157,13 @@ private slots:
 
     void randomAreasAgreeWithASecondReckoning()
     {
-        for (const int digits : {1, 1000000}) {
-            std::uniform_int_distribution<int> tenths(-400 * digits, 10000 * digits);
+        for (const qint64 digits : {1, 1000000}) {
+            std::uniform_int_distribution<qint64> tenths(-400 * digits, 10000 * digits);
             for (int round = 0; round < 60; ++round) {
                 Area area;
                 for (int i = 0; i <= round * round; ++i)
-                    area.readings.push_back({i % 239, i / 239, tenths(random) / (10.0 * digits)});
+                    area.readings.push_back(
+                        {i % 239, i / 239, double(tenths(random)) / (10.0 * double(digits))});
                 std::shuffle(area.readings.begin(), area.readings.end(), random);
                 QVERIFY2(agrees(area), qPrintable(QString::number(round)));
             }
