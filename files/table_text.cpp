@@ -37,7 +37,7 @@ QString htmlTable(const TextRows& rows, bool header)
 
 QString csvField(QString text)
 {
-    constexpr QLatin1String special(",\"\r\n");
+    const QLatin1String special(",\"\r\n");
     const bool isPlain = std::none_of(text.begin(), text.end(),
                                       [&](QChar character) { return special.contains(character); });
     if (isPlain)
